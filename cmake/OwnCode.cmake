@@ -1,0 +1,21 @@
+# What every target of our own code is compiled with.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+# The project's root is an include folder of our own code, so that an include names its room:
+# #include "matching/matchColumns.h".
+function(columnimport_own_code target)
+    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_compile_options(${target} PRIVATE
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+    if(COLUMNIMPORT_SANITIZERS)
+        target_compile_options(${target} PRIVATE
+            -fsanitize=${COLUMNIMPORT_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PRIVATE -fsanitize=${COLUMNIMPORT_SANITIZERS})
+    endif()
+endfunction()

@@ -1,0 +1,76 @@
+# The library that a host loads: the dialogs, their drag and drop and the door to them, with the
+# matcher and the text tools linked in.
+
+include(GenerateExportHeader)
+include(CMakePackageConfigHelpers)
+find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
+
+if(WIN32)
+    set(platform msw)
+else()
+    set(platform gtk)
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
+endif()
+
+# The toolkit's headers are not ours to warn about.
+add_library(columnimport_toolkit INTERFACE)
+target_include_directories(columnimport_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+target_compile_definitions(columnimport_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
+target_compile_options(columnimport_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
+target_link_libraries(columnimport_toolkit INTERFACE ${wxWidgets_LIBRARIES})
+
+add_library(columnimport SHARED
+    delimited/getFilePreview.cpp
+    delimited/loadHeader.cpp
+    dialogs/${platform}/SmallControls.cpp
+    dialogs/HeaderSection.cpp
+    dialogs/MatchingSection.cpp
+    dialogs/NameText.cpp
+    dialogs/matchTexts.cpp
+    dialogs/wxImportCSVDialog.cpp
+    dialogs/wxImportODBCDialog.cpp
+    dragdrop/${platform}/RowMarks.cpp
+    dragdrop/ListBoxSource.cpp
+    dragdrop/ListCtrlSource.cpp
+    dragdrop/TextDropTarget.cpp
+    dragdrop/dragText.cpp
+    host/${platform}/NativeHost.cpp
+    host/ModalRun.cpp
+    host/wxImportCSVDialogPeer.cpp)
+add_library(columnimport::columnimport ALIAS columnimport)
+generate_export_header(columnimport)
+columnimport_own_code(columnimport)
+set_target_properties(columnimport PROPERTIES
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR}
+    LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+target_compile_features(columnimport PUBLIC cxx_std_17)
+target_link_libraries(columnimport PRIVATE
+    columnimport_matching columnimport_delimited columnimport_toolkit)
+if(NOT WIN32)
+    target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
+    target_link_options(columnimport PRIVATE
+        -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map -Wl,--no-undefined)
+endif()
+
+set(public_headers
+    dialogs/wxImportCSVDialog.h
+    dialogs/wxImportODBCDialog.h
+    host/${platform}/HostWindow.h
+    host/wxImportCSVDialogPeer.h)
+target_include_directories(columnimport
+    PRIVATE dragdrop/${platform}
+    PUBLIC
+        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host;${PROJECT_SOURCE_DIR}/host/${platform};${PROJECT_SOURCE_DIR}/dialogs;${CMAKE_CURRENT_BINARY_DIR}>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/columnimport>")
+
+install(TARGETS columnimport EXPORT columnimportTargets)
+install(FILES ${public_headers} ${CMAKE_CURRENT_BINARY_DIR}/columnimport_export.h
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/columnimport)
+install(EXPORT columnimportTargets NAMESPACE columnimport::
+        FILE columnimportConfig.cmake
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)
+write_basic_package_version_file(columnimportConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/columnimportConfigVersion.cmake
+        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)

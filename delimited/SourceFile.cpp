@@ -1,0 +1,29 @@
+#include "delimited/SourceFile.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace columnimport {
+
+SourceFile::SourceFile(const std::string &path) {
+    const std::filesystem::path file = std::filesystem::u8path(path);
+    std::error_code failure;
+    if (std::filesystem::is_regular_file(file, failure)) {
+        // The carriage returns are dropped in readLine: only one platform's text mode would.
+        m_stream.open(file, std::ios::in | std::ios::binary);
+    } else {
+        m_stream.setstate(std::ios::failbit);
+    }
+}
+
+std::string SourceFile::readLine() {
+    std::string line;
+    std::getline(m_stream, line);
+    const bool endedByLineFeed = m_stream.good();
+    if (endedByLineFeed && !line.empty() && line.back() == '\r') {
+        line.pop_back();
+    }
+    return line;
+}
+
+} // namespace columnimport

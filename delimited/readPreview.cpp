@@ -1,0 +1,17 @@
+#include "delimited/readPreview.h"
+
+#include "delimited/SourceFile.h"
+
+namespace columnimport {
+
+std::string readPreview(const std::string &path) {
+    std::string preview;
+    SourceFile file(path);
+    for (int line = 0; line < previewLines && !file.isAtEnd(); ++line) {
+        preview += file.readLine();
+        preview += '\n';
+    }
+    return preview;
+}
+
+} // namespace columnimport

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace columnimport {
+
+/// The number of lines that a preview holds at most.
+inline constexpr int previewLines = 10;
+
+/// The first ten lines of the file `path` (UTF-8) as raw bytes, each followed by one line feed.
+///
+/// A file that ends with a line feed before its tenth line gives one more, empty line; a file that
+/// can't be opened gives ten empty ones.
+std::string readPreview(const std::string &path);
+
+} // namespace columnimport

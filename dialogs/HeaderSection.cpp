@@ -1,0 +1,96 @@
+// The half of the dialog that only a delimited file needs: the preview of the file, and the options
+// that say how it is cut.
+
+#include "dialogs/wxImportCSVDialog.h"
+
+#include "delimited/readPreview.h"
+#include "dialogs/NameText.h"
+#include "dialogs/SmallControls.h"
+
+#include <wx/checkbox.h>
+#include <wx/image.h>
+#include <wx/sizer.h>
+#include <wx/statbox.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+using columnimport::toBytes;
+using columnimport::toText;
+
+namespace {
+
+/// Gives `text` the largest font, up to the usual size, at which `lines` lines fit into its height.
+void fitLines(wxStaticText &text, int lines) {
+    // Read once: a new font makes a static text take its best size until the next layout.
+    const int height = text.GetSize().GetHeight();
+    wxFont font = text.GetFont();
+    font.SetFamily(wxFONTFAMILY_TELETYPE);
+    text.SetFont(font);
+    while (lines * text.GetCharHeight() > height && font.GetPointSize() > 1) {
+        font.SetFractionalPointSize(font.GetFractionalPointSize() - 0.5);
+        text.SetFont(font);
+    }
+}
+
+/// A second time, the toolkit would complain of each handler that it has already.
+void initImageHandlersOnce() {
+    static const bool done = [] {
+        wxInitAllImageHandlers();
+        return true;
+    }();
+    static_cast<void>(done);
+}
+
+} // namespace
+
+void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
+    if (!m_firstLineHeader) {
+        m_useSavedMatches = false;
+    }
+
+    auto *options = new wxStaticBoxSizer(wxVERTICAL, this, "Options");
+    auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
+    auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, "File Preview");
+    initImageHandlersOnce();
+    sizer->Add(preview, wxSizerFlags(0).Border(wxALL, 10));
+
+    auto *label = new wxStaticText(options->GetStaticBox(), wxID_ANY,
+                                   "Field Delimiter ('S' for 'space' 'T' for 'tab')");
+    auto *delimiter =
+        new wxTextCtrl(options->GetStaticBox(), TXT_DELIMITER, toText(std::string(1, m_delimiter)),
+                       wxDefaultPosition, wxSize(25, 20));
+    delimiter->SetMaxLength(1);
+    columnimport::fitOneCharacter(*delimiter);
+    delimiterRow->Add(label);
+    delimiterRow->AddSpacer(10);
+    delimiterRow->Add(delimiter);
+
+    auto *firstLine =
+        new wxCheckBox(options->GetStaticBox(), CHECK_HEADER, "First Line contain title");
+    firstLine->SetValue(m_firstLineHeader);
+    options->Add(delimiterRow, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    sizer->Add(options, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, 10));
+
+    // The file's text is no caption: an ampersand in it is an ampersand.
+    auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW,
+                                  wxControl::EscapeMnemonics(toText(getFilePreview())),
+                                  wxDefaultPosition, wxSize(850, 125));
+    columnimport::cutLongLines(*text);
+    fitLines(*text, columnimport::previewLines);
+    preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
+
+    loadHeader();
+}
+
+void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
+    const auto *control = static_cast<wxTextCtrl *>(wxWindowBase::FindWindowById(TXT_DELIMITER));
+    const std::string typed = toBytes(control->GetValue());
+    if (typed.empty() || typed.front() == m_delimiter) {
+        return;
+    }
+    m_delimiter = typed.front();
+    loadHeader();
+    wxCommandEvent refresh(wxEVT_NULL, 0);
+    onCheckHeader(refresh);
+}

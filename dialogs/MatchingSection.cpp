@@ -1,0 +1,144 @@
+// The half of a dialog that both kinds of source share: the list of file columns, the match list
+// and what refreshes them.
+
+#include "dialogs/wxImportCSVDialog.h"
+
+#include "dialogs/NameText.h"
+#include "dialogs/arrow.xpm"
+#include "dialogs/matchTexts.h"
+#include "dragdrop/ListBoxSource.h"
+#include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/TextDropTarget.h"
+
+#include <cassert>
+
+#include <wx/bitmap.h>
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/sizer.h>
+#include <wx/statbmp.h>
+#include <wx/statbox.h>
+#include <wx/wupdlock.h>
+
+using columnimport::ListBoxSource;
+using columnimport::ListCtrlSource;
+using columnimport::TextDropTarget;
+using columnimport::toText;
+
+namespace {
+
+ListBoxSource &fileList() {
+    return *static_cast<ListBoxSource *>(
+        wxWindowBase::FindWindowById(wxImportCSVDialog::LISTBOX_FILE));
+}
+
+ListCtrlSource &matchList() {
+    return *static_cast<ListCtrlSource *>(
+        wxWindowBase::FindWindowById(wxImportCSVDialog::LISTBOX_MATCH));
+}
+
+/// The check box for the first line, or null: a table has none.
+wxCheckBox *firstLineBox() {
+    return static_cast<wxCheckBox *>(wxWindowBase::FindWindowById(wxImportCSVDialog::CHECK_HEADER));
+}
+
+void showFileColumns(const std::vector<std::string> &names) {
+    wxArrayString items;
+    items.reserve(names.size());
+    for (const std::string &name : names) {
+        items.push_back(toText(name));
+    }
+    if (!items.empty()) {
+        fileList().Append(items);
+    }
+}
+
+void showMatches(const std::vector<std::string> &matchTexts,
+                 const std::vector<std::string> &appColumns) {
+    assert(matchTexts.size() <= appColumns.size());
+    ListCtrlSource &list = matchList();
+    for (std::size_t index = 0; index < matchTexts.size(); ++index) {
+        const auto row = static_cast<long>(index);
+        list.InsertItem(row, toText(matchTexts[index]));
+        list.SetItem(row, wxImportCSVDialog::COLUMN_APP, toText(appColumns[index]), -1);
+    }
+}
+
+std::vector<std::string> positionalNames(std::size_t count) {
+    return columnimport::positionalMatchTexts(count, count);
+}
+
+} // namespace
+
+void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
+    auto *rematch = new wxButton(this, BTN_REMATCH, "Reset to Default");
+    auto *matching = new wxStaticBoxSizer(wxHORIZONTAL, this, "Column Matching");
+    auto *arrow = new wxStaticBitmap(matching->GetStaticBox(), wxID_ANY, wxBitmap(arrow_xpm));
+    auto *buttons = CreateStdDialogButtonSizer(wxOK | wxCANCEL);
+    auto *files = new ListBoxSource(matching->GetStaticBox(), LISTBOX_FILE, wxDefaultPosition,
+                                    wxSize(250, 450));
+    auto *matches = new ListCtrlSource(matching->GetStaticBox(), LISTBOX_MATCH, wxDefaultPosition,
+                                       wxSize(525, 450));
+
+    sizer->Add(rematch, wxSizerFlags(0).Align(wxALIGN_RIGHT).Border(wxLEFT | wxRIGHT, 25));
+    matching->Add(files, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    matching->Add(arrow, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    matching->Add(matches, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    matching->AddSpacer(20);
+    sizer->Add(matching, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, 10));
+    sizer->AddSpacer(20);
+    sizer->Add(buttons, wxSizerFlags(0).Align(wxALIGN_RIGHT));
+
+    matches->InsertColumn(COLUMN_MATCH, "Matching", wxLIST_FORMAT_LEFT, 245);
+    matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, 245);
+
+    m_matchDropTarget = new TextDropTarget(matches->GetId());
+    matches->SetDropTarget(m_matchDropTarget);
+    m_fileDropTarget = new TextDropTarget(files->GetId());
+    files->SetDropTarget(m_fileDropTarget);
+    m_fileDropTarget->setMatchList(matches);
+
+    SetSizerAndFit(sizer, true);
+    wxCommandEvent refresh(wxEVT_NULL, 0);
+    onCheckHeader(refresh);
+}
+
+void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
+    const wxCheckBox *firstLine = firstLineBox();
+    const wxWindowUpdateLocker fileListLock(&fileList());
+    const wxWindowUpdateLocker matchListLock(&matchList());
+    fileList().Clear();
+    matchList().DeleteAllItems();
+    if (firstLine != nullptr) {
+        m_firstLineHeader = firstLine->IsChecked();
+    }
+
+    if (!m_firstLineHeader) {
+        showFileColumns(positionalNames(m_fileSchema.size()));
+        showMatches(columnimport::positionalMatchTexts(m_appColumns.size(), m_fileSchema.size()),
+                    m_appColumns);
+    } else if (m_useSavedMatches) {
+        showFileColumns(m_fileSchema);
+        columnimport::dropUnknownMatches(m_savedMatches, m_fileSchema);
+        showMatches(m_savedMatches, m_appColumns);
+    } else {
+        showFileColumns(m_fileSchema);
+        showMatches(columnimport::proposedMatchTexts(m_appColumns, m_fileSchema), m_appColumns);
+    }
+    applyListBoxMatchFont();
+}
+
+void wxImportCSVDialog::applyListBoxMatchFont() {
+    ListCtrlSource &list = matchList();
+    for (int row = 0; row < list.GetItemCount(); ++row) {
+        list.applyMatchFont(row);
+    }
+}
+
+void wxImportCSVDialog::onBtnRematch(wxCommandEvent &event) {
+    if (wxCheckBox *firstLine = firstLineBox()) {
+        firstLine->SetValue(true);
+    }
+    m_useSavedMatches = false;
+    onCheckHeader(event);
+}

@@ -1,0 +1,74 @@
+#include "dialogs/wxImportCSVDialog.h"
+
+#include "dialogs/matchTexts.h"
+#include "dragdrop/ListCtrlSource.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/sizer.h>
+
+wxBEGIN_EVENT_TABLE(wxImportCSVDialog, wxDialog)
+    EVT_CHECKBOX(CHECK_HEADER, wxImportCSVDialog::onCheckHeader)
+        EVT_TEXT(TXT_DELIMITER, wxImportCSVDialog::onTxtDelimiter)
+            EVT_BUTTON(BTN_REMATCH, wxImportCSVDialog::onBtnRematch) wxEND_EVENT_TABLE()
+
+                wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
+                                                     std::vector<std::string> appColumns,
+                                                     std::string fileName, bool useSavedMatches,
+                                                     std::vector<std::string> savedMatches,
+                                                     char delimiter, bool firstLineHeader)
+    : wxDialog(parent, wxID_ANY, title, wxDefaultPosition, wxSize(300, 200),
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      m_appColumns(std::move(appColumns)), m_delimiter(delimiter),
+      m_firstLineHeader(firstLineHeader), m_fileName(std::move(fileName)), m_isOk(false),
+      m_useSavedMatches(useSavedMatches), m_savedMatches(std::move(savedMatches)),
+      m_matchDropTarget(nullptr), m_fileDropTarget(nullptr) {
+    const bool holdsAName = std::any_of(m_savedMatches.begin(), m_savedMatches.end(),
+                                        [](const std::string &match) { return !match.empty(); });
+    if (!holdsAName) {
+        m_useSavedMatches = false;
+    }
+    // An entry behind the last application column belongs to no row.
+    if (m_savedMatches.size() > m_appColumns.size()) {
+        m_savedMatches.resize(m_appColumns.size());
+    }
+}
+
+wxImportCSVDialog::~wxImportCSVDialog() = default;
+
+void wxImportCSVDialog::create() {
+    auto *sizer = new wxBoxSizer(wxVERTICAL);
+    createHeaderDlg(sizer);
+    createMainDlg(sizer);
+}
+
+std::vector<std::string> wxImportCSVDialog::getColumnNames() {
+    const auto *matchList =
+        static_cast<columnimport::ListCtrlSource *>(wxWindowBase::FindWindowById(LISTBOX_MATCH));
+    std::vector<std::string> names;
+    for (int row = 0; row < matchList->GetItemCount(); ++row) {
+        std::string name = matchList->getMatchText(row);
+        if (name == columnimport::notUsed) {
+            name.clear();
+        }
+        names.push_back(std::move(name));
+    }
+    return names;
+}
+
+char wxImportCSVDialog::getDelimiter() const {
+    return m_delimiter;
+}
+
+bool wxImportCSVDialog::isFirstLineHeader() const {
+    return m_firstLineHeader;
+}
+
+bool wxImportCSVDialog::isOk() const {
+    return m_isOk;
+}
+
+void wxImportCSVDialog::setFileSchema(std::vector<std::string> fileSchema) {
+    m_fileSchema = std::move(fileSchema);
+}

@@ -1,0 +1,130 @@
+#pragma once
+
+#include "columnimport_export.h"
+
+#include <string>
+#include <vector>
+
+#include <wx/dialog.h>
+
+class wxBoxSizer;
+
+namespace columnimport {
+class TextDropTarget;
+}
+
+/// The dialog in which a user matches the columns of a delimited text file to the application
+/// columns of the host.
+///
+/// A host without the toolkit runs it through `wxImportCSVDialogPeer`. A host that has its own
+/// `wxWindow` may run it itself, on its user-interface thread and one dialog at a time, since
+/// controls are found by their identifiers among all top-level windows:
+///
+///     wxImportCSVDialog dialog(frame, "Import assays", {"holename", "from", "to", "Au"},
+///                              "assays.csv", false, {}, ',', true);
+///     dialog.create();
+///     if (dialog.ShowModal() == wxID_OK) {
+///         std::vector<std::string> matches = dialog.getColumnNames(); // "HOLE", "From (m)", ...
+///     }
+///
+/// The matches live only as the texts of the match list, which has one row per application column:
+/// the name of the file column, or "Not used". Dragging writes into these rows; every refresh (the
+/// check box, another delimiter, "Reset to Default") makes them anew and drops what was changed by
+/// hand.
+class COLUMNIMPORT_EXPORT wxImportCSVDialog : public wxDialog {
+public:
+    static inline const int BTN_ADD = 1;           ///< no control has it
+    static inline const int LISTBOX_FILE = 2;      ///< the list of file columns
+    static inline const int LISTBOX_MATCH = 3;     ///< the match list
+    static inline const int LISTBOX_APP = 4;       ///< no control has it
+    static inline const int TEXT_FILE_PREVIEW = 5; ///< the first lines of the file
+    static inline const int CHECK_HEADER = 6;      ///< "First Line contain title"
+    static inline const int TXT_DELIMITER = 7;     ///< the field delimiter, one character
+    static inline const int BTN_OK = 8;            ///< no control has it: the button is wxID_OK
+    static inline const int BTN_CANCEL = 9;        ///< no control has it: it is wxID_CANCEL
+    static inline const int BTN_REMATCH = 10;      ///< "Reset to Default"
+
+    static inline const int COLUMN_MATCH = 0; ///< column of the match list: the file column's name
+    static inline const int COLUMN_APP = 1;   ///< column of the match list: the application column
+
+    /// Stores the values of one import; no file is touched and no control is built before `create`.
+    ///
+    /// @param parent          owner of the dialog; may be null
+    /// @param title           text of the title bar
+    /// @param appColumns      the application columns, one row of the match list each
+    /// @param fileName        path of the file, UTF-8; one that can't be read gives empty lists
+    /// @param useSavedMatches whether `savedMatches` are shown instead of a new proposal; of no
+    ///                        effect if they hold no name, or if `firstLineHeader` is false
+    /// @param savedMatches    for each application column the name of a file column, or an empty
+    ///                        string; entries beyond the application columns are dropped
+    /// @param delimiter       the field delimiter to start with, one byte taken literally
+    /// @param firstLineHeader whether the first line of the file holds titles
+    wxImportCSVDialog(wxWindow *parent, const wxString &title, std::vector<std::string> appColumns,
+                      std::string fileName, bool useSavedMatches,
+                      std::vector<std::string> savedMatches, char delimiter, bool firstLineHeader);
+    ~wxImportCSVDialog() override;
+
+    wxImportCSVDialog(const wxImportCSVDialog &) = delete;
+    wxImportCSVDialog &operator=(const wxImportCSVDialog &) = delete;
+
+    /// Builds the controls, reads the file's head and fills both lists. To be called once, after
+    /// the constructor and before `ShowModal`.
+    virtual void create();
+
+    /// The matches as the match list shows them, one per row and in the order of the application
+    /// columns; an empty string where the row reads "Not used". To be called after `create`, as
+    /// often as wanted.
+    std::vector<std::string> getColumnNames();
+
+    /// The delimiter in force: the last one typed, or the constructor's.
+    char getDelimiter() const;
+
+    /// Whether the first line holds titles, as the check box said at the last refresh.
+    bool isFirstLineHeader() const;
+
+    /// False in every state: what tells OK from everything else is the result of `ShowModal`.
+    bool isOk() const;
+
+protected:
+    /// Builds the preview and the options on top of `sizer`, and reads the file.
+    void createHeaderDlg(wxBoxSizer *sizer);
+
+    /// Builds both lists and the buttons below what `sizer` holds, installs the sizer and fills the
+    /// lists. Runs last.
+    void createMainDlg(wxBoxSizer *sizer);
+
+    /// Reads `m_fileSchema` from the first line of the file.
+    void loadHeader();
+
+    /// The first lines of the file as raw bytes, each with one line feed.
+    std::string getFilePreview();
+
+    /// Makes the content of both lists anew, by position, from the saved matches or as a proposal.
+    void onCheckHeader(wxCommandEvent &event);
+
+    /// Takes the first byte typed as the delimiter and reads the file again if it is another one.
+    void onTxtDelimiter(wxCommandEvent &event);
+
+    /// Drops the saved matches for good and proposes afresh.
+    void onBtnRematch(wxCommandEvent &event);
+
+    /// Shows the rows that read "Not used" in bold and the others at normal weight.
+    void applyListBoxMatchFont();
+
+    /// Replaces the file columns; no control is touched.
+    void setFileSchema(std::vector<std::string> fileSchema);
+
+private:
+    std::vector<std::string> m_appColumns;
+    std::vector<std::string> m_fileSchema;
+    char m_delimiter;
+    bool m_firstLineHeader;
+    std::string m_fileName;
+    bool m_isOk;
+    bool m_useSavedMatches;
+    std::vector<std::string> m_savedMatches;
+    columnimport::TextDropTarget *m_matchDropTarget; // owned by the match list
+    columnimport::TextDropTarget *m_fileDropTarget;  // owned by the list of file columns
+
+    wxDECLARE_EVENT_TABLE();
+};

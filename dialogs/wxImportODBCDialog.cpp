@@ -1,0 +1,20 @@
+#include "dialogs/wxImportODBCDialog.h"
+
+#include <utility>
+
+#include <wx/sizer.h>
+
+wxImportODBCDialog::wxImportODBCDialog(wxWindow *parent, const wxString &title,
+                                       std::vector<std::string> appColumns, std::string fileName,
+                                       bool useSavedMatches, std::vector<std::string> savedMatches,
+                                       std::vector<std::string> fileSchema)
+    : wxImportCSVDialog(parent, title, std::move(appColumns), std::move(fileName), useSavedMatches,
+                        std::move(savedMatches), ',', useSavedMatches) {
+    setFileSchema(std::move(fileSchema));
+}
+
+wxImportODBCDialog::~wxImportODBCDialog() = default;
+
+void wxImportODBCDialog::create() {
+    createMainDlg(new wxBoxSizer(wxVERTICAL));
+}

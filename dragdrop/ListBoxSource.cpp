@@ -1,0 +1,34 @@
+#include "dragdrop/ListBoxSource.h"
+
+#include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/dragText.h"
+
+namespace columnimport {
+
+ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
+                             const wxSize &size)
+    : wxListBox(parent, id, position, size) {
+    Bind(wxEVT_LEFT_DOWN, &ListBoxSource::onLeftDown, this, wxID_ANY, wxID_ANY);
+    Bind(wxEVT_MOTION, &ListBoxSource::onMouseMove, this, wxID_ANY, wxID_ANY);
+}
+
+ListBoxSource::~ListBoxSource() = default;
+
+void ListBoxSource::onLeftDown(wxMouseEvent &event) {
+    const int row = HitTest(event.GetPosition());
+    if (row >= 0) {
+        SetSelection(row);
+    }
+}
+
+void ListBoxSource::onMouseMove(wxMouseEvent &event) {
+    const int row = HitTest(event.GetPosition());
+    if (row < 0 || !wxGetMouseState().LeftIsDown()) {
+        return;
+    }
+    findMatchList()->clearMarkedRows();
+    SetSelection(row);
+    dragText(*this, GetString(static_cast<unsigned>(row)));
+}
+
+} // namespace columnimport

@@ -1,0 +1,131 @@
+#include "dragdrop/ListCtrlSource.h"
+
+#include "dialogs/NameText.h"
+#include "dialogs/matchTexts.h"
+#include "dialogs/wxImportCSVDialog.h"
+#include "dragdrop/dragText.h"
+
+#include <algorithm>
+
+namespace columnimport {
+
+ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
+                               const wxSize &size)
+    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this) {
+    Bind(wxEVT_LEFT_DOWN, &ListCtrlSource::onLeftDown, this, wxID_ANY, wxID_ANY);
+    Bind(wxEVT_LEFT_UP, &ListCtrlSource::onLeftUp, this, wxID_ANY, wxID_ANY);
+    Bind(wxEVT_MOTION, &ListCtrlSource::onMouseMove, this, wxID_ANY, wxID_ANY);
+}
+
+ListCtrlSource::~ListCtrlSource() = default;
+
+std::string ListCtrlSource::getMatchText(int row) const {
+    wxListItem item;
+    item.SetId(row);
+    item.SetColumn(wxImportCSVDialog::COLUMN_MATCH);
+    item.SetMask(wxLIST_MASK_TEXT);
+    GetItem(item);
+    return toBytes(item.GetText());
+}
+
+void ListCtrlSource::setMatchText(long row, const wxString &text) {
+    SetItem(row, wxImportCSVDialog::COLUMN_MATCH, text, -1);
+    applyMatchFont(row);
+}
+
+void ListCtrlSource::applyMatchFont(long row) {
+    // A row that never had a font of its own gives an invalid one in some list controls.
+    wxFont font = GetItemFont(row);
+    if (!font.IsOk()) {
+        font = GetFont();
+    }
+    const bool unused = GetItemText(row, wxImportCSVDialog::COLUMN_MATCH).Cmp(notUsed) == 0;
+    font.SetWeight(unused ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
+    SetItemFont(row, font);
+}
+
+long ListCtrlSource::rowAt(const wxPoint &position) const {
+    int flags = 0;
+    return HitTest(position, flags);
+}
+
+void ListCtrlSource::hoverOver(long row) {
+    if (countMarkedRows() == 0) {
+        clearHoverRows();
+        SetItemState(row, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    }
+}
+
+void ListCtrlSource::clearHoverRows() {
+    for (long row = GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED); row != -1;
+         row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
+        SetItemState(row, 0, wxLIST_STATE_SELECTED);
+    }
+}
+
+void ListCtrlSource::clearMarkedRows() {
+    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
+        m_marks.set(row, false);
+    }
+}
+
+int ListCtrlSource::countMarkedRows() const {
+    int count = 0;
+    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
+        ++count;
+    }
+    return count;
+}
+
+long ListCtrlSource::nextMarkedRow(long row) const {
+    return m_marks.next(row);
+}
+
+// The press is kept from the control, whose own selection would mix with the marks.
+void ListCtrlSource::onLeftDown(wxMouseEvent &) {}
+
+void ListCtrlSource::onLeftUp(wxMouseEvent &event) {
+    const long row = rowAt(event.GetPosition());
+    if (row < 0) {
+        clearMarkedRows();
+        return;
+    }
+    clearHoverRows();
+    const bool control = wxGetKeyState(WXK_CONTROL);
+    const bool shift = wxGetKeyState(WXK_SHIFT);
+    if (!control && !shift) {
+        clearMarkedRows();
+    }
+    // The list may have fewer rows than when the anchor was set.
+    if (shift && m_lastClickedRow >= 0 && m_lastClickedRow < GetItemCount()) {
+        const auto [first, last] = std::minmax<long>(m_lastClickedRow, row);
+        for (long inRange = first; inRange <= last; ++inRange) {
+            m_marks.set(inRange, true);
+        }
+    }
+    m_marks.set(row, true);
+    m_lastClickedRow = static_cast<std::int32_t>(row);
+}
+
+void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
+    const long row = rowAt(event.GetPosition());
+    if (row < 0) {
+        return;
+    }
+    hoverOver(row);
+    if (!wxGetMouseState().LeftIsDown()) {
+        return;
+    }
+    if (!m_marks.isMarked(row)) {
+        clearMarkedRows();
+        m_marks.set(row, true);
+    }
+    dragText(*this, toText(getMatchText(static_cast<int>(row))));
+}
+
+ListCtrlSource *findMatchList() {
+    return static_cast<ListCtrlSource *>(
+        wxWindowBase::FindWindowById(wxImportCSVDialog::LISTBOX_MATCH));
+}
+
+} // namespace columnimport

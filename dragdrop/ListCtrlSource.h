@@ -1,0 +1,62 @@
+#pragma once
+
+#include "RowMarks.h" // of the platform
+
+#include <cstdint>
+#include <string>
+
+#include <wx/listctrl.h>
+
+namespace columnimport {
+
+/// The match list: one row per application column, with the matched file column's name in its first
+/// column. The rows are the only record of the current matching.
+///
+/// Two states of a row, independent of each other:
+///  - marked: the row belongs to the user's multiple selection. A click marks one row, Control adds
+///    a row, Shift adds the range from the row clicked last; a click below the rows clears all.
+///  - hover: the row under the pointer, shown only while no row is marked; at most one.
+///
+/// For example, after a click on row 2 and a Shift-click on row 4 the rows 2, 3 and 4 are marked,
+/// and no row is in hover. Dragging row 3 onto the list of file columns then clears all three
+/// matches; dragging row 7 first leaves row 7 alone marked.
+class ListCtrlSource : public wxListCtrl {
+public:
+    ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
+    ~ListCtrlSource() override;
+
+    /// The match text of `row`, as the bytes of a file column's name or "Not used".
+    std::string getMatchText(int row) const;
+
+    /// Writes a match text into `row` and gives the row the weight that goes with it.
+    void setMatchText(long row, const wxString &text);
+
+    /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.
+    void applyMatchFont(long row);
+
+    /// The row at `position`, in the coordinates of the list's mouse and drag events, or -1.
+    long rowAt(const wxPoint &position) const;
+
+    /// Puts `row` alone in the hover state, unless a row is marked.
+    void hoverOver(long row);
+
+    void clearHoverRows();
+    void clearMarkedRows();
+    int countMarkedRows() const;
+
+    /// The first marked row behind `row`, or -1; -1 starts at the first row.
+    long nextMarkedRow(long row) const;
+
+private:
+    void onLeftDown(wxMouseEvent &event);
+    void onLeftUp(wxMouseEvent &event);
+    void onMouseMove(wxMouseEvent &event);
+
+    RowMarks m_marks;
+    std::int32_t m_lastClickedRow = -1; // the anchor of a Shift range; survives a refresh
+};
+
+/// The match list of the dialog that is open.
+ListCtrlSource *findMatchList();
+
+} // namespace columnimport

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+
+#include <wx/dnd.h>
+
+namespace columnimport {
+
+class ListCtrlSource;
+
+/// Receives text that is dropped on one of the two lists, from the dialog or from any program.
+///
+/// On the match list the text is written into the row under the pointer. On the list of file
+/// columns, whose target knows the match list, the text does not count: all marked rows of the
+/// match list become "Not used".
+class TextDropTarget : public wxTextDropTarget {
+public:
+    /// `ownerId` is the identifier of the control on which the target will sit, which then owns it.
+    explicit TextDropTarget(std::int32_t ownerId);
+    ~TextDropTarget() override;
+
+    /// Makes this the target of the list of file columns. `matchList` must outlive the target.
+    void setMatchList(ListCtrlSource *matchList);
+
+    wxDragResult OnDragOver(wxCoord x, wxCoord y, wxDragResult suggested) override;
+    bool OnDropText(wxCoord x, wxCoord y, const wxString &text) override;
+
+private:
+    ListCtrlSource *m_matchList = nullptr; // null in the target of the match list itself
+    std::int32_t m_ownerId;
+};
+
+} // namespace columnimport

@@ -1,0 +1,11 @@
+#pragma once
+
+struct _GtkWidget; // NOLINT(bugprone-reserved-identifier): the name that GTK gives it
+
+namespace columnimport {
+
+/// The native handle of a host's window: a GTK top-level. Any other widget stands for the top-level
+/// that it is in.
+using HostWindow = _GtkWidget *;
+
+} // namespace columnimport

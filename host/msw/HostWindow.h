@@ -1,0 +1,10 @@
+#pragma once
+
+struct HWND__;
+
+namespace columnimport {
+
+/// The native handle of a host's window: what the platform's headers call an HWND.
+using HostWindow = HWND__ *;
+
+} // namespace columnimport

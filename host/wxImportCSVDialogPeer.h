@@ -1,0 +1,81 @@
+#pragma once
+
+#include "HostWindow.h"
+#include "columnimport_export.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+/// The door to the library for a host that knows nothing of its toolkit.
+///
+/// Construct one before the first run, then call `showWindow` once per import, on the host's
+/// user-interface thread. A peer holds nothing: any number may exist, and destroying one ends
+/// nothing. What one run is to hand to the next, the host keeps in its own variables:
+///
+///     wxImportCSVDialogPeer peer;
+///     bool useSaved = true, firstLineHeader = true;
+///     char delimiter = ',';
+///     std::vector<std::string> matches; // none yet: a proposal is made
+///     if (peer.showWindow(GTK_WIDGET(window), "Import", {"holename", "x", "dip"}, "collar.csv",
+///                         &useSaved, &matches, &delimiter, &firstLineHeader, 900, 900)) {
+///         // matches == {"BHID", "Easting", ""}: one entry per application column
+///     }
+class COLUMNIMPORT_EXPORT wxImportCSVDialogPeer {
+public:
+    /// Sets the toolkit up for the whole process. Without a display it does nothing and reports
+    /// nothing; `showWindow` then returns false, and a peer made later tries again.
+    wxImportCSVDialogPeer();
+
+    /// Does nothing: what was set up stays in force for later runs.
+    ~wxImportCSVDialogPeer();
+
+    /// Changes nothing.
+    wxImportCSVDialogPeer &operator=(const wxImportCSVDialogPeer &other);
+    wxImportCSVDialogPeer(const wxImportCSVDialogPeer &) = default;
+
+    /// Shows the dialog for a delimited text file over the host's window, modally, and blocks until
+    /// the user dismisses it.
+    ///
+    /// Strings are bytes in the encoding of the process's locale, except for the path. The pointers
+    /// must not be null and must stay valid for the call. All outputs are written however the
+    /// dialog was ended; a host that wants its earlier values after a Cancel keeps a copy.
+    ///
+    /// @param hostWindow       the host's window; null opens the dialog without an owner
+    /// @param title            text of the title bar
+    /// @param appColumns       the application columns, in the host's order
+    /// @param fileName         path of the file, UTF-8; one that can't be read gives empty lists
+    /// @param useSavedMatches  in: whether to show `savedMatches` instead of a new proposal
+    /// @param savedMatches     in: for each application column the name of a file column, or an
+    ///                         empty string; more entries than application columns are dropped.
+    ///                         out: the matches as the dialog showed them at its end, an empty
+    ///                         string where there is none
+    /// @param delimiter        in and out: the field delimiter, one byte taken literally
+    /// @param firstLineHeader  in and out: whether the first line holds titles. If false at the
+    ///                         end, the matches are positional names such as "Column1"
+    /// @param width, height    size of the dialog's frame in pixels, at least 100 and at most
+    /// 32000; it
+    ///                         stands at 100, 100
+    /// @return true exactly if the user pressed OK. False with all variables unchanged if the
+    ///         dialog could not be shown: there is no display, no peer was ever made, or a run is
+    ///         open already
+    bool showWindow(columnimport::HostWindow hostWindow, std::string title,
+                    std::vector<std::string> appColumns, std::string fileName,
+                    bool *useSavedMatches, std::vector<std::string> *savedMatches, char *delimiter,
+                    bool *firstLineHeader, std::int32_t width, std::int32_t height);
+
+    /// Shows the dialog for a database table whose column names the host passes in. No file and no
+    /// database is opened. As the other overload, but for these arguments:
+    ///
+    /// @param fileSchema       the columns of the table, in its order
+    /// @param fileName         name of the source; nothing reads it
+    /// @param useSavedMatches  in: true shows the table's names, with `savedMatches` if they hold a
+    ///                         name and otherwise with a proposal; false pairs the columns by
+    ///                         position, and the matches come back as "Column1", "Column2" and so
+    ///                         on
+    bool showWindow(columnimport::HostWindow hostWindow, std::string title,
+                    std::vector<std::string> appColumns, std::vector<std::string> fileSchema,
+                    std::string fileName, bool *useSavedMatches,
+                    std::vector<std::string> *savedMatches, std::int32_t width,
+                    std::int32_t height);
+};

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "matching/vote.h"
+
+namespace columnimport {
+
+/// Finds the application column that a file column equals or is a synonym of with one look-up,
+/// however many there are.
+class FitTable {
+public:
+    /// Normalised names, which must outlive the table.
+    explicit FitTable(const std::vector<std::string> &appColumns);
+
+    /// The vote of a file column that equals an application column or is a synonym of one; a vote
+    /// for none if there is no such column. Nothing outranks either: a file column with a synonym
+    /// is too short for a measure of 0.99.
+    Vote find(std::string_view fileColumn) const;
+
+private:
+    static constexpr std::int32_t none = INT32_MAX;
+
+    /// The first application column of each kind.
+    struct Fit {
+        std::int32_t equal = none;
+        std::int32_t synonym = none;
+    };
+
+    void link(std::string_view appColumn, std::string_view synonym);
+
+    std::unordered_map<std::string_view, Fit> m_fits;
+};
+
+} // namespace columnimport

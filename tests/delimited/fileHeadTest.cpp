@@ -1,0 +1,89 @@
+#include "delimited/readHeader.h"
+#include "delimited/readPreview.h"
+#include "tests/ScratchFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+using namespace columnimport;
+using Fields = std::vector<std::string>;
+
+namespace {
+
+std::string lines(int count) {
+    std::string text;
+    for (int line = 1; line <= count; ++line) {
+        text += "line " + std::to_string(line) + "\n";
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(ReadHeader, CutsTheFirstLineAndDropsTheQuotes) {
+    const struct {
+        std::string content;
+        char delimiter;
+        Fields fields;
+    } cases[] = {
+        {"Hole,From,To\r\n1,2,3\r\n", ',', {"Hole", "From", "To"}},
+        {"only\rcarriage\rreturns", ',', {"only\rcarriage\rreturns"}},
+        {"a,b\r", ',', {"a", "b"}},
+        {"", ',', {}},
+        {" \t\r\n1,2\n", ',', {}},
+        {"a;b;c\n", ',', {"a;b;c"}},
+        {"a;b;c\n", ';', {"a", "b", "c"}},
+        {"\xEF\xBB\xBFHole,x\n", ',', {"\xEF\xBB\xBFHole", "x"}},
+        {"\"a,b\",c\n", ',', {"a", "b", "c"}},
+        {"\"\",\"\"\n", ',', {"", ""}},
+        {"\" a \",'b',c\"\"d\n", ',', {" a ", "'b'", "cd"}},
+        {"a,b,\n", ',', {"a", "b", ""}},
+        {"a\tb\t\n", '\t', {"a", "b"}},
+        {"TOP,THICK\n", 'T', {"", "OP,", "HICK"}},
+        {std::string("a\0b\n", 4), '\0', {"a", "b"}},
+    };
+    for (const auto &row : cases) {
+        const ScratchFile file(row.content);
+        EXPECT_EQ(readHeader(file.path(), row.delimiter), row.fields) << row.content;
+    }
+}
+
+TEST(ReadPreview, GivesTenLinesAtMostEachWithOneLineFeed) {
+    const struct {
+        std::string content;
+        std::string preview;
+    } cases[] = {
+        {"", "\n"},
+        {"a", "a\n"},
+        {"a\n", "a\n\n"},
+        {"a\n\nb", "a\n\nb\n"},
+        {lines(9), lines(9) + "\n"},
+        {lines(10), lines(10)},
+        {lines(11), lines(10)},
+        {lines(9) + "line 10", lines(10)},
+        {"a\r\nb\r\r\nc\r", "a\nb\r\nc\r\n"},
+    };
+    for (const auto &row : cases) {
+        const ScratchFile file(row.content);
+        EXPECT_EQ(readPreview(file.path()), row.preview);
+    }
+}
+
+TEST(FileHead, OfWhatIsNoReadableFileIsEmpty) {
+    const ScratchFile pipe("");
+    unlink(pipe.path().c_str());
+    ASSERT_EQ(mkfifo(pipe.path().c_str(), 0600), 0);
+    // A read of the pipe or of the endless device would never return.
+    for (const std::string path :
+         {"", "/nowhere/at all.csv", "/tmp", "/dev/zero", pipe.path().c_str()}) {
+        EXPECT_EQ(readHeader(path, ','), Fields()) << path;
+        EXPECT_EQ(readPreview(path), std::string(10, '\n')) << path;
+    }
+}
+
+TEST(FileHead, IsReadAnewEachTime) {
+    const ScratchFile file("a,b\n");
+    EXPECT_EQ(readHeader(file.path(), ','), (Fields{"a", "b"}));
+    std::ofstream(file.path()) << "c\n";
+    EXPECT_EQ(readHeader(file.path(), ','), (Fields{"c"}));
+}

@@ -1,0 +1,136 @@
+// What the host gets back from a run, however it ends, and where the dialog stands meanwhile.
+
+#include "DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <gtest/gtest.h>
+#include <gtk/gtk.h>
+#include <wx/dialog.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+class Outcome : public testing::Test {
+protected:
+    Outcome() : file("BHID,Azimut;Dip\n") {
+        run.appColumns = {"holename", "dip"};
+        run.fileName = file.path();
+    }
+
+    ScratchFile file;
+    DialogRun run;
+};
+
+wxDialog &dialog() {
+    return static_cast<wxDialog &>(*wxGetTopLevelParent(wxWindow::FindWindowById(wxID_OK)));
+}
+
+/// The close box, through the message that a window manager sends for it.
+void pressCloseBox(Person &) {
+    onUserInterface([] {
+        GdkEvent *event = gdk_event_new(GDK_DELETE);
+        event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(dialog().GetHandle())));
+        gtk_main_do_event(event);
+        gdk_event_free(event);
+    });
+}
+
+void pressEscape(Person &person) {
+    person.strike(XK_Escape);
+}
+
+} // namespace
+
+TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
+    const struct {
+        void (*leave)(Person &);
+        bool result;
+    } ways[] = {
+        {pressOk, true}, {pressCancel, false}, {pressCloseBox, false}, {pressEscape, false}};
+    for (const auto &way : ways) {
+        run.matches = {"from before"};
+        run.delimiter = ',';
+        run.firstLineHeader = true;
+        EXPECT_EQ(run.show([&way](Person &person) {
+            person.typeDelimiter(';');
+            waitUntil("the line is cut at the semicolon",
+                      [] { return fileList().GetString(1) == "Dip"; });
+            person.click(wxImportCSVDialog::CHECK_HEADER);
+            waitUntil("positions are shown",
+                      [] { return matchList().GetItemText(1) == "Column2"; });
+            way.leave(person);
+        }),
+                  way.result);
+        EXPECT_EQ(run.matches, (Names{"Column1", "Column2"}));
+        EXPECT_EQ(run.delimiter, ';');
+        EXPECT_FALSE(run.firstLineHeader);
+        EXPECT_FALSE(run.useSavedMatches);
+    }
+}
+
+TEST_F(Outcome, TheNextRunTakesUpWhereTheLastOneEnded) {
+    run.delimiter = ';';
+    run.show(pressOk);
+    const Names first = run.matches;
+    EXPECT_EQ(first, (Names{"", "Dip"}));
+    run.useSavedMatches = true;
+    run.show([](Person &person) {
+        EXPECT_EQ(matchTexts(), (Names{"Not used", "Dip"}));
+        pressCancel(person);
+    });
+    EXPECT_EQ(run.matches, first);
+}
+
+TEST_F(Outcome, AFileColumnCalledNotUsedComesBackAsNone) {
+    const ScratchFile named("Not used\n");
+    run.fileName = named.path();
+    run.firstLineHeader = true;
+    run.useSavedMatches = true;
+    run.matches = {"Not used", ""};
+    run.show(pressOk);
+    EXPECT_EQ(run.matches, (Names{"", ""}));
+}
+
+TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
+    for (const wxSize size : {wxSize(900, 900), wxSize(1000, 950), wxSize(500, 400)}) {
+        run.width = size.x;
+        run.height = size.y;
+        run.show([&size](Person &person) {
+            const Window window = windowOfDialog();
+            const wxRect wanted(wxPoint(100, 100), size);
+            waitUntil("the frame is in its place",
+                      [&] { return person.frameOf(window) == wanted; });
+            pressEscape(person);
+        });
+    }
+}
+
+TEST_F(Outcome, ASizeBeyondReasonDoesNoHarm) {
+    for (const int size : {0, -1, -70000, 2147483647}) {
+        run.width = size;
+        run.height = size;
+        EXPECT_FALSE(run.show(pressEscape)) << size;
+    }
+}
+
+TEST_F(Outcome, PeersShareWhatTheFirstOneSetUp) {
+    { const wxImportCSVDialogPeer destroyed; }
+    wxImportCSVDialogPeer one;
+    const wxImportCSVDialogPeer other;
+    EXPECT_EQ(&(one = other), &one);
+    EXPECT_TRUE(run.show(pressOk));
+}
+
+TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpen) {
+    DialogRun second = run;
+    second.matches = {"kept"};
+    EXPECT_TRUE(run.show([&second](Person &person) {
+        onUserInterface([&second] {
+            EXPECT_FALSE(wxImportCSVDialogPeer().showWindow(
+                nullptr, "Second", second.appColumns, second.fileName, &second.useSavedMatches,
+                &second.matches, &second.delimiter, &second.firstLineHeader, 900, 900));
+        });
+        pressOk(person);
+    }));
+    EXPECT_EQ(second.matches, Names{"kept"});
+}

@@ -1,0 +1,25 @@
+#include <clocale>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+#include <wx/debug.h>
+#include <wx/string.h>
+
+namespace {
+
+void failTest(const wxString &file, int line, const wxString &, const wxString &condition,
+              const wxString &message) {
+    ADD_FAILURE() << "toolkit assertion " << file.utf8_string() << ":" << line << ": "
+                  << condition.utf8_string() << " " << message.utf8_string();
+}
+
+} // namespace
+
+int main(int argumentCount, char **arguments) {
+    // A GTK critical ends the test; so that it counts, this must stand before GTK starts.
+    setenv("G_DEBUG", "fatal-criticals", 1);
+    std::setlocale(LC_ALL, "");
+    wxSetAssertHandler(failTest);
+    testing::InitGoogleTest(&argumentCount, arguments);
+    return RUN_ALL_TESTS();
+}
