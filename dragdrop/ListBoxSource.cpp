@@ -23,7 +23,7 @@ void ListBoxSource::onLeftDown(wxMouseEvent &event) {
 
 void ListBoxSource::onMouseMove(wxMouseEvent &event) {
     const int row = HitTest(event.GetPosition());
-    if (row < 0 || !wxGetMouseState().LeftIsDown()) {
+    if (row < 0 || !movedWithButtonDown(event)) {
         return;
     }
     findMatchList()->clearMarkedRows();

@@ -113,7 +113,7 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
         return;
     }
     hoverOver(row);
-    if (!wxGetMouseState().LeftIsDown()) {
+    if (!movedWithButtonDown(event)) {
         return;
     }
     if (!m_marks.isMarked(row)) {

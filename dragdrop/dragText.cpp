@@ -2,8 +2,14 @@
 
 #include <wx/dataobj.h>
 #include <wx/dnd.h>
+#include <wx/event.h>
+#include <wx/utils.h>
 
 namespace columnimport {
+
+bool movedWithButtonDown(const wxMouseEvent &move) {
+    return wxGetMouseState().LeftIsDown() && move.LeftIsDown();
+}
 
 void dragText(wxWindow &source, const wxString &text) {
     wxTextDataObject data(text);

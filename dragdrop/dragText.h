@@ -1,9 +1,14 @@
 #pragma once
 
+class wxMouseEvent;
 class wxString;
 class wxWindow;
 
 namespace columnimport {
+
+/// Whether the left button is down now and was so when `move` was made. A move that is handled late
+/// can be older than the press: taken for a drag, it would cost a click its Control or Shift.
+bool movedWithButtonDown(const wxMouseEvent &move);
 
 /// Drags `text` out of `source` until it is dropped or given up; returns when the drag is over.
 ///

@@ -69,15 +69,38 @@ Names matchTexts() {
     });
 }
 
-std::vector<int> boldRows() {
-    return read([] {
+namespace {
+
+std::vector<int> rowsWhere(const std::function<bool(int)> &isSo) {
+    return read([&isSo] {
         std::vector<int> rows;
         for (int row = 0; row < matchList().GetItemCount(); ++row) {
-            if (matchList().GetItemFont(row).GetWeight() == wxFONTWEIGHT_BOLD) {
+            if (isSo(row)) {
                 rows.push_back(row);
             }
         }
         return rows;
+    });
+}
+
+} // namespace
+
+std::vector<int> boldRows() {
+    return rowsWhere(
+        [](int row) { return matchList().GetItemFont(row).GetWeight() == wxFONTWEIGHT_BOLD; });
+}
+
+// The highlight is what there is to be seen of a mark.
+std::vector<int> markedRows() {
+    return rowsWhere([](int row) {
+        const wxColour colour = matchList().GetItemBackgroundColour(row);
+        return colour.IsOk() && colour != matchList().GetBackgroundColour();
+    });
+}
+
+std::vector<int> hoverRows() {
+    return rowsWhere([](int row) {
+        return matchList().GetItemState(row, wxLIST_STATE_SELECTED) == wxLIST_STATE_SELECTED;
     });
 }
 

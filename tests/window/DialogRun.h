@@ -40,5 +40,9 @@ void pressCancel(Person &person);
 Names matchTexts();
 std::vector<int> boldRows();
 
+/// The rows of the match list that are marked, and those in the hover state.
+std::vector<int> markedRows();
+std::vector<int> hoverRows();
+
 /// The texts of the list of file columns.
 Names fileTexts();

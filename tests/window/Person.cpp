@@ -36,7 +36,8 @@ wxWindow &control(int id) {
 void onUserInterface(const std::function<void()> &work) {
     Call call{work, {}};
     std::future<void> done = call.done.get_future();
-    g_idle_add_full(G_PRIORITY_DEFAULT, carryOut, &call, nullptr);
+    // Behind all that is due: input that the server has delivered is handled first.
+    g_idle_add_full(G_PRIORITY_LOW + 50, carryOut, &call, nullptr);
     done.wait();
 }
 
@@ -82,6 +83,20 @@ void Person::moveTo(wxPoint point) {
     send();
 }
 
+void Person::hoverAt(wxPoint point, const std::string &expected,
+                     const std::function<bool()> &isSo) {
+    moveTo(point);
+    bool aside = false;
+    poll(expected, [&] {
+        if (read(isSo)) {
+            return true;
+        }
+        aside = !aside;
+        moveTo(point + wxSize(aside ? 1 : 0, 0));
+        return false;
+    });
+}
+
 void Person::press(unsigned button) {
     XTestFakeButtonEvent(m_display, button, True, 0);
     send();
@@ -96,6 +111,51 @@ void Person::click(wxPoint point) {
     moveTo(point);
     press();
     release();
+}
+
+namespace {
+
+wxPoint lastDragMotion;
+
+gboolean noteDragMotion(GSignalInvocationHint *, unsigned, const GValue *values, void *) {
+    auto *widget = GTK_WIDGET(g_value_get_object(&values[0]));
+    gdk_window_get_origin(gtk_widget_get_window(widget), &lastDragMotion.x, &lastDragMotion.y);
+    lastDragMotion += wxPoint(g_value_get_int(&values[2]), g_value_get_int(&values[3]));
+    return TRUE;
+}
+
+/// Has the place of every drag over a drop target noted from now on.
+void watchDragMotions() {
+    static const gulong hook = g_signal_add_emission_hook(
+        g_signal_lookup("drag-motion", GTK_TYPE_WIDGET), 0, noteDragMotion, nullptr, nullptr);
+    static_cast<void>(hook);
+    lastDragMotion = wxPoint();
+}
+
+} // namespace
+
+// A drag runs inside the handler of the move that began it.
+void Person::dragTo(wxPoint from, wxPoint to) {
+    moveTo(from);
+    const int depth = read(g_main_depth);
+    press();
+    hoverAt(from + wxSize(1, 0), "the drag begins", [depth] { return g_main_depth() > depth; });
+    onUserInterface(watchDragMotions);
+    constexpr int steps = 4;
+    for (int step = 1; step <= steps; ++step) {
+        moveTo(from + (to - from) * step / steps);
+    }
+    waitUntil("the drag has come to its place", [to] { return lastDragMotion == to; });
+}
+
+void Person::drop() {
+    release();
+    waitUntil("the drag ends", [] { return g_main_depth() == 1; });
+}
+
+void Person::drag(wxPoint from, wxPoint to) {
+    dragTo(from, to);
+    drop();
 }
 
 void Person::keyDown(KeySym key) {
@@ -162,32 +222,51 @@ void Person::waitForDialog() {
     });
 }
 
-wxPoint Person::middleOf(int controlId) {
-    // When the frame gets its size, the controls follow.
+namespace {
+
+/// A place in a control that the dialog has laid out: when the frame gets its size, they follow.
+wxPoint placeIn(int controlId, const std::function<wxPoint(const wxWindow &)> &place) {
     waitUntil("the control is laid out",
               [controlId] { return control(controlId).GetSize().y > 10; });
-    return read([controlId] {
-        const wxRect rect = control(controlId).GetScreenRect();
-        return rect.GetPosition() + wxSize(rect.width / 2, rect.height / 2);
+    return read([&] { return control(controlId).ClientToScreen(place(control(controlId))); });
+}
+
+} // namespace
+
+wxPoint Person::middleOf(int controlId) {
+    return placeIn(controlId, [](const wxWindow &window) {
+        return wxPoint(window.GetSize().x / 2, window.GetSize().y / 2);
     });
 }
 
 wxPoint Person::fileRow(int row) {
-    return read([row] {
+    return placeIn(wxImportCSVDialog::LISTBOX_FILE, [row](const wxWindow &window) {
         // A list box does not tell where its rows are, only which row is at a place.
         wxPoint place(40, 0);
-        while (place.y < fileList().GetClientSize().y && fileList().HitTest(place) != row) {
+        while (place.y < window.GetClientSize().y && fileList().HitTest(place) != row) {
             ++place.y;
         }
-        return fileList().ClientToScreen(place + wxSize(0, 4));
+        return place + wxSize(0, 4);
     });
 }
 
 wxPoint Person::matchRow(int row) {
-    return read([row] {
+    return placeIn(wxImportCSVDialog::LISTBOX_MATCH, [row](const wxWindow &) {
         wxRect rect;
         matchList().GetItemRect(row, rect);
-        return matchList().ClientToScreen(rect.GetPosition() + wxSize(60, rect.height / 2));
+        return rect.GetPosition() + wxSize(60, rect.height / 2);
+    });
+}
+
+wxPoint Person::belowFileRows() {
+    return placeIn(wxImportCSVDialog::LISTBOX_FILE, [](const wxWindow &window) {
+        return wxPoint(40, window.GetClientSize().y - 10);
+    });
+}
+
+wxPoint Person::belowMatchRows() {
+    return placeIn(wxImportCSVDialog::LISTBOX_MATCH, [](const wxWindow &window) {
+        return wxPoint(60, window.GetClientSize().y - 10);
     });
 }
 

@@ -19,7 +19,8 @@ struct GivenUp : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Runs `work` on the user-interface thread and waits for it.
+/// Runs `work` on the user-interface thread, behind all input that the screen has delivered so far,
+/// and waits for it.
 void onUserInterface(const std::function<void()> &work);
 
 /// What `work` returns on the user-interface thread.
@@ -53,10 +54,25 @@ public:
     Person &operator=(const Person &) = delete;
 
     void moveTo(wxPoint point);
+
+    /// Moves to `point` and stays there with a hand's small movements until `isSo` holds on the
+    /// user-interface thread: the toolkit drops a move that comes while it handles another.
+    void hoverAt(wxPoint point, const std::string &expected, const std::function<bool()> &isSo);
+
     void press(unsigned button = 1);
     void release(unsigned button = 1);
     void click(wxPoint point);
     void click(int controlId) { click(middleOf(controlId)); }
+
+    /// Presses at `from`, waits for the drag to begin, and moves on to `to` in a few steps; then
+    /// the button is still down.
+    void dragTo(wxPoint from, wxPoint to);
+
+    /// Releases the button and waits for the end of the drag.
+    void drop();
+
+    /// Both in one.
+    void drag(wxPoint from, wxPoint to);
 
     void keyDown(KeySym key);
     void keyUp(KeySym key);
@@ -71,6 +87,10 @@ public:
     static wxPoint middleOf(int controlId);
     static wxPoint fileRow(int row);
     static wxPoint matchRow(int row);
+
+    /// A place in the list beside its entries: below the last one.
+    static wxPoint belowFileRows();
+    static wxPoint belowMatchRows();
 
     /// The place and size of the window's frame, as the window manager has drawn it.
     wxRect frameOf(Window window);

@@ -1,0 +1,192 @@
+// What the hand does in the two lists: marks, the row under the pointer, drags and drops.
+
+#include "DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <algorithm>
+#include <random>
+#include <set>
+
+#include <gtest/gtest.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+using Rows = std::vector<int>;
+
+const Names fileColumns = {"HOLE", "FROM", "TO", "AU", "CU", "ZN", "PB", "AG", "FE", "AS"};
+const Names start = {"HOLE", "FROM", "TO", "AU", "CU", "ZN", "PB", "AG", "Not used", "Not used"};
+
+class DragDrop : public testing::Test {
+protected:
+    DragDrop() : file("HOLE,FROM,TO,AU,CU,ZN,PB,AG,FE,AS\n") {
+        run.fileName = file.path();
+        run.appColumns = {"hole", "from", "to",     "gold", "copper",
+                          "zinc", "lead", "silver", "x",    "y"};
+        run.useSavedMatches = true;
+        run.matches = {"HOLE", "FROM", "TO", "AU", "CU", "ZN", "PB", "AG", "", ""};
+    }
+
+    ScratchFile file;
+    DialogRun run;
+};
+
+void expectMarked(const Rows &wanted) {
+    poll("marked are " + testing::PrintToString(wanted),
+         [&wanted] { return markedRows() == wanted; });
+}
+
+void expectHover(const Rows &wanted) {
+    poll("in hover is " + testing::PrintToString(wanted),
+         [&wanted] { return hoverRows() == wanted; });
+}
+
+std::function<bool()> isInHover(int row) {
+    return [row] { return matchList().GetItemState(row, wxLIST_STATE_SELECTED) != 0; };
+}
+
+Names changed(Names texts, const std::vector<std::pair<std::size_t, std::string>> &changes) {
+    for (const auto &[row, text] : changes) {
+        texts[row] = text;
+    }
+    return texts;
+}
+
+Rows unusedRows(const Names &texts) {
+    Rows rows;
+    for (std::size_t row = 0; row < texts.size(); ++row) {
+        if (texts[row] == "Not used") {
+            rows.push_back(static_cast<int>(row));
+        }
+    }
+    return rows;
+}
+
+/// Clicks with a key held down until the marks are as wanted: the handler asks for the keys as they
+/// are when it runs.
+void clickWith(Person &person, KeySym key, const Rows &rows, const Rows &wanted) {
+    person.keyDown(key);
+    for (const int row : rows) {
+        person.click(Person::matchRow(row));
+    }
+    expectMarked(wanted);
+    person.keyUp(key);
+}
+
+} // namespace
+
+TEST_F(DragDrop, ResultsBySourceAndTarget) {
+    const Names result = changed(start, {{8, "FE"}, {1, "AU"}, {2, "Not used"}});
+    EXPECT_TRUE(run.show([&result](Person &person) {
+        Names texts = start;
+        const auto expectTexts = [&texts](const char *after) {
+            EXPECT_EQ(matchTexts(), texts) << after;
+            EXPECT_EQ(boldRows(), unusedRows(texts)) << after;
+            EXPECT_EQ(fileTexts(), fileColumns) << after;
+        };
+        person.drag(Person::fileRow(8), Person::matchRow(8));
+        texts[8] = "FE";
+        expectTexts("file column to an unused row");
+        person.drag(Person::matchRow(3), Person::matchRow(1));
+        texts[1] = "AU";
+        expectTexts("row to another row");
+        person.drag(Person::matchRow(9), Person::matchRow(2));
+        texts[2] = "Not used";
+        expectTexts("unused row to a matched one");
+        person.drag(Person::matchRow(4), Person::matchRow(4) + wxSize(30, 0));
+        expectTexts("row to itself");
+        person.drag(Person::fileRow(0), Person::belowMatchRows());
+        expectTexts("file column below the rows");
+        person.drag(Person::matchRow(0), Person::belowMatchRows());
+        expectTexts("row below the rows");
+        person.drag(Person::fileRow(0), Person::fileRow(3));
+        expectTexts("file column to the file list");
+        EXPECT_EQ(texts, result);
+        pressOk(person);
+    }));
+    EXPECT_EQ(run.matches, changed(result, {{2, ""}, {9, ""}}));
+}
+
+TEST_F(DragDrop, CancelHandsBackWhatTheRowsSayToo) {
+    EXPECT_FALSE(run.show([](Person &person) {
+        person.drag(Person::fileRow(0), Person::matchRow(5));
+        pressCancel(person);
+    }));
+    EXPECT_EQ(run.matches, changed(start, {{5, "HOLE"}, {8, ""}, {9, ""}}));
+}
+
+TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
+    run.show([](Person &person) {
+        clickWith(person, XK_Shift_L, {4}, {4});
+        person.click(Person::matchRow(5));
+        expectMarked({5});
+        clickWith(person, XK_Shift_L, {2}, {2, 3, 4, 5});
+        clickWith(person, XK_Control_L, {8, 3, 9}, {2, 3, 4, 5, 8, 9});
+        clickWith(person, XK_Shift_L, {7}, {2, 3, 4, 5, 7, 8, 9});
+        person.click(Person::belowMatchRows());
+        expectMarked({});
+        clickWith(person, XK_Shift_L, {6}, {6, 7});
+        person.click(wxImportCSVDialog::BTN_REMATCH);
+        expectMarked({});
+        clickWith(person, XK_Shift_L, {3}, {3, 4, 5, 6});
+        EXPECT_EQ(hoverRows(), Rows());
+        pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, TheRowUnderThePointerIsShownUnlessOneIsMarked) {
+    run.show([](Person &person) {
+        person.hoverAt(Person::matchRow(2), "row 2 is in hover", isInHover(2));
+        person.hoverAt(Person::matchRow(6), "row 6 is in hover", isInHover(6));
+        EXPECT_EQ(hoverRows(), Rows{6});
+        person.moveTo(Person::belowMatchRows());
+        EXPECT_EQ(hoverRows(), Rows{6});
+        person.click(Person::matchRow(1));
+        expectMarked({1});
+        expectHover({});
+        person.moveTo(Person::matchRow(7));
+        EXPECT_EQ(hoverRows(), Rows());
+        // A drag out of the file list takes the marks away as it begins, and shows where it is.
+        person.dragTo(Person::fileRow(2), Person::matchRow(4));
+        expectHover({4});
+        EXPECT_EQ(markedRows(), Rows());
+        person.moveTo(Person::fileRow(5));
+        EXPECT_EQ(hoverRows(), Rows{4});
+        person.drop();
+        EXPECT_EQ(matchTexts(), start);
+        pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, RowsDraggedBackToTheFileListAreCleared) {
+    run.show([](Person &person) {
+        person.click(Person::matchRow(2));
+        expectMarked({2});
+        clickWith(person, XK_Shift_L, {4}, {2, 3, 4});
+        person.drag(Person::matchRow(3), Person::matchRow(0));
+        EXPECT_EQ(markedRows(), (Rows{2, 3, 4}));
+        Names texts = changed(start, {{0, "AU"}});
+        EXPECT_EQ(matchTexts(), texts);
+        person.drag(Person::matchRow(3), Person::belowFileRows());
+        texts = changed(texts, {{2, "Not used"}, {3, "Not used"}, {4, "Not used"}});
+        EXPECT_EQ(matchTexts(), texts);
+        EXPECT_EQ(boldRows(), unusedRows(texts));
+        person.drag(Person::matchRow(7), Person::fileRow(1));
+        EXPECT_EQ(markedRows(), Rows{7});
+        EXPECT_EQ(matchTexts(), changed(texts, {{7, "Not used"}}));
+        pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, AClickInTheFileListSelectsAndLeavesTheMarks) {
+    run.show([](Person &person) {
+        person.click(Person::matchRow(2));
+        expectMarked({2});
+        person.click(Person::fileRow(3));
+        waitUntil("the entry is selected", [] { return fileList().GetSelection() == 3; });
+        person.click(Person::belowFileRows());
+        EXPECT_EQ(read([] { return fileList().GetSelection(); }), 3);
+        EXPECT_EQ(markedRows(), Rows{2});
+        pressCancel(person);
+    });
+}
