@@ -10,7 +10,7 @@ namespace columnimport {
 /// One bit for each of 128 columns that are compared side by side.
 class Lanes {
 public:
-    static constexpr std::size_t count = 2 * 64;
+    static constexpr std::size_t count = std::size_t{2} * 64;
 
     /// The lanes from `first` up to, but not including, `last`.
     static Lanes range(std::size_t first, std::size_t last) { return below(last) ^ below(first); }

@@ -25,9 +25,9 @@ namespace columnimport {
 /// for 128 application columns at once. Only those whose bound reaches a good score are measured,
 /// and only if none has it the bar is lowered, down to the acceptance threshold.
 ///
-/// With A application columns, a name of n bytes costs n * A / 6 operations on words at most, and
-/// the measure of the few that remain. The index takes at most 190 * A bytes, and 16 * A for each
-/// length of a file column's name.
+/// With A application columns, counting a name of n bytes takes about n * A / 3 operations on words
+/// for each bar; the measure is left for a handful of columns, however many there are. The index
+/// takes at most 190 * A bytes, and 3 * A for each length of a file column's name.
 class ShortNameIndex {
 public:
     static bool holds(std::string_view name) {

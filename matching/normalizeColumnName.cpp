@@ -16,8 +16,7 @@ std::string spellOutPercent(const std::string &name) {
     std::size_t copied = 0;
     for (std::size_t found = name.find('%'); found != std::string::npos;
          found = name.find('%', copied)) {
-        const bool separated =
-            found > copied && (name[found - 1] == ' ' || name[found - 1] == '_');
+        const bool separated = found > 0 && (name[found - 1] == ' ' || name[found - 1] == '_');
         result.append(name, copied, found - copied - (separated ? 1 : 0)).append("_pct");
         copied = found + 1;
     }

@@ -150,7 +150,7 @@ std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
         const auto app = static_cast<std::int32_t>(i);
         const auto kept = bestScoreByApp.find(app);
         proposal.push_back(kept != bestScoreByApp.end() && kept->second > 0.4 ? bestFileByApp[app]
-                                                                             : -1);
+                                                                              : -1);
     }
     return proposal;
 }

@@ -22,18 +22,30 @@ TEST(AreSynonyms, LinksAHeadWordToItsOwnListedWordsOnly) {
         bool synonyms;
     };
     const std::vector<Case> cases = {
-        {"holename", "bhid", true},       {"holeid", "bhid", false},
-        {"x", "easting", true},           {"x", "xc", true},
-        {"easting", "xc", true},          {"easting", "northing", false},
-        {"coordx", "utm_x", false},       {"y", "y_utm", true},
-        {"z", "utm_z", true},             {"z", "z_utm", false},
-        {"depth", "length", true},        {"length", "profondeur", true},
-        {"depth", "profondeur", false},   {"at", "length", false},
-        {"hole_id", "holename", false},   {"plong_e", "dip", false},
-        {"azimuth", "brg", true},         {"todepth", "to", true},
-        {"fromdepth", "to", false},       {"standarderror", "lognominalstandarderror", true},
-        {"holename", "holenam", false},   {"holename", "", false},
-        {"", "", false},                  {"easting", "x ", false},
+        {"holename", "bhid", true},
+        {"holeid", "bhid", false},
+        {"x", "easting", true},
+        {"x", "xc", true},
+        {"easting", "xc", true},
+        {"easting", "northing", false},
+        {"coordx", "utm_x", false},
+        {"y", "y_utm", true},
+        {"z", "utm_z", true},
+        {"z", "z_utm", false},
+        {"depth", "length", true},
+        {"length", "profondeur", true},
+        {"depth", "profondeur", false},
+        {"at", "length", false},
+        {"hole_id", "holename", false},
+        {"plong_e", "dip", false},
+        {"azimuth", "brg", true},
+        {"todepth", "to", true},
+        {"fromdepth", "to", false},
+        {"standarderror", "lognominalstandarderror", true},
+        {"holename", "holenam", false},
+        {"holename", "", false},
+        {"", "", false},
+        {"easting", "x ", false},
     };
     for (const Case &one : cases) {
         EXPECT_EQ(areSynonyms(one.a, one.b), one.synonyms) << one.a << ' ' << one.b;
@@ -74,10 +86,22 @@ TEST(ColumnNameScore, ClimbsFromTheMeasureOverSynonymsToEquality) {
 }
 
 TEST(ColumnNameScore, IsTheSameBothWaysAndBelowOneForDifferentNames) {
-    const std::vector<std::string> names = {
-        "abc",       "cab",  "aaa", "zzz", "depth", "maxdepth", "au_gt",
-        "ag_gt_2",   "dept", "th",  "az",  "dip",   "plongee",  std::string(64, 'q'),
-        std::string(65, 'q'), std::string(150, 'q') + "z"};
+    const std::vector<std::string> names = {"abc",
+                                            "cab",
+                                            "aaa",
+                                            "zzz",
+                                            "depth",
+                                            "maxdepth",
+                                            "au_gt",
+                                            "ag_gt_2",
+                                            "dept",
+                                            "th",
+                                            "az",
+                                            "dip",
+                                            "plongee",
+                                            std::string(64, 'q'),
+                                            std::string(65, 'q'),
+                                            std::string(150, 'q') + "z"};
     for (const std::string &a : names) {
         for (const std::string &b : names) {
             const double score = columnNameScore(a, b);

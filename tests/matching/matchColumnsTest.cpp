@@ -39,6 +39,8 @@ TEST(MatchColumns, FirstOfEqualVotesKeepsTheColumn) {
 TEST(MatchColumns, AVoteGoesToTheFirstOfEqualColumns) {
     EXPECT_EQ(matchColumns({"holename", "x", "easting"}, {"bhid", "holeid", "coordx"}),
               (Proposal{0, 2, -1}));
+    EXPECT_EQ(matchColumns({"easting", "x"}, {"coordx"}), (Proposal{0, -1}));
+    EXPECT_EQ(matchColumns({"x", "easting"}, {"coordx"}), (Proposal{0, -1}));
     EXPECT_EQ(matchColumns({"Depth", "depth"}, {"depth", "depth"}), (Proposal{0, -1}));
     EXPECT_EQ(matchColumns({"sample2", "samples"}, {"sample"}), (Proposal{0, -1}));
     // Names of different lengths, both with a score of 0.5.
@@ -83,6 +85,22 @@ TEST(MatchColumns, AColumnMayLoseItsOnlyVoteToABetterOneAndIsThenLeftOut) {
     // another file column takes that one.
     EXPECT_EQ(matchColumns({"dip", "dips"}, {"dip", "dip"}), (Proposal{0, -1}));
     EXPECT_EQ(matchColumns({"sample", "sampled"}, {"samples", "sample"}), (Proposal{1, -1}));
+}
+
+TEST(MatchColumns, NamesOfAnyLengthAreMatched) {
+    std::string giant;
+    for (int number = 0; giant.size() < 20000; ++number) {
+        giant += "sample" + std::to_string(number);
+    }
+    std::string altered = giant;
+    altered[giant.size() / 3] = '_';
+    const std::string backwards(giant.rbegin(), giant.rend());
+    EXPECT_EQ(matchColumns({"depth", giant}, {backwards, altered, "dept"}), (Proposal{2, 1}));
+    EXPECT_EQ(matchColumns({giant, "sample7"}, {"sample7_", altered}), (Proposal{1, 0}));
+    // A short name inside of a giant one covers all of itself and next to nothing of the other.
+    EXPECT_EQ(matchColumns({"sample77"}, {giant}), Proposal{0});
+    EXPECT_EQ(matchColumns({giant}, {"x", "sample77"}), Proposal{1});
+    EXPECT_EQ(matchColumns({"mpl77sae"}, {giant}), Proposal{-1});
 }
 
 } // namespace

@@ -14,6 +14,7 @@ TEST(NormalizeColumnName, BringsEverySpellingOfANameToOneForm) {
     const std::vector<std::pair<std::string, std::string>> cases = {
         {"", ""},
         {"Hole-ID", "hole_id"},
+        {"CORE 09", "core_09"},
         {"UTM X", "utm_x"},
         {"From (m)", "from__m_"},
         {"x ", "x_"},
@@ -75,7 +76,7 @@ TEST(ReplaceAll, GoesFromLeftToRightAndPassesOverWhatItPutIn) {
         std::string text, search, replacement, result;
     };
     const std::vector<Case> cases = {
-        {"", "%", "_pct", ""},      {"g", "g/t", "gt", "g"}, {"%_%", "_%", "_pct", "%_pct"},
+        {"", "%", "_pct", ""},       {"g", "g/t", "gt", "g"},     {"%_%", "_%", "_pct", "%_pct"},
         {"aaaaa", "aa", "a", "aaa"}, {"aba", "a", "aa", "aabaa"}, {"xyx", "x", "", "y"},
     };
     for (const Case &one : cases) {

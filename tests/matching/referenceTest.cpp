@@ -77,9 +77,8 @@ private:
 /// Short and long names, in alphabets that make many ties and in ones that make few.
 std::vector<NameSource> nameSources() {
     const std::string all = "abcdefghijklmnopqrstuvwxyz0123456789_";
-    return {{1, "ab", 6},   {2, "abc", 12},     {3, "abcdefgh", 10}, {4, all, 20},
-            {5, "ab", 140}, {6, "abcdef_", 90}, {7, all, 130},       {8, "aB %_/gt", 12},
-            {9, "ab#", 8}};
+    return {{1, "ab", 6},       {2, "abc", 12}, {3, "abcdefgh", 10}, {4, all, 20}, {5, "ab", 140},
+            {6, "abcdef_", 90}, {7, all, 130},  {8, "aB %_/gt", 12}, {9, "ab#", 8}};
 }
 
 TEST(FastMatcher, KnowsTheSynonymsOfTheReference) {
@@ -113,13 +112,21 @@ TEST(FastMatcher, ScoresEveryPairAsTheReferenceDoes) {
 }
 
 TEST(FastMatcher, ProposesWhatTheReferenceProposes) {
-    for (NameSource &source : nameSources()) {
-        for (int round = 0; round < 60; ++round) {
-            const std::vector<std::string> app = source.list(24);
-            const std::vector<std::string> file = source.list(24);
-            ASSERT_EQ(matchColumns(app, file), reference::matchColumns(app, file))
-                << ::testing::PrintToString(app) << '\n'
-                << ::testing::PrintToString(file);
+    // Few names of each kind, more application columns than are counted at once, and more bytes of
+    // long names than are read at once.
+    struct Lists {
+        std::size_t app, file;
+        int rounds;
+    };
+    for (const Lists &lists : {Lists{24, 24, 30}, Lists{400, 40, 1}, Lists{12, 500, 1}}) {
+        for (NameSource &source : nameSources()) {
+            for (int round = 0; round < lists.rounds; ++round) {
+                const std::vector<std::string> app = source.list(lists.app);
+                const std::vector<std::string> file = source.list(lists.file);
+                ASSERT_EQ(matchColumns(app, file), reference::matchColumns(app, file))
+                    << ::testing::PrintToString(app) << '\n'
+                    << ::testing::PrintToString(file);
+            }
         }
     }
 }

@@ -1,0 +1,116 @@
+"""Writes the results of a benchmark run into docs/performance.md, between its two marks, and draws
+docs/performance.svg."""
+
+import json
+import math
+import pathlib
+import sys
+
+BEGIN, END = "<!-- results -->\n", "<!-- end of results -->\n"
+
+
+def cpu_model():
+    for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
+        if line.startswith("model name"):
+            return line.split(":", 1)[1].strip()
+    return "unknown processor"
+
+
+def time_of(run):
+    time = run["cpu_time"] * {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}[run["time_unit"]]
+    for unit, size in (("s", 1e9), ("ms", 1e6), ("µs", 1e3)):
+        if time >= size:
+            return f"{time / size:.3g} {unit}"
+    return f"{time:.3g} ns"
+
+
+def ns_per_pair(run):
+    return run["time/pair"] * 1e9
+
+
+def significant(value):
+    return f"{value:,.0f}" if value >= 100 else f"{value:.3g}"
+
+
+def table(results):
+    context = results["context"]
+    runs = [run for run in results["benchmarks"] if run["run_type"] == "iteration"]
+    named = {run["name"]: run for run in runs}
+    lines = [
+        f"{cpu_model()}, {context['num_cpus']} processors; compiler {context['compiler']},"
+        f" `RelWithDebInfo`; {context['date'][:10]}.",
+        "",
+        "| Benchmark | Time | ns per pair |",
+        "|---|--:|--:|",
+    ]
+    for run in runs:
+        pair = significant(ns_per_pair(run)) if "time/pair" in run else ""
+        lines.append(f"| `{run['name']}` | {time_of(run)} | {pair} |")
+    literal = named.get("matchColumns/literal/200/1000")
+    current = named.get("matchColumns/current/200/1000")
+    if literal and current:
+        ratio = literal["cpu_time"] / current["cpu_time"]
+        lines += ["", f"200 application columns by 1,000 file columns: {ratio:,.0f} times as fast"
+                      " as the literal reading."]
+    return "\n".join(lines) + "\n"
+
+
+def points(results, prefix):
+    for run in results["benchmarks"]:
+        numbers = run["name"].removeprefix(prefix + "/").split("/")
+        if run["run_type"] == "iteration" and len(numbers) == 2 and numbers[0].isdigit():
+            yield int(numbers[0]), ns_per_pair(run)
+
+
+def plot(results):
+    """Nanoseconds per pair against the application columns, both axes logarithmic."""
+    width, height, left, bottom = 640, 400, 70, 50
+    series = [("literal reading", "#b03030", list(points(results, "matchColumns/literal"))),
+              ("current", "#3050b0", list(points(results, "matchColumns/current")))]
+    xs = [x for _, _, line in series for x, _ in line]
+    decades = range(-1, 5)
+
+    def x_at(x):
+        low, high = math.log(min(xs)), math.log(max(xs))
+        return left + (math.log(x) - low) / (high - low) * (width - left - 30)
+
+    def y_at(y):
+        share = (math.log10(y) - decades[0]) / (decades[-1] - decades[0])
+        return height - bottom - share * (height - bottom - 30)
+
+    out = [f'<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 {width} {height}"'
+           ' font-family="sans-serif" font-size="13">',
+           f'<rect width="{width}" height="{height}" fill="white"/>']
+    for decade in decades:
+        y = y_at(10.0 ** decade)
+        out.append(f'<path d="M{left} {y:.1f}H{width - 30}" stroke="#ddd"/>'
+                   f'<text x="{left - 8}" y="{y + 4:.1f}" text-anchor="end">{10.0 ** decade:g}'
+                   '</text>')
+    for x in sorted(set(xs)):
+        out.append(f'<text x="{x_at(x):.1f}" y="{height - bottom + 18}" text-anchor="middle">{x}'
+                   '</text>')
+    for name, colour, line in series:
+        path = "L".join(f"{x_at(x):.1f} {y_at(y):.1f}" for x, y in line)
+        out.append(f'<path d="M{path}" fill="none" stroke="{colour}" stroke-width="2"/>')
+        out += [f'<circle cx="{x_at(x):.1f}" cy="{y_at(y):.1f}" r="3" fill="{colour}"/>'
+                for x, y in line]
+        x, y = line[-1]
+        out.append(f'<text x="{x_at(x):.1f}" y="{y_at(y) - 10:.1f}" text-anchor="end"'
+                   f' fill="{colour}">{name}</text>')
+    out.append(f'<text x="{(left + width) / 2}" y="{height - 10}" text-anchor="middle">'
+               'application columns, with five file columns for each</text>')
+    out.append(f'<text x="{left}" y="18">ns per pair of columns</text></svg>')
+    return "\n".join(out) + "\n"
+
+
+def main():
+    results = json.loads(pathlib.Path(sys.argv[1]).read_text())
+    docs = pathlib.Path(sys.argv[2])
+    page = docs / "performance.md"
+    before, rest = page.read_text().split(BEGIN)
+    after = rest.split(END)[1]
+    page.write_text(before + BEGIN + "\n" + table(results) + "\n" + END + after)
+    (docs / "performance.svg").write_text(plot(results))
+
+
+main()
