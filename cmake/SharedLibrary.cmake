@@ -25,6 +25,7 @@ add_library(columnimport SHARED
     delimited/loadHeader.cpp
     dialogs/${platform}/SmallControls.cpp
     dialogs/HeaderSection.cpp
+    dialogs/LongNames.cpp
     dialogs/MatchingSection.cpp
     dialogs/NameText.cpp
     dialogs/matchTexts.cpp
@@ -50,8 +51,11 @@ target_link_libraries(columnimport PRIVATE
     columnimport_matching columnimport_delimited columnimport_toolkit)
 if(NOT WIN32)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
+    # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
+    # host closes it.
     target_link_options(columnimport PRIVATE
-        -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map -Wl,--no-undefined)
+        -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map -Wl,--no-undefined
+        -Wl,-z,relro -Wl,-z,now -Wl,-z,nodelete)
 endif()
 
 set(public_headers

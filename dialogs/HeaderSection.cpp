@@ -74,7 +74,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
 
     // The file's text is no caption: an ampersand in it is an ampersand.
     auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW,
-                                  wxControl::EscapeMnemonics(toText(getFilePreview())),
+                                  wxControl::EscapeMnemonics(columnimport::toPreviewText(getFilePreview())),
                                   wxDefaultPosition, wxSize(850, 125));
     columnimport::cutLongLines(*text);
     fitLines(*text, columnimport::previewLines);

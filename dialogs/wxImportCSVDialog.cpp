@@ -1,5 +1,6 @@
 #include "dialogs/wxImportCSVDialog.h"
 
+#include "dialogs/LongNames.h"
 #include "dialogs/matchTexts.h"
 #include "dragdrop/ListCtrlSource.h"
 
@@ -35,7 +36,7 @@ wxBEGIN_EVENT_TABLE(wxImportCSVDialog, wxDialog)
     }
 }
 
-wxImportCSVDialog::~wxImportCSVDialog() = default;
+wxImportCSVDialog::~wxImportCSVDialog() { columnimport::LongNames::forgetAll(); }
 
 void wxImportCSVDialog::create() {
     auto *sizer = new wxBoxSizer(wxVERTICAL);
