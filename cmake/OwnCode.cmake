@@ -12,10 +12,15 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 function(columnimport_own_code target)
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
     target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror)
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+        -fstack-protector-strong -Wformat -Werror=format-security)
     if(COLUMNIMPORT_SANITIZERS)
         target_compile_options(${target} PRIVATE
             -fsanitize=${COLUMNIMPORT_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_link_options(${target} PRIVATE -fsanitize=${COLUMNIMPORT_SANITIZERS})
+    else()
+        # The checked functions exist in optimised code only; the sanitizers check more.
+        target_compile_options(${target} PRIVATE
+            "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
     endif()
 endfunction()

@@ -32,6 +32,7 @@ add_library(columnimport SHARED
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/RowMarks.cpp
+    dragdrop/${platform}/dragIcon.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp

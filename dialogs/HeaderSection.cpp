@@ -72,12 +72,15 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
     sizer->Add(options, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, 10));
 
-    // The file's text is no caption: an ampersand in it is an ampersand.
-    auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW,
-                                  wxControl::EscapeMnemonics(columnimport::toPreviewText(getFilePreview())),
-                                  wxDefaultPosition, wxSize(850, 125));
-    columnimport::cutLongLines(*text);
+    // The file's text is no caption: an ampersand in it is an ampersand. Its size is given; a
+    // control that resized itself would lay out the whole text for each new font.
+    auto *text =
+        new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW,
+                         wxControl::EscapeMnemonics(columnimport::toPreviewText(getFilePreview())),
+                         wxDefaultPosition, wxSize(850, 125), wxST_NO_AUTORESIZE);
     fitLines(*text, columnimport::previewLines);
+    columnimport::cutLongLines(*text);
+    text->ToggleWindowStyle(wxST_NO_AUTORESIZE);
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
 
     loadHeader();

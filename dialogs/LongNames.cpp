@@ -51,7 +51,9 @@ wxString keep(const std::string &bytes) {
     return mark;
 }
 
-bool isMarked(const wxString &text) { return !digitsOf(text).empty(); }
+bool isMarked(const wxString &text) {
+    return !digitsOf(text).empty();
+}
 
 const std::string *find(const wxString &text) {
     std::size_t number = 0;
@@ -65,6 +67,8 @@ const std::string *find(const wxString &text) {
     return digits.empty() ? nullptr : kept().names[number];
 }
 
-void forgetAll() { kept() = Kept(); }
+void forgetAll() {
+    kept() = Kept();
+}
 
 } // namespace columnimport::LongNames

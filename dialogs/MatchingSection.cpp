@@ -15,6 +15,7 @@
 #include <wx/bitmap.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/image.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
@@ -64,6 +65,14 @@ void showMatches(const std::vector<std::string> &matchTexts,
     }
 }
 
+/// The arrow with an alpha channel for its mask: of a bitmap that has a mask, the toolkit keeps one
+/// more picture for each control that ever showed it.
+wxBitmap arrowBitmap() {
+    wxImage arrow(arrow_xpm);
+    arrow.InitAlpha();
+    return wxBitmap(arrow);
+}
+
 std::vector<std::string> positionalNames(std::size_t count) {
     return columnimport::positionalMatchTexts(count, count);
 }
@@ -73,7 +82,7 @@ std::vector<std::string> positionalNames(std::size_t count) {
 void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     auto *rematch = new wxButton(this, BTN_REMATCH, "Reset to Default");
     auto *matching = new wxStaticBoxSizer(wxHORIZONTAL, this, "Column Matching");
-    auto *arrow = new wxStaticBitmap(matching->GetStaticBox(), wxID_ANY, wxBitmap(arrow_xpm));
+    auto *arrow = new wxStaticBitmap(matching->GetStaticBox(), wxID_ANY, arrowBitmap());
     auto *buttons = CreateStdDialogButtonSizer(wxOK | wxCANCEL);
     auto *files = new ListBoxSource(matching->GetStaticBox(), LISTBOX_FILE, wxDefaultPosition,
                                     wxSize(250, 450));
@@ -126,6 +135,9 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
         showMatches(columnimport::proposedMatchTexts(m_appColumns, m_fileSchema), m_appColumns);
     }
     applyListBoxMatchFont();
+    // The list lays its rows out when the toolkit is idle, and is blank till then: with very many
+    // file columns, for as long as the other list takes to measure its own rows.
+    matchList().OnInternalIdle();
 }
 
 void wxImportCSVDialog::applyListBoxMatchFont() {

@@ -36,7 +36,9 @@ wxBEGIN_EVENT_TABLE(wxImportCSVDialog, wxDialog)
     }
 }
 
-wxImportCSVDialog::~wxImportCSVDialog() { columnimport::LongNames::forgetAll(); }
+wxImportCSVDialog::~wxImportCSVDialog() {
+    columnimport::LongNames::forgetAll();
+}
 
 void wxImportCSVDialog::create() {
     auto *sizer = new wxBoxSizer(wxVERTICAL);

@@ -56,6 +56,20 @@ void ListCtrlSource::hoverOver(long row) {
     }
 }
 
+void ListCtrlSource::scrollAtEdge() {
+    wxRect top;
+    if (GetItemCount() == 0 || !GetItemRect(GetTopItem(), top)) {
+        return;
+    }
+    constexpr int edge = 5;
+    const int pointer = ScreenToClient(wxGetMousePosition()).y;
+    if (pointer < top.y + edge) {
+        ScrollList(0, -top.height);
+    } else if (pointer >= GetClientSize().y - edge) {
+        ScrollList(0, top.height);
+    }
+}
+
 void ListCtrlSource::clearHoverRows() {
     for (long row = GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED); row != -1;
          row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
@@ -98,8 +112,8 @@ void ListCtrlSource::onLeftUp(wxMouseEvent &event) {
     }
     // The list may have fewer rows than when the anchor was set.
     if (shift && m_lastClickedRow >= 0 && m_lastClickedRow < GetItemCount()) {
-        const auto [first, last] = std::minmax<long>(m_lastClickedRow, row);
-        for (long inRange = first; inRange <= last; ++inRange) {
+        const long last = std::max<long>(m_lastClickedRow, row);
+        for (long inRange = std::min<long>(m_lastClickedRow, row); inRange <= last; ++inRange) {
             m_marks.set(inRange, true);
         }
     }

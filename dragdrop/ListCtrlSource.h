@@ -40,6 +40,10 @@ public:
     /// Puts `row` alone in the hover state, unless a row is marked.
     void hoverOver(long row);
 
+    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows. The edge is
+    /// thin, so that a drop on the first or last row in view is no matter of luck.
+    void scrollAtEdge();
+
     void clearHoverRows();
     void clearMarkedRows();
     int countMarkedRows() const;

@@ -1,5 +1,6 @@
 #include "dragdrop/TextDropTarget.h"
 
+#include "dialogs/NameText.h"
 #include "dialogs/matchTexts.h"
 #include "dialogs/wxImportCSVDialog.h"
 #include "dragdrop/ListCtrlSource.h"
@@ -21,6 +22,7 @@ wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult sugge
         if (row >= 0) {
             list.hoverOver(row);
         }
+        list.scrollAtEdge();
     }
     return suggested;
 }
@@ -36,7 +38,8 @@ bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     ListCtrlSource &list = *findMatchList();
     const long row = list.rowAt(wxPoint(x, y));
     if (row >= 0) {
-        list.setMatchText(row, text);
+        // Another program's text may be longer than the list could lay out.
+        list.setMatchText(row, toText(toBytes(text)));
     }
     return true;
 }

@@ -13,6 +13,9 @@ class ListCtrlSource;
 /// On the match list the text is written into the row under the pointer. On the list of file
 /// columns, whose target knows the match list, the text does not count: all marked rows of the
 /// match list become "Not used".
+///
+/// A row out of view is reached during a drag too: each move along the very edge of the match list
+/// scrolls it by a row.
 class TextDropTarget : public wxTextDropTarget {
 public:
     /// `ownerId` is the identifier of the control on which the target will sit, which then owns it.

@@ -11,6 +11,7 @@ namespace columnimport {
 bool movedWithButtonDown(const wxMouseEvent &move);
 
 /// Drags `text` out of `source` until it is dropped or given up; returns when the drag is over.
+/// If the window is to close meanwhile, it closes then.
 ///
 /// To be called from the handler of the mouse event that begins the drag.
 void dragText(wxWindow &source, const wxString &text);

@@ -1,5 +1,5 @@
-#include "dialogs/LongNames.h"
 #include "dialogs/NameText.h"
+#include "dialogs/LongNames.h"
 
 #include <clocale>
 #include <random>
@@ -24,8 +24,10 @@ TEST_P(NameText, AndBytesInvertEachOtherOnAnyBytesWithoutAZero) {
     const std::string long2 = std::string(999, 'x') + "\xC3\xA9 and more";
     std::vector<std::string> names = {"",
                                       "Teneur",
-                                      "Plong\xC3\xA9" "e",
-                                      "Plong\xE9" "e",
+                                      "Plong\xC3\xA9"
+                                      "e",
+                                      "Plong\xE9"
+                                      "e",
                                       "\xF4\x80\x83\xA9 is a private character",
                                       "\xC3\xA9\xE9 both",
                                       "\xE2\x80\xA6\xEE\x83\xB0",
@@ -51,8 +53,12 @@ TEST_P(NameText, AndBytesInvertEachOtherOnAnyBytesWithoutAZero) {
 }
 
 TEST_P(NameText, OfAFileIsLegibleInThePreview) {
-    EXPECT_EQ(toPreviewText("Plong\xC3\xA9" "e\nPlong\xE9" "e\n\n").AfterFirst('\n'),
-              wxString::FromUTF8("Plong\xC3\xA9" "e\n\n"));
+    EXPECT_EQ(toPreviewText("Plong\xC3\xA9"
+                            "e\nPlong\xE9"
+                            "e\n\n")
+                  .AfterFirst('\n'),
+              wxString::FromUTF8("Plong\xC3\xA9"
+                                 "e\n\n"));
     EXPECT_LT(toPreviewText(std::string(5000, 'x') + "\nnext\n").size(), 1100U);
 }
 

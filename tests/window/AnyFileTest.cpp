@@ -10,6 +10,8 @@
 #include <sys/stat.h>
 #include <wxImportCSVDialog.h>
 
+using namespace std::string_literals;
+
 namespace {
 
 class AnyFile : public testing::Test {
@@ -34,7 +36,8 @@ protected:
 } // namespace
 
 TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
-    const std::string latin1 = "Profondeur;Plong\xE9" "e;\xC0 droite\n1;2;3\n";
+    const std::string latin1 = "Profondeur;Plong\xE9"
+                               "e;\xC0 droite\n1;2;3\n";
     const struct {
         std::string content;
         char delimiter;
@@ -46,6 +49,7 @@ TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
         {"\x1b[31mhole\x07 name\n", ',', {"\x1b[31mhole\x07 name", ""}},
         {"BHID\xE9,Depth\xFF\xFE\n", ',', {"", "Depth\xFF\xFE"}},
         {latin1, ';', {"", ""}},
+        {"hole\0name,depth\n"s, ',', {"hole\0name"s, "depth"}},
     };
     for (const auto &row : cases) {
         const ScratchFile file(row.content);
@@ -57,14 +61,17 @@ TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
 }
 
 TEST_F(AnyFile, NamesThatTheLocaleCannotDecodeComeBackAsTheyWere) {
-    const ScratchFile file("Plong\xE9" "e,Az\xFF,\xF4\x80\x83\xA9\n");
+    const ScratchFile file("Plong\xE9"
+                           "e,Az\xFF,\xF4\x80\x83\xA9\n");
     run.fileName = file.path();
     EXPECT_TRUE(run.show([](Person &person) {
         person.drag(Person::fileRow(0), Person::matchRow(0));
         person.drag(Person::fileRow(2), Person::matchRow(1));
         pressOk(person);
     }));
-    EXPECT_EQ(run.matches, (Names{"Plong\xE9" "e", "\xF4\x80\x83\xA9"}));
+    EXPECT_EQ(run.matches, (Names{"Plong\xE9"
+                                  "e",
+                                  "\xF4\x80\x83\xA9"}));
     run.useSavedMatches = true;
     const Names saved = run.matches;
     EXPECT_TRUE(run.show(pressOk));

@@ -35,11 +35,10 @@ bool accompany(const std::function<void(Person &)> &act, const std::function<boo
 
 } // namespace
 
-bool DialogRun::show(const std::function<void(Person &)> &act) {
-    return accompany(act, [this] {
-        return wxImportCSVDialogPeer().showWindow(owner, title, appColumns, fileName,
-                                                  &useSavedMatches, &matches, &delimiter,
-                                                  &firstLineHeader, width, height);
+bool DialogRun::show(const std::function<void(Person &)> &act, wxImportCSVDialogPeer peer) {
+    return accompany(act, [this, &peer] {
+        return peer.showWindow(owner, title, appColumns, fileName, &useSavedMatches, &matches,
+                               &delimiter, &firstLineHeader, width, height);
     });
 }
 

@@ -25,8 +25,9 @@ struct DialogRun {
     int height = 900;
 
     /// Shows the dialog for the file and has a person act on it, on another thread, from the moment
-    /// when it stands. A person who gives up fails the test and leaves through Cancel.
-    bool show(const std::function<void(Person &)> &act);
+    /// when it stands. A person who gives up fails the test and leaves through Cancel. The run has
+    /// a peer of its own unless it is given one.
+    bool show(const std::function<void(Person &)> &act, wxImportCSVDialogPeer peer = {});
 
     /// The same for a table with these columns.
     bool showTable(const Names &tableColumns, const std::function<void(Person &)> &act);

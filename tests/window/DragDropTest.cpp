@@ -3,10 +3,12 @@
 #include "DialogRun.h"
 #include "tests/ScratchFile.h"
 
-#include <algorithm>
+#include <cstdlib>
+#include <functional>
 #include <random>
 #include <set>
 
+#include <glib.h>
 #include <gtest/gtest.h>
 #include <wxImportCSVDialog.h>
 
@@ -188,5 +190,144 @@ TEST_F(DragDrop, AClickInTheFileListSelectsAndLeavesTheMarks) {
         EXPECT_EQ(read([] { return fileList().GetSelection(); }), 3);
         EXPECT_EQ(markedRows(), Rows{2});
         pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
+    const struct {
+        const char *how;
+        std::function<void(Person &)> end;
+    } ways[] = {
+        {"Escape",
+         [](Person &person) {
+             person.dragTo(Person::fileRow(1), Person::matchRow(5));
+             person.strike(XK_Escape);
+             person.drop();
+         }},
+        {"another button",
+         [](Person &person) {
+             person.dragTo(Person::fileRow(5), Person::matchRow(5));
+             person.press(3);
+             person.release(3);
+             person.drop();
+         }},
+        {"outside of the window",
+         [](Person &person) {
+             person.dragTo(Person::fileRow(1), Person::matchRow(5));
+             person.moveTo(wxPoint(1500, 1100));
+             person.drop();
+         }},
+        {"a release before the drag can begin",
+         [](Person &person) {
+             for (int times = 0; times < 50; ++times) {
+                 person.moveTo(Person::fileRow(5));
+                 person.press();
+                 person.moveTo(Person::fileRow(5) + wxSize(1 + times % 2, 0));
+                 person.release();
+             }
+             waitUntil("no drag is left", [] { return g_main_depth() == 1; });
+         }},
+    };
+    EXPECT_TRUE(run.show([&ways](Person &person) {
+        Names texts = start;
+        for (const auto &way : ways) {
+            way.end(person);
+            EXPECT_EQ(matchTexts(), texts) << way.how;
+            person.drag(Person::fileRow(9), Person::matchRow(9));
+            EXPECT_EQ(matchTexts(), changed(texts, {{9, "AS"}})) << "after " << way.how;
+            person.drag(Person::matchRow(8), Person::matchRow(9));
+        }
+        pressOk(person);
+    }));
+    EXPECT_FALSE(run.show([](Person &person) {
+        person.dragTo(Person::fileRow(1), Person::matchRow(5));
+        onUserInterface([] { wxGetTopLevelParent(&matchList())->Close(); });
+        person.release();
+    }));
+}
+
+TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
+    run.appColumns = Names(300, "gold");
+    run.useSavedMatches = false;
+    const auto topRow = [] { return matchList().GetTopItem(); };
+    run.show([&topRow](Person &person) {
+        person.moveTo(Person::matchRow(3));
+        person.press(5);
+        person.release(5);
+        waitUntil("the wheel scrolls", [&topRow] { return topRow() > 0; });
+        const long top = read(topRow);
+        person.drag(Person::fileRow(8), Person::matchRow(static_cast<int>(top) + 2));
+        EXPECT_EQ(read([top] { return matchList().GetItemText(top + 2); }), "FE");
+        EXPECT_EQ(read(topRow), top) << "a drag away from the edges does not scroll";
+
+        person.dragTo(Person::fileRow(8), Person::matchRow(static_cast<int>(top) + 4));
+        const wxRect list = read([] { return matchList().GetScreenRect(); });
+        person.hoverAt(wxPoint(list.x + 60, list.GetBottom() - 2), "the last row is in view", [] {
+            return matchList().GetTopItem() + matchList().GetCountPerPage() >= 300;
+        });
+        const int last = 298;
+        person.moveTo(Person::matchRow(last));
+        waitUntil("the drag is over the row", isInHover(last));
+        person.drop();
+        EXPECT_EQ(read([] { return matchList().GetItemText(last); }), "FE");
+        pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, SoakOfMixedDragsFollowsTheRules) {
+    const char *seed = std::getenv("COLUMNIMPORT_SOAK_SEED");
+    std::mt19937 random(seed != nullptr ? static_cast<unsigned>(std::atoi(seed)) : 1U);
+    const auto any = [&random] { return std::uniform_int_distribution<int>(0, 9)(random); };
+    run.show([&any](Person &person) {
+        Names texts = start;
+        std::set<int> marked;
+        const auto take = [&marked](int row) {
+            if (marked.count(row) == 0) {
+                marked = {row};
+            }
+        };
+        for (int drags = 0; drags < 200; ++drags) {
+            const int from = any();
+            const int to = any();
+            switch (any()) {
+            case 0:
+                person.click(Person::matchRow(from));
+                marked = {from};
+                break;
+            case 1:
+                clickWith(person, XK_Control_L, {from},
+                          (marked.insert(from), Rows(marked.begin(), marked.end())));
+                break;
+            case 2:
+                person.drag(Person::fileRow(from), Person::fileRow(to));
+                marked.clear();
+                break;
+            case 3:
+                take(from);
+                person.drag(Person::matchRow(from), Person::belowFileRows());
+                for (const int row : marked) {
+                    texts[static_cast<std::size_t>(row)] = "Not used";
+                }
+                break;
+            case 4:
+                take(from);
+                person.drag(Person::matchRow(from), Person::belowMatchRows());
+                break;
+            case 5:
+            case 6:
+                take(from);
+                person.drag(Person::matchRow(from), Person::matchRow(to));
+                texts[static_cast<std::size_t>(to)] = texts[static_cast<std::size_t>(from)];
+                break;
+            default:
+                person.drag(Person::fileRow(from), Person::matchRow(to));
+                texts[static_cast<std::size_t>(to)] = fileColumns[static_cast<std::size_t>(from)];
+                marked.clear();
+            }
+            expectMarked(Rows(marked.begin(), marked.end()));
+            ASSERT_EQ(matchTexts(), texts) << "after " << drags + 1 << " drags";
+            ASSERT_EQ(boldRows(), unusedRows(texts));
+        }
+        pressOk(person);
     });
 }

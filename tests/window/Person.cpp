@@ -1,6 +1,7 @@
 #include "Person.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <future>
 #include <thread>
 
@@ -142,10 +143,11 @@ void Person::dragTo(wxPoint from, wxPoint to) {
     hoverAt(from + wxSize(1, 0), "the drag begins", [depth] { return g_main_depth() > depth; });
     onUserInterface(watchDragMotions);
     constexpr int steps = 4;
-    for (int step = 1; step <= steps; ++step) {
+    for (int step = 1; step < steps; ++step) {
         moveTo(from + (to - from) * step / steps);
     }
-    waitUntil("the drag has come to its place", [to] { return lastDragMotion == to; });
+    hoverAt(to, "the drag has come to its place",
+            [to] { return lastDragMotion.y == to.y && std::abs(lastDragMotion.x - to.x) <= 1; });
 }
 
 void Person::drop() {
@@ -240,14 +242,17 @@ wxPoint Person::middleOf(int controlId) {
 }
 
 wxPoint Person::fileRow(int row) {
-    return placeIn(wxImportCSVDialog::LISTBOX_FILE, [row](const wxWindow &window) {
-        // A list box does not tell where its rows are, only which row is at a place.
-        wxPoint place(40, 0);
-        while (place.y < window.GetClientSize().y && fileList().HitTest(place) != row) {
-            ++place.y;
+    // A list box does not tell where its rows are, only which row is at a place, once it is drawn.
+    const auto top = [row] {
+        int y = 0;
+        while (y < fileList().GetClientSize().y && fileList().HitTest(wxPoint(40, y)) != row) {
+            ++y;
         }
-        return place + wxSize(0, 4);
-    });
+        return y;
+    };
+    waitUntil("the row is in view", [top] { return top() < fileList().GetClientSize().y; });
+    return placeIn(wxImportCSVDialog::LISTBOX_FILE,
+                   [top](const wxWindow &) { return wxPoint(40, top() + 4); });
 }
 
 wxPoint Person::matchRow(int row) {

@@ -1,6 +1,6 @@
 #include <clocale>
-#include <cstdlib>
 
+#include <glib.h>
 #include <gtest/gtest.h>
 #include <wx/debug.h>
 #include <wx/string.h>
@@ -16,8 +16,9 @@ void failTest(const wxString &file, int line, const wxString &, const wxString &
 } // namespace
 
 int main(int argumentCount, char **arguments) {
-    // A GTK critical ends the test; so that it counts, this must stand before GTK starts.
-    setenv("G_DEBUG", "fatal-criticals", 1);
+    // A GTK critical ends the test. The environment variable for it would come too late here: it is
+    // read as the program is loaded.
+    g_log_set_always_fatal(static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL));
     std::setlocale(LC_ALL, "");
     wxSetAssertHandler(failTest);
     testing::InitGoogleTest(&argumentCount, arguments);

@@ -1,0 +1,116 @@
+// A host that is in use all day: a thousand imports in one process leave nothing behind.
+//     tests/with-screen columnimport_long_use [RUNS]
+
+#include "DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <filesystem>
+#include <iostream>
+#include <iterator>
+
+#include <gtest/gtest.h>
+#include <gtk/gtk.h>
+#include <malloc.h>
+#include <wx/toplevel.h>
+
+#include <gdk/gdkx.h>
+
+namespace {
+
+int runs = 1000;
+
+/// What the first runs fetch for good: fonts, themes, cursors, the windows that drags go through.
+constexpr int runsToWarmUp = 10;
+
+/// What later runs may take more, for each of them: the toolkit keeps 3 KB of every drag.
+constexpr std::ptrdiff_t bytesPerRun = 1024;
+
+/// What the process holds between two runs.
+struct Holdings {
+    std::ptrdiff_t bytes;
+    std::ptrdiff_t descriptors;
+    std::ptrdiff_t hostWindows;
+    std::size_t toolkitWindows;
+};
+
+Holdings holdings() {
+    malloc_trim(0);
+    const struct mallinfo2 memory = mallinfo2();
+    GList *windows = gtk_window_list_toplevels();
+    const Holdings now{static_cast<std::ptrdiff_t>(memory.uordblks + memory.hblkhd),
+                       std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}),
+                       static_cast<std::ptrdiff_t>(g_list_length(windows)),
+                       wxTopLevelWindows.GetCount()};
+    g_list_free(windows);
+    return now;
+}
+
+std::size_t windowsBelow(Display *screen, Window window) {
+    Window root = None;
+    Window parent = None;
+    Window *children = nullptr;
+    unsigned count = 0;
+    XQueryTree(screen, window, &root, &parent, &children, &count);
+    std::size_t sum = count;
+    for (unsigned i = 0; i < count; ++i) {
+        sum += windowsBelow(screen, children[i]);
+    }
+    XFree(children);
+    return sum;
+}
+
+/// The windows on the screen, of all programs.
+std::size_t windowsOnScreen() {
+    Display *screen = gdk_x11_display_get_xdisplay(gdk_display_get_default());
+    return windowsBelow(screen, XDefaultRootWindow(screen));
+}
+
+} // namespace
+
+TEST(LongUse, LeavesNothingBehind) {
+    ASSERT_GT(runs, runsToWarmUp);
+    const ScratchFile file("BHID,Dip,Au\n");
+    const wxImportCSVDialogPeer peer;
+    DialogRun run;
+    run.fileName = file.path();
+    run.appColumns = {"holename", "dip", "azimuth"};
+    Holdings atFirst{};
+    std::size_t windowsAtFirst = 0;
+    for (int done = 0; done < runs && !HasFailure(); ++done) {
+        if (done == runsToWarmUp) {
+            atFirst = holdings();
+            windowsAtFirst = windowsOnScreen();
+        }
+        const bool isConfirmed = done % 2 == 0;
+        EXPECT_EQ(run.show(
+                      [done, isConfirmed](Person &person) {
+                          if (done % 10 == 0) {
+                              person.drag(Person::fileRow(2), Person::matchRow(2));
+                          }
+                          (isConfirmed ? pressOk : pressCancel)(person);
+                      },
+                      peer),
+                  isConfirmed);
+        EXPECT_EQ(run.matches, (Names{"BHID", "Dip", done % 10 == 0 ? "Au" : ""}));
+    }
+    const Holdings atLast = holdings();
+    const std::ptrdiff_t grown = atLast.bytes - atFirst.bytes;
+    const int counted = runs - runsToWarmUp;
+    std::cout << counted << " runs: " << grown << " bytes more than " << atFirst.bytes << ", "
+              << atLast.descriptors << " descriptors, " << atLast.hostWindows << " windows\n";
+    EXPECT_LT(grown, counted * bytesPerRun);
+    EXPECT_EQ(atLast.descriptors, atFirst.descriptors);
+    EXPECT_EQ(atLast.hostWindows, atFirst.hostWindows);
+    EXPECT_EQ(atLast.toolkitWindows, 0U);
+    // The window manager takes a frame away after its window has gone.
+    poll("no window is left on the screen",
+         [windowsAtFirst] { return windowsOnScreen() <= windowsAtFirst; });
+}
+
+int main(int argumentCount, char **arguments) {
+    testing::InitGoogleTest(&argumentCount, arguments);
+    if (argumentCount > 1) {
+        runs = std::stoi(arguments[1]);
+    }
+    return RUN_ALL_TESTS();
+}
