@@ -91,9 +91,12 @@ wxString toPreviewText(const std::string &bytes) {
     wxString text;
     std::string_view rest(bytes);
     while (!rest.empty()) {
-        const std::size_t end = std::min(rest.find('\n'), rest.size() - 1) + 1;
+        const std::size_t end = std::min(rest.find('\n'), rest.size());
         text += readableLine(rest.substr(0, end));
-        rest.remove_prefix(end);
+        if (end < rest.size()) {
+            text += '\n';
+        }
+        rest.remove_prefix(std::min(end + 1, rest.size()));
     }
     return text;
 }

@@ -109,14 +109,6 @@ TEST_F(DragDrop, ResultsBySourceAndTarget) {
     EXPECT_EQ(run.matches, changed(result, {{2, ""}, {9, ""}}));
 }
 
-TEST_F(DragDrop, CancelHandsBackWhatTheRowsSayToo) {
-    EXPECT_FALSE(run.show([](Person &person) {
-        person.drag(Person::fileRow(0), Person::matchRow(5));
-        pressCancel(person);
-    }));
-    EXPECT_EQ(run.matches, changed(start, {{5, "HOLE"}, {8, ""}, {9, ""}}));
-}
-
 TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
     run.show([](Person &person) {
         clickWith(person, XK_Shift_L, {4}, {4});

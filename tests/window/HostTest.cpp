@@ -4,7 +4,6 @@
 #include "tests/ScratchFile.h"
 
 #include <functional>
-#include <thread>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -39,14 +38,6 @@ GtkWidget *newHostWindow() {
 GtkWindow *ownerOfDialog() {
     return gtk_window_get_transient_for(
         GTK_WINDOW(wxGetTopLevelParent(wxWindow::FindWindowById(wxID_OK))->GetHandle()));
-}
-
-wxPoint placeOf(GtkWidget *widget) {
-    wxPoint place;
-    gdk_window_get_origin(gtk_widget_get_window(widget), &place.x, &place.y);
-    GtkAllocation area;
-    gtk_widget_get_allocation(widget, &area);
-    return place + wxSize(area.x + area.width / 2, area.y + area.height / 2);
 }
 
 gboolean carryOut(void *work) {
@@ -114,32 +105,6 @@ TEST_F(Host, APlainMainLoopGoesOnAfterEachRun) {
     });
     gtk_main();
     EXPECT_TRUE(wentOn) << "the host's own main loop ended with the dialog";
-    gtk_widget_destroy(run.owner);
-}
-
-TEST_F(Host, ARunFromAButtonsHandlerLeavesTheButtonAsItWas) {
-    run.owner = newHostWindow();
-    GtkWidget *button = gtk_bin_get_child(GTK_BIN(run.owner));
-    int runs = 0;
-    const std::function<void()> import = [this, &runs] {
-        EXPECT_TRUE(run.show(pressOk));
-        ++runs;
-    };
-    g_signal_connect_swapped(button, "clicked",
-                             G_CALLBACK(+[](const std::function<void()> *work) { (*work)(); }),
-                             const_cast<void *>(static_cast<const void *>(&import)));
-    std::thread user([this, button, &runs] {
-        Person person;
-        for (const int wanted : {1, 2}) {
-            waitUntil("the host's window is active",
-                      [this] { return gtk_window_is_active(GTK_WINDOW(run.owner)) != 0; });
-            person.click(read([button] { return placeOf(button); }));
-            waitUntil("the button's handler returns", [&runs, wanted] { return runs == wanted; });
-        }
-        onUserInterface(gtk_main_quit);
-    });
-    gtk_main();
-    user.join();
     gtk_widget_destroy(run.owner);
 }
 

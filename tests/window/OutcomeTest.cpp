@@ -68,19 +68,6 @@ TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
     }
 }
 
-TEST_F(Outcome, TheNextRunTakesUpWhereTheLastOneEnded) {
-    run.delimiter = ';';
-    run.show(pressOk);
-    const Names first = run.matches;
-    EXPECT_EQ(first, (Names{"", "Dip"}));
-    run.useSavedMatches = true;
-    run.show([](Person &person) {
-        EXPECT_EQ(matchTexts(), (Names{"Not used", "Dip"}));
-        pressCancel(person);
-    });
-    EXPECT_EQ(run.matches, first);
-}
-
 TEST_F(Outcome, AFileColumnCalledNotUsedComesBackAsNone) {
     const ScratchFile named("Not used\n");
     run.fileName = named.path();
