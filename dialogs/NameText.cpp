@@ -32,12 +32,12 @@ wxString inLocale(const std::string &bytes) {
 }
 
 std::string plainBytes(const wxString &text) {
-    const std::string bytes = text.ToStdString(lossless());
+    std::string bytes = text.ToStdString(lossless());
     const bool hasPrivateCharacters = bytes != text.utf8_string();
     if (hasPrivateCharacters) {
         return bytes;
     }
-    const std::string localeBytes = text.ToStdString(wxConvLibc);
+    std::string localeBytes = text.ToStdString(wxConvLibc);
     return localeBytes.empty() ? bytes : localeBytes;
 }
 

@@ -1,5 +1,7 @@
 #include "host/NativeHost.h"
 
+#include <vector>
+
 #include <gtk/gtk.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
@@ -31,7 +33,8 @@ gboolean enterModalLoop(void *data) {
 void setUpToolkit() {
     if (hasDisplay()) {
         wxApp::SetInstance(new wxApp);
-        new wxInitializer; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
+        static std::vector<const wxInitializer *> lasting;
+        lasting.push_back(new wxInitializer);
     }
 }
 

@@ -36,8 +36,7 @@ protected:
 } // namespace
 
 TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
-    const std::string latin1 = "Profondeur;Plong\xE9"
-                               "e;\xC0 droite\n1;2;3\n";
+    const std::string latin1 = "Profondeur;plong\xE9\x65;\xC0 droite\n1;2;3\n";
     const struct {
         std::string content;
         char delimiter;
@@ -61,17 +60,14 @@ TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
 }
 
 TEST_F(AnyFile, NamesThatTheLocaleCannotDecodeComeBackAsTheyWere) {
-    const ScratchFile file("Plong\xE9"
-                           "e,Az\xFF,\xF4\x80\x83\xA9\n");
+    const ScratchFile file("plong\xE9\x65,Az\xFF,\xF4\x80\x83\xA9\n");
     run.fileName = file.path();
     EXPECT_TRUE(run.show([](Person &person) {
         person.drag(Person::fileRow(0), Person::matchRow(0));
         person.drag(Person::fileRow(2), Person::matchRow(1));
         pressOk(person);
     }));
-    EXPECT_EQ(run.matches, (Names{"Plong\xE9"
-                                  "e",
-                                  "\xF4\x80\x83\xA9"}));
+    EXPECT_EQ(run.matches, (Names{"plong\xE9\x65", "\xF4\x80\x83\xA9"}));
     run.useSavedMatches = true;
     const Names saved = run.matches;
     EXPECT_TRUE(run.show(pressOk));

@@ -61,9 +61,7 @@ TEST(ForeignText, IsWrittenIntoTheRowAsGiven) {
     DialogRun run;
     run.fileName = file.path();
     run.appColumns = {"hole", "from"};
-    const std::string texts[] = {"From elsewhere", "Not used",
-                                 "Plong\xC3\xA9"
-                                 "e (\xC2\xB0)",
+    const std::string texts[] = {"From elsewhere", "Not used", "plong\xC3\xA9\x65 (\xC2\xB0)",
                                  std::string(1 << 20, 'x'), "first\nsecond\nthird"};
     const auto drop = [&run](const std::string &text) {
         EXPECT_TRUE(run.show([&text](Person &person) {
