@@ -28,17 +28,11 @@ TEST(ReadHeader, CutsTheFirstLineAndDropsTheQuotes) {
     } cases[] = {
         {"Hole,From,To\r\n1,2,3\r\n", ',', {"Hole", "From", "To"}},
         {"only\rcarriage\rreturns", ',', {"only\rcarriage\rreturns"}},
-        {"a,b\r", ',', {"a", "b"}},
         {"", ',', {}},
         {" \t\r\n1,2\n", ',', {}},
-        {"a;b;c\n", ',', {"a;b;c"}},
-        {"a;b;c\n", ';', {"a", "b", "c"}},
+        {"a;b,c\n", ';', {"a", "b,c"}},
         {"\xEF\xBB\xBFHole,x\n", ',', {"\xEF\xBB\xBFHole", "x"}},
-        {"\"a,b\",c\n", ',', {"a", "b", "c"}},
-        {"\"\",\"\"\n", ',', {"", ""}},
-        {"\" a \",'b',c\"\"d\n", ',', {" a ", "'b'", "cd"}},
-        {"a,b,\n", ',', {"a", "b", ""}},
-        {"a\tb\t\n", '\t', {"a", "b"}},
+        {"\"a,b\",\" c \",'d',e\"\"f,\"\"\n", ',', {"a", "b", " c ", "'d'", "ef", ""}},
         {"TOP,THICK\n", 'T', {"", "OP,", "HICK"}},
         {std::string("a\0b\n", 4), '\0', {"a", "b"}},
     };
@@ -50,17 +44,14 @@ TEST(ReadHeader, CutsTheFirstLineAndDropsTheQuotes) {
 
 TEST(ReadPreview, GivesTenLinesAtMostEachWithOneLineFeed) {
     const struct {
-        std::string content;
-        std::string preview;
+        std::string content, preview;
     } cases[] = {
         {"", "\n"},
-        {"a", "a\n"},
         {"a\n", "a\n\n"},
         {"a\n\nb", "a\n\nb\n"},
         {lines(9), lines(9) + "\n"},
         {lines(10), lines(10)},
         {lines(11), lines(10)},
-        {lines(9) + "line 10", lines(10)},
         {"a\r\nb\r\r\nc\r", "a\nb\r\nc\r\n"},
     };
     for (const auto &row : cases) {

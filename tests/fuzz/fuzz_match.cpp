@@ -1,7 +1,6 @@
 // Proposals are those of the reference, and well formed. The first empty line parts the application
 // columns from the file columns.
 
-#include <algorithm>
 #include <set>
 
 #include "matching/matchColumns.h"
@@ -9,23 +8,22 @@
 #include "tests/fuzz/fuzzing.h"
 
 using namespace columnimport;
-using fuzzing::require;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size) {
-    const std::vector<std::string> names = fuzzing::lines(data, size);
-    const auto parting = std::find(names.begin(), names.end(), std::string());
+    const std::vector<std::string> names = lines(data, size, 0);
+    const auto parting = std::find(names.begin(), names.end(), "");
     const std::vector<std::string> app(names.begin(), parting);
     const std::vector<std::string> file(parting == names.end() ? parting : parting + 1,
                                         names.end());
 
     const std::vector<std::int32_t> proposal = matchColumns(app, file);
-    require(proposal == reference::matchColumns(app, file), "the reference's proposal", names);
-    require(proposal.size() == app.size(), "an entry for each application column", names);
+    require(proposal == reference::matchColumns(app, file), "the reference's proposal");
+    require(proposal.size() == app.size(), "an entry for each application column");
     std::set<std::int32_t> used;
     for (const std::int32_t position : proposal) {
-        require(position >= -1 && position < static_cast<std::int32_t>(file.size()),
-                "positions in the list", names);
-        require(position == -1 || used.insert(position).second, "no position twice", names);
+        require(position >= -1 && position < static_cast<std::int32_t>(file.size()) &&
+                    (position == -1 || used.insert(position).second),
+                "positions in the list, none twice");
     }
     return 0;
 }

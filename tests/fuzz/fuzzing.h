@@ -1,42 +1,33 @@
 #pragma once
 
-#include <cstddef>
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <sstream>
 #include <string>
 #include <vector>
 
-namespace columnimport::fuzzing {
+namespace columnimport {
 
-/// Aborts with the inputs printed, so that a fault can be read without its file.
-inline void require(bool holds, const char *law, const std::vector<std::string> &inputs) {
-    if (holds) {
-        return;
+/// Aborts if a law is broken. The fuzzer then keeps the input as a file.
+inline void require(bool holds, const char *law) {
+    if (!holds) {
+        std::fprintf(stderr, "broken: %s\n", law);
+        std::abort();
     }
-    std::fprintf(stderr, "broken: %s\n", law);
-    for (const std::string &input : inputs) {
-        std::fprintf(stderr, "  (%zu bytes) \"", input.size());
-        for (const char byte : input) {
-            std::fprintf(stderr, byte >= ' ' && byte <= '~' ? "%c" : "\\x%02x",
-                         static_cast<unsigned char>(byte));
-        }
-        std::fprintf(stderr, "\"\n");
-    }
-    std::abort();
 }
 
-/// The bytes in front of each line feed, and those behind the last.
-inline std::vector<std::string> lines(const std::uint8_t *data, std::size_t size) {
-    std::vector<std::string> result(1);
-    for (std::size_t i = 0; i < size; ++i) {
-        if (data[i] == '\n') {
-            result.emplace_back();
-        } else {
-            result.back() += static_cast<char>(data[i]);
-        }
+/// The lines of the input, filled up with empty ones to at least `least`.
+inline std::vector<std::string> lines(const std::uint8_t *data, std::size_t size,
+                                      std::size_t least) {
+    std::istringstream text(std::string(data, data + size));
+    std::vector<std::string> result;
+    for (std::string line; std::getline(text, line);) {
+        result.push_back(line);
     }
+    result.resize(std::max(result.size(), least));
     return result;
 }
 
-} // namespace columnimport::fuzzing
+} // namespace columnimport

@@ -5,7 +5,5 @@
 
 int main() {
     using namespace columnimport;
-    const std::vector<std::int32_t> proposal =
-        matchColumns(bench::columnNames(200, 1), bench::columnNames(1000, 2));
-    return proposal.size() == 200 ? 0 : 1;
+    return matchColumns(bench::columnNames(200, 1), bench::columnNames(1000, 2)).size() != 200;
 }

@@ -6,85 +6,55 @@
 
 #include "matching/columnNameScore.h"
 
-namespace columnimport {
-namespace {
-
+using namespace columnimport;
 using Names = std::vector<std::string>;
 using Proposal = std::vector<std::int32_t>;
 
-TEST(MatchColumns, ProposesByEqualityBySynonymAndByLikeness) {
-    EXPECT_EQ(matchColumns({"holename", "x", "dip"}, {"BHID", "UTM X", "Au g/t"}),
-              (Proposal{0, 1, -1}));
-    EXPECT_EQ(matchColumns({"AU_GT", "Cu %"}, {"cu_pct", "au (g/t)"}), (Proposal{1, 0}));
-    EXPECT_EQ(matchColumns({"az", "to"}, {"todepth", "azimuth"}), (Proposal{1, 0}));
-    EXPECT_EQ(matchColumns({"sample"}, {"samples"}), (Proposal{0}));
-}
+namespace {
 
-TEST(MatchColumns, AListWithoutNamesGivesNoMatch) {
-    EXPECT_EQ(matchColumns({}, {}), Proposal{});
-    EXPECT_EQ(matchColumns({}, {"x"}), Proposal{});
-    EXPECT_EQ(matchColumns({"x", "y"}, {}), (Proposal{-1, -1}));
-}
+struct Case {
+    Names app, file;
+    Proposal proposal;
+};
 
-TEST(MatchColumns, EmptyNamesFitEachOtherOnly) {
-    EXPECT_EQ(matchColumns({"x", ""}, {"", "y"}), (Proposal{-1, 0}));
-}
-
-TEST(MatchColumns, FirstOfEqualVotesKeepsTheColumn) {
-    EXPECT_EQ(matchColumns({"holename"}, {"bhid", "holeid"}), Proposal{0});
-    EXPECT_EQ(matchColumns({"depth"}, {"Depth", "DEPTH"}), Proposal{0});
-    EXPECT_EQ(matchColumns({"sample"}, {"samples", "sample2"}), Proposal{0});
-}
-
-TEST(MatchColumns, AVoteGoesToTheFirstOfEqualColumns) {
-    EXPECT_EQ(matchColumns({"holename", "x", "easting"}, {"bhid", "holeid", "coordx"}),
-              (Proposal{0, 2, -1}));
-    EXPECT_EQ(matchColumns({"easting", "x"}, {"coordx"}), (Proposal{0, -1}));
-    EXPECT_EQ(matchColumns({"x", "easting"}, {"coordx"}), (Proposal{0, -1}));
-    EXPECT_EQ(matchColumns({"Depth", "depth"}, {"depth", "depth"}), (Proposal{0, -1}));
-    EXPECT_EQ(matchColumns({"sample2", "samples"}, {"sample"}), (Proposal{0, -1}));
-    // Names of different lengths, both with a score of 0.5.
-    EXPECT_EQ(matchColumns({"abcxyd", "abd"}, {"abcdef"}), (Proposal{0, -1}));
-    EXPECT_EQ(matchColumns({"abd", "abcxyd"}, {"abcdef"}), (Proposal{0, -1}));
-}
-
-TEST(MatchColumns, TheStrongerVoteWinsWhereverItStands) {
-    const Names app = {"sample_number", "sample_no"};
-    const std::string strong = "sample_numbers";
-    const std::string weak = "sample_numb";
-    // Both put the first column first, and each would fit the second one well enough.
-    for (const std::string &name : {strong, weak}) {
-        ASSERT_GT(columnNameScore(app[0], name), columnNameScore(app[1], name));
-        ASSERT_GT(columnNameScore(app[1], name), 0.4);
+void expectProposals(const std::vector<Case> &cases) {
+    for (const Case &one : cases) {
+        SCOPED_TRACE(testing::PrintToString(one.app) + testing::PrintToString(one.file));
+        EXPECT_EQ(matchColumns(one.app, one.file), one.proposal);
     }
-    EXPECT_EQ(matchColumns(app, {weak, strong}), (Proposal{1, -1}));
-    EXPECT_EQ(matchColumns(app, {strong, weak}), (Proposal{0, -1}));
+}
+
+} // namespace
+
+TEST(MatchColumns, ProposesTheFirstOfTheBestFits) {
+    expectProposals({
+        {{"holename", "x", "dip"}, {"BHID", "UTM X", "Au g/t"}, {0, 1, -1}},
+        {{"AU_GT", "Cu %"}, {"cu_pct", "au (g/t)"}, {1, 0}},
+        {{"az", "to"}, {"todepth", "azimuth"}, {1, 0}},
+        {{}, {"x"}, {}},
+        {{"x", "y"}, {}, {-1, -1}},
+        {{"x", ""}, {"", "y"}, {-1, 0}},
+        // Equal votes for one column.
+        {{"holename"}, {"bhid", "holeid"}, {0}},
+        {{"sample"}, {"samples", "sample2"}, {0}},
+        // A vote that two columns are equally good for, in the last case with 0.5 at two lengths.
+        {{"easting", "x"}, {"coordx"}, {0, -1}},
+        {{"Depth", "depth"}, {"DEPTH", "depth"}, {0, -1}},
+        {{"abcxyd", "abd"}, {"abcdef"}, {0, -1}},
+        {{"abd", "abcxyd"}, {"abcdef"}, {0, -1}},
+        // The stronger vote wins, and the weaker one is lost to the column that it fits less.
+        {{"sample_number", "sample_no"}, {"sample_numb", "sample_numbers"}, {1, -1}},
+        {{"sample_number", "sample_no"}, {"sample_numbers", "sample_numb"}, {0, -1}},
+    });
 }
 
 TEST(MatchColumns, AScoreOfExactlyTheThresholdIsRefusedAndTheNextDoubleTaken) {
-    struct Case {
-        std::string app, file;
-        double score;
-        std::int32_t match;
-    };
-    const std::vector<Case> cases = {
-        {"abcde", "abdxy", 0.4, -1},
-        {"abcde", "acebx", 0.4, -1},
-        // 33 shared bytes and a run of 32 make 0.4 too, but for the rounding.
-        {std::string(32, 'a') + "b" + std::string(27, 'c'),
-         std::string(32, 'a') + "d" + std::string(86, 'd') + "b", std::nextafter(0.4, 1.0), 0},
-    };
-    for (const Case &one : cases) {
-        EXPECT_EQ(columnNameScore(one.app, one.file), one.score) << one.app;
-        EXPECT_EQ(matchColumns({one.app}, {one.file}), Proposal{one.match}) << one.file;
-    }
-}
-
-TEST(MatchColumns, AColumnMayLoseItsOnlyVoteToABetterOneAndIsThenLeftOut) {
-    // A file column that fits two columns is spent on the one that it fits better, even when
-    // another file column takes that one.
-    EXPECT_EQ(matchColumns({"dip", "dips"}, {"dip", "dip"}), (Proposal{0, -1}));
-    EXPECT_EQ(matchColumns({"sample", "sampled"}, {"samples", "sample"}), (Proposal{1, -1}));
+    // 33 shared bytes and a run of 32 make 0.4 too, but for the rounding.
+    const std::string app = std::string(32, 'a') + "b" + std::string(27, 'c');
+    const std::string file = std::string(32, 'a') + std::string(87, 'd') + "b";
+    EXPECT_EQ(columnNameScore("abcde", "abdxy"), 0.4);
+    EXPECT_EQ(columnNameScore(app, file), std::nextafter(0.4, 1.0));
+    expectProposals({{{"abcde"}, {"abdxy"}, {-1}}, {{app}, {file}, {0}}});
 }
 
 TEST(MatchColumns, NamesOfAnyLengthAreMatched) {
@@ -95,13 +65,11 @@ TEST(MatchColumns, NamesOfAnyLengthAreMatched) {
     std::string altered = giant;
     altered[giant.size() / 3] = '_';
     const std::string backwards(giant.rbegin(), giant.rend());
-    EXPECT_EQ(matchColumns({"depth", giant}, {backwards, altered, "dept"}), (Proposal{2, 1}));
-    EXPECT_EQ(matchColumns({giant, "sample7"}, {"sample7_", altered}), (Proposal{1, 0}));
-    // A short name inside of a giant one covers all of itself and next to nothing of the other.
-    EXPECT_EQ(matchColumns({"sample77"}, {giant}), Proposal{0});
-    EXPECT_EQ(matchColumns({giant}, {"x", "sample77"}), Proposal{1});
-    EXPECT_EQ(matchColumns({"mpl77sae"}, {giant}), Proposal{-1});
+    expectProposals({
+        {{"depth", giant}, {backwards, altered, "dept"}, {2, 1}},
+        // A short name inside of a giant one covers all of itself and next to nothing of the other.
+        {{"sample77"}, {giant}, {0}},
+        {{giant}, {"x", "sample77"}, {1}},
+        {{"mpl77sae"}, {giant}, {-1}},
+    });
 }
-
-} // namespace
-} // namespace columnimport
