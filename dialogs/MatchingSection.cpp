@@ -34,8 +34,7 @@ ListBoxSource &fileList() {
 }
 
 ListCtrlSource &matchList() {
-    return *static_cast<ListCtrlSource *>(
-        wxWindowBase::FindWindowById(wxImportCSVDialog::LISTBOX_MATCH));
+    return *columnimport::findMatchList();
 }
 
 /// The check box for the first line, or null: a table has none.

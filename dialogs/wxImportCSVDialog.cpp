@@ -47,8 +47,7 @@ void wxImportCSVDialog::create() {
 }
 
 std::vector<std::string> wxImportCSVDialog::getColumnNames() {
-    const auto *matchList =
-        static_cast<columnimport::ListCtrlSource *>(wxWindowBase::FindWindowById(LISTBOX_MATCH));
+    const columnimport::ListCtrlSource *matchList = columnimport::findMatchList();
     std::vector<std::string> names;
     for (int row = 0; row < matchList->GetItemCount(); ++row) {
         std::string name = matchList->getMatchText(row);
