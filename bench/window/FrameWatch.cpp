@@ -22,7 +22,7 @@ bool canBeSeen(GtkWidget *widget) {
 } // namespace
 
 FrameWatch::FrameWatch(std::vector<GtkWidget *> widgets, std::function<bool()> isNew,
-                       std::function<void(Appearance)> done)
+                       std::function<void(Clock::time_point)> done)
     : m_widgets(std::move(widgets)), m_waitingFor(m_widgets), m_isNew(std::move(isNew)),
       m_done(std::move(done)) {
     for (GtkWidget *widget : m_widgets) {
@@ -66,16 +66,14 @@ void FrameWatch::endFrame(GdkFrameClock *, void *self) {
         return;
     }
     gdk_display_sync(gdk_display_get_default());
-    watch.m_appearance.onScreen = Clock::now();
+    watch.m_onScreen = Clock::now();
     watch.disconnect();
-    g_idle_add_full(G_PRIORITY_LOW + 50, rest, self, nullptr);
+    g_idle_add_full(GDK_PRIORITY_REDRAW + 1, finish, self, nullptr);
 }
 
-gboolean FrameWatch::rest(void *self) {
+gboolean FrameWatch::finish(void *self) {
     auto &watch = *static_cast<FrameWatch *>(self);
-    gdk_display_sync(gdk_display_get_default());
-    watch.m_appearance.atRest = Clock::now();
-    watch.m_done(watch.m_appearance);
+    watch.m_done(watch.m_onScreen);
     return G_SOURCE_REMOVE;
 }
 

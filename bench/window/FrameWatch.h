@@ -10,24 +10,17 @@ namespace columnimport::bench {
 
 using Clock = std::chrono::steady_clock;
 
-/// When something new has come onto the screen.
-struct Appearance {
-    Clock::time_point onScreen; ///< the first frame that shows it is drawn
-    Clock::time_point atRest;   ///< nothing is left to be done, not even out of sight
-};
-
-/// Waits for the frame by which each of `widgets` has been drawn while `isNew` held, and for the
-/// rest behind it. Then it calls `done`, once.
+/// Waits for the first frame by which each of `widgets` has been drawn while `isNew` held. Then it
+/// calls `done` once, behind all that GTK still does for that frame.
 ///
 /// A frame is drawn when the window's frame clock says "after-paint" and the screen has carried out
 /// all that was sent to it. Two kinds of drawing do not count: into a window that the window
 /// manager has not yet put on the screen, since the screen drops it; and a control's that asks at
-/// once to be drawn again, since it stays blank. At rest is the user-interface thread when it takes
-/// up work of the lowest priority.
+/// once to be drawn again, since it stays blank.
 class FrameWatch {
 public:
     FrameWatch(std::vector<GtkWidget *> widgets, std::function<bool()> isNew,
-               std::function<void(Appearance)> done);
+               std::function<void(Clock::time_point)> done);
     ~FrameWatch();
     FrameWatch(const FrameWatch &) = delete;
     FrameWatch &operator=(const FrameWatch &) = delete;
@@ -35,15 +28,15 @@ public:
 private:
     static gboolean noteDraw(GtkWidget *widget, void *cairo, void *self);
     static void endFrame(GdkFrameClock *clock, void *self);
-    static gboolean rest(void *self);
+    static gboolean finish(void *self);
     void disconnect();
 
     std::vector<GtkWidget *> m_widgets;
     std::vector<GtkWidget *> m_waitingFor;
     std::function<bool()> m_isNew;
-    std::function<void(Appearance)> m_done;
+    std::function<void(Clock::time_point)> m_done;
     GdkFrameClock *m_clock = nullptr;
-    Appearance m_appearance;
+    Clock::time_point m_onScreen;
 };
 
 } // namespace columnimport::bench

@@ -2,12 +2,10 @@
 
 #include "bench/window/FrameWatch.h"
 #include "bench/window/Import.h"
-#include "host/ModalRun.h"
 #include "tests/window/Person.h"
 
 #include <future>
 #include <memory>
-#include <thread>
 
 #include <wx/dialog.h>
 #include <wx/eventfilter.h>
@@ -19,31 +17,15 @@ namespace columnimport::bench {
 
 namespace {
 
-constexpr std::int32_t width = 900;
-constexpr std::int32_t height = 900;
-
-class EmptyDialog : public wxImportCSVDialog {
-public:
-    explicit EmptyDialog(wxWindow *parent)
-        : wxImportCSVDialog(parent, "Import", {}, "", false, {}, ',', true) {}
-    void create() override {}
-};
-
-Delay since(Clock::time_point start, const Appearance &appearance) {
-    using Milliseconds = std::chrono::duration<double, std::milli>;
-    return {Milliseconds(appearance.onScreen - start).count(),
-            Milliseconds(appearance.atRest - start).count()};
-}
-
-/// What is to be seen of `dialog`: the rows of its lists, or the dialog itself if it has none.
-std::vector<GtkWidget *> contentOf(const wxDialog &dialog) {
-    if (dialog.FindWindow(wxImportCSVDialog::LISTBOX_FILE) == nullptr) {
-        return {dialog.GetHandle()};
-    }
+std::vector<GtkWidget *> bothLists() {
     return {gtk_bin_get_child(GTK_BIN(fileList().GetHandle())), matchList().GetHandle()};
 }
 
-/// Watches the next dialog that is shown and closes it when it is at rest.
+wxTextCtrl &delimiterField() {
+    return *static_cast<wxTextCtrl *>(wxWindow::FindWindowById(wxImportCSVDialog::TXT_DELIMITER));
+}
+
+/// Watches the next dialog that is shown and closes it when its lists are on the screen.
 class NextDialog : private wxEventFilter {
 public:
     NextDialog() { wxEvtHandler::AddFilter(this); }
@@ -51,16 +33,16 @@ public:
     NextDialog(const NextDialog &) = delete;
     NextDialog &operator=(const NextDialog &) = delete;
 
-    Appearance appearance() { return m_appearance.get_future().get(); }
+    Clock::time_point onScreen() { return m_onScreen.get_future().get(); }
 
 private:
     int FilterEvent(wxEvent &event) override {
         auto *dialog = dynamic_cast<wxDialog *>(event.GetEventObject());
         if (event.GetEventType() == wxEVT_SHOW && dialog != nullptr && !m_watch) {
             m_watch = std::make_unique<FrameWatch>(
-                contentOf(*dialog), [] { return true; },
-                [this, dialog](Appearance appearance) {
-                    m_appearance.set_value(appearance);
+                bothLists(), [] { return true; },
+                [this, dialog](Clock::time_point onScreen) {
+                    m_onScreen.set_value(onScreen);
                     dialog->EndModal(wxID_CANCEL);
                 });
         }
@@ -68,7 +50,7 @@ private:
     }
 
     std::unique_ptr<FrameWatch> m_watch;
-    std::promise<Appearance> m_appearance;
+    std::promise<Clock::time_point> m_onScreen;
 };
 
 void show(GtkWidget *host, const Import &import, char delimiter) {
@@ -77,14 +59,10 @@ void show(GtkWidget *host, const Import &import, char delimiter) {
     std::vector<std::string> matches;
     wxImportCSVDialogPeer().showWindow(host, "Import", import.appColumns(), import.fileName(),
                                        &useSavedMatches, &matches, &delimiter, &firstLineHeader,
-                                       width, height);
+                                       900, 900);
 }
 
-wxTextCtrl &delimiterField() {
-    return *static_cast<wxTextCtrl *>(wxWindow::FindWindowById(wxImportCSVDialog::TXT_DELIMITER));
-}
-
-Delay typeComma(Person &person) {
+Milliseconds typeComma(Person &person) {
     person.click(wxImportCSVDialog::TXT_DELIMITER);
     waitUntil("the delimiter field has the focus",
               [] { return wxWindow::FindFocus() == &delimiterField(); });
@@ -93,46 +71,33 @@ Delay typeComma(Person &person) {
     waitUntil("the delimiter field is empty", [] { return delimiterField().GetValue().empty(); });
 
     std::unique_ptr<FrameWatch> watch;
-    std::promise<Appearance> appearance;
+    std::promise<Clock::time_point> onScreen;
     onUserInterface([&] {
         watch = std::make_unique<FrameWatch>(
-            contentOf(static_cast<wxDialog &>(*wxGetTopLevelParent(&delimiterField()))),
-            [] { return delimiterField().GetValue() == ","; },
-            [&](Appearance seen) { appearance.set_value(seen); });
+            bothLists(), [] { return delimiterField().GetValue() == ","; },
+            [&](Clock::time_point seen) { onScreen.set_value(seen); });
     });
     const auto start = Clock::now();
     person.strike(XK_comma);
-    return since(start, appearance.get_future().get());
+    const Clock::time_point end = onScreen.get_future().get();
+    onUserInterface([&] { watch.reset(); });
+    return end - start;
 }
 
 } // namespace
 
-Delay openEmpty(GtkWidget *host) {
-    NextDialog next;
-    const auto start = Clock::now();
-    {
-        const OpenRun run;
-        HostStandIn parent(host);
-        EmptyDialog dialog(parent.window());
-        runDialog(dialog, width, height);
-        parent.release();
-        dialog.Destroy();
-    }
-    return since(start, next.appearance());
-}
-
-Delay open(GtkWidget *host, const Import &import) {
+Milliseconds open(GtkWidget *host, const Import &import) {
     NextDialog next;
     const auto start = Clock::now();
     show(host, import, ',');
-    return since(start, next.appearance());
+    return next.onScreen() - start;
 }
 
-Delay typeDelimiter(GtkWidget *host, const Import &import) {
+Milliseconds typeDelimiter(GtkWidget *host, const Import &import) {
     auto delay = std::async(std::launch::async, [] {
         Person person;
         person.waitForDialog();
-        const Delay typed = typeComma(person);
+        const Milliseconds typed = typeComma(person);
         onUserInterface([] {
             static_cast<wxDialog *>(wxGetTopLevelParent(&delimiterField()))->EndModal(wxID_CANCEL);
         });
