@@ -2,7 +2,8 @@
 
 #include "bench/window/FrameWatch.h"
 #include "bench/window/Import.h"
-#include "tests/window/Person.h"
+#include "person/Person.h"
+#include "person/openDialog.h"
 
 #include <future>
 #include <memory>
@@ -19,10 +20,6 @@ namespace {
 
 std::vector<GtkWidget *> bothLists() {
     return {gtk_bin_get_child(GTK_BIN(fileList().GetHandle())), matchList().GetHandle()};
-}
-
-wxTextCtrl &delimiterField() {
-    return *static_cast<wxTextCtrl *>(wxWindow::FindWindowById(wxImportCSVDialog::TXT_DELIMITER));
 }
 
 /// Watches the next dialog that is shown and closes it when its lists are on the screen.
@@ -63,22 +60,17 @@ void show(GtkWidget *host, const Import &import, char delimiter) {
 }
 
 Milliseconds typeComma(Person &person) {
-    person.click(wxImportCSVDialog::TXT_DELIMITER);
-    waitUntil("the delimiter field has the focus",
-              [] { return wxWindow::FindFocus() == &delimiterField(); });
-    person.strike(XK_BackSpace);
-    person.strike(XK_Delete);
-    waitUntil("the delimiter field is empty", [] { return delimiterField().GetValue().empty(); });
-
+    person.emptyDelimiter();
     std::unique_ptr<FrameWatch> watch;
     std::promise<Clock::time_point> onScreen;
     onUserInterface([&] {
         watch = std::make_unique<FrameWatch>(
-            bothLists(), [] { return delimiterField().GetValue() == ","; },
+            bothLists(),
+            [] { return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue() == ","; },
             [&](Clock::time_point seen) { onScreen.set_value(seen); });
     });
     const auto start = Clock::now();
-    person.strike(XK_comma);
+    person.strike(',');
     const Clock::time_point end = onScreen.get_future().get();
     onUserInterface([&] { watch.reset(); });
     return end - start;
@@ -98,9 +90,7 @@ Milliseconds typeDelimiter(GtkWidget *host, const Import &import) {
         Person person;
         person.waitForDialog();
         const Milliseconds typed = typeComma(person);
-        onUserInterface([] {
-            static_cast<wxDialog *>(wxGetTopLevelParent(&delimiterField()))->EndModal(wxID_CANCEL);
-        });
+        onUserInterface([] { openDialog().EndModal(wxID_CANCEL); });
         return typed;
     });
     show(host, import, ' ');

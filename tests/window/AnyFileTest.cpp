@@ -1,6 +1,6 @@
 // Files that no one would want to import: the dialog stands, says what it can, and can be left.
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <chrono>

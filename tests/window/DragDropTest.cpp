@@ -1,6 +1,6 @@
 // What the hand does in the two lists: marks, the row under the pointer, drags and drops.
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <cstdlib>
@@ -66,7 +66,7 @@ Rows unusedRows(const Names &texts) {
 
 /// Clicks with a key held down until the marks are as wanted: the handler asks for the keys as they
 /// are when it runs.
-void clickWith(Person &person, KeySym key, const Rows &rows, const Rows &wanted) {
+void clickWith(Person &person, int key, const Rows &rows, const Rows &wanted) {
     person.keyDown(key);
     for (const int row : rows) {
         person.click(Person::matchRow(row));
@@ -111,18 +111,18 @@ TEST_F(DragDrop, ResultsBySourceAndTarget) {
 
 TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
     run.show([](Person &person) {
-        clickWith(person, XK_Shift_L, {4}, {4});
+        clickWith(person, WXK_SHIFT, {4}, {4});
         person.click(Person::matchRow(5));
         expectMarked({5});
-        clickWith(person, XK_Shift_L, {2}, {2, 3, 4, 5});
-        clickWith(person, XK_Control_L, {8, 3, 9}, {2, 3, 4, 5, 8, 9});
-        clickWith(person, XK_Shift_L, {7}, {2, 3, 4, 5, 7, 8, 9});
+        clickWith(person, WXK_SHIFT, {2}, {2, 3, 4, 5});
+        clickWith(person, WXK_CONTROL, {8, 3, 9}, {2, 3, 4, 5, 8, 9});
+        clickWith(person, WXK_SHIFT, {7}, {2, 3, 4, 5, 7, 8, 9});
         person.click(Person::belowMatchRows());
         expectMarked({});
-        clickWith(person, XK_Shift_L, {6}, {6, 7});
+        clickWith(person, WXK_SHIFT, {6}, {6, 7});
         person.click(wxImportCSVDialog::BTN_REMATCH);
         expectMarked({});
-        clickWith(person, XK_Shift_L, {3}, {3, 4, 5, 6});
+        clickWith(person, WXK_SHIFT, {3}, {3, 4, 5, 6});
         EXPECT_EQ(hoverRows(), Rows());
         pressCancel(person);
     });
@@ -156,7 +156,7 @@ TEST_F(DragDrop, RowsDraggedBackToTheFileListAreCleared) {
     run.show([](Person &person) {
         person.click(Person::matchRow(2));
         expectMarked({2});
-        clickWith(person, XK_Shift_L, {4}, {2, 3, 4});
+        clickWith(person, WXK_SHIFT, {4}, {2, 3, 4});
         person.drag(Person::matchRow(3), Person::matchRow(0));
         EXPECT_EQ(markedRows(), (Rows{2, 3, 4}));
         Names texts = changed(start, {{0, "AU"}});
@@ -193,7 +193,7 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
         {"Escape",
          [](Person &person) {
              person.dragTo(Person::fileRow(1), Person::matchRow(5));
-             person.strike(XK_Escape);
+             person.strike(WXK_ESCAPE);
              person.drop();
          }},
         {"another button",
@@ -206,7 +206,7 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
         {"outside of the window",
          [](Person &person) {
              person.dragTo(Person::fileRow(1), Person::matchRow(5));
-             person.moveTo(wxPoint(1500, 1100));
+             person.moveTo(wxPoint(1400, 1000));
              person.drop();
          }},
         {"a release before the drag can begin",
@@ -217,7 +217,7 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
                  person.moveTo(Person::fileRow(5) + wxSize(1 + times % 2, 0));
                  person.release();
              }
-             waitUntil("no drag is left", [] { return g_main_depth() == 1; });
+             waitUntil("no drag is left", [] { return !isDragRunning(); });
          }},
     };
     EXPECT_TRUE(run.show([&ways](Person &person) {
@@ -233,7 +233,7 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
     }));
     EXPECT_FALSE(run.show([](Person &person) {
         person.dragTo(Person::fileRow(1), Person::matchRow(5));
-        onUserInterface([] { wxGetTopLevelParent(&matchList())->Close(); });
+        onUserInterface([] { openDialog().Close(); });
         person.release();
     }));
 }
@@ -253,8 +253,10 @@ TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
         EXPECT_EQ(read(topRow), top) << "a drag away from the edges does not scroll";
 
         person.dragTo(Person::fileRow(8), Person::matchRow(static_cast<int>(top) + 4));
-        const wxRect list = read([] { return matchList().GetScreenRect(); });
-        person.hoverAt(wxPoint(list.x + 60, list.GetBottom() - 2), "the last row is in view", [] {
+        const wxPoint bottom = read([] {
+            return openDialog().ScreenToClient(matchList().GetScreenRect().GetBottomLeft());
+        });
+        person.hoverAt(bottom + wxSize(60, -2), "the last row is in view", [] {
             return matchList().GetTopItem() + matchList().GetCountPerPage() >= 300;
         });
         const int last = 298;
@@ -287,7 +289,7 @@ TEST_F(DragDrop, SoakOfMixedDragsFollowsTheRules) {
                 marked = {from};
                 break;
             case 1:
-                clickWith(person, XK_Control_L, {from},
+                clickWith(person, WXK_CONTROL, {from},
                           (marked.insert(from), Rows(marked.begin(), marked.end())));
                 break;
             case 2:

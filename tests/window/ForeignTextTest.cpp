@@ -1,6 +1,6 @@
 // Text that comes from another program.
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <cstdio>
@@ -38,7 +38,7 @@ public:
         }
     }
 
-    static wxPoint place() { return {1300, 300}; }
+    static wxPoint place() { return {1200, 180}; }
 
 private:
     std::string line() {

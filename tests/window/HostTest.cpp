@@ -1,6 +1,6 @@
 // The dialog over the windows and inside the event loops of different hosts.
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <functional>
@@ -36,8 +36,7 @@ GtkWidget *newHostWindow() {
 
 /// The window that the dialog is told to stay above of.
 GtkWindow *ownerOfDialog() {
-    return gtk_window_get_transient_for(
-        GTK_WINDOW(wxGetTopLevelParent(wxWindow::FindWindowById(wxID_OK))->GetHandle()));
+    return gtk_window_get_transient_for(GTK_WINDOW(openDialog().GetHandle()));
 }
 
 gboolean carryOut(void *work) {

@@ -1,7 +1,7 @@
 // A host that is in use all day: a thousand imports in one process leave nothing behind.
 //     tests/with-screen columnimport_long_use [RUNS]
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <filesystem>

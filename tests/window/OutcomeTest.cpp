@@ -1,6 +1,6 @@
 // What the host gets back from a run, however it ends, and where the dialog stands meanwhile.
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <gtest/gtest.h>
@@ -21,22 +21,19 @@ protected:
     DialogRun run;
 };
 
-wxDialog &dialog() {
-    return static_cast<wxDialog &>(*wxGetTopLevelParent(wxWindow::FindWindowById(wxID_OK)));
-}
-
 /// The close box, through the message that a window manager sends for it.
 void pressCloseBox(Person &) {
     onUserInterface([] {
         GdkEvent *event = gdk_event_new(GDK_DELETE);
-        event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(dialog().GetHandle())));
+        event->any.window =
+            GDK_WINDOW(g_object_ref(gtk_widget_get_window(openDialog().GetHandle())));
         gtk_main_do_event(event);
         gdk_event_free(event);
     });
 }
 
 void pressEscape(Person &person) {
-    person.strike(XK_Escape);
+    person.strike(WXK_ESCAPE);
 }
 
 } // namespace
@@ -83,10 +80,8 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
         run.width = size.x;
         run.height = size.y;
         run.show([&size](Person &person) {
-            const Window window = windowOfDialog();
             const wxRect wanted(wxPoint(100, 100), size);
-            waitUntil("the frame is in its place",
-                      [&] { return person.frameOf(window) == wanted; });
+            waitUntil("the frame is in its place", [&] { return frameOfDialog() == wanted; });
             pressEscape(person);
         });
     }

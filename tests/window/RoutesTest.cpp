@@ -1,6 +1,6 @@
 // Which rows each way of filling the lists shows, and what sends the dialog from one to another.
 
-#include "DialogRun.h"
+#include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
 #include <gtest/gtest.h>

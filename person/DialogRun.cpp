@@ -1,0 +1,58 @@
+#include "person/DialogRun.h"
+
+#include <chrono>
+#include <future>
+
+bool accompany(const Act &act, const std::function<bool()> &show) {
+    std::future<void> actor;
+    bool result = false;
+    {
+        // Its end tells that the run is over, also if `show` throws.
+        std::promise<void> run;
+        actor = std::async(std::launch::async, [&act, over = run.get_future()] {
+            try {
+                Person person;
+                person.waitForDialog();
+                act(person);
+                poll("the dialog is closed", [&over] {
+                    return over.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+                });
+            } catch (const GivenUp &) {
+                onUserInterface([] {
+                    if (isDialogOpen()) {
+                        openDialog().EndModal(wxID_CANCEL);
+                    }
+                });
+                throw;
+            }
+        });
+        result = show();
+    }
+    while (actor.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+        handleEvents();
+    }
+    actor.get();
+    return result;
+}
+
+bool DialogRun::show(const Act &act, wxImportCSVDialogPeer peer) {
+    return accompany(act, [this, &peer] {
+        return peer.showWindow(owner, title, appColumns, fileName, &useSavedMatches, &matches,
+                               &delimiter, &firstLineHeader, width, height);
+    });
+}
+
+bool DialogRun::showTable(const Names &tableColumns, const Act &act) {
+    return accompany(act, [this, &tableColumns] {
+        return wxImportCSVDialogPeer().showWindow(owner, title, appColumns, tableColumns, fileName,
+                                                  &useSavedMatches, &matches, width, height);
+    });
+}
+
+void pressOk(Person &person) {
+    person.click(wxID_OK);
+}
+
+void pressCancel(Person &person) {
+    person.click(wxID_CANCEL);
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "person/Hand.h"
+#include "person/UserInterface.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <wx/gdicmn.h>
+
+/// A person at the screen: a real pointer and real keys, on a thread of its own. Controls are found
+/// by their identifiers and rows by their numbers, and all are reached by the pointer. Points are
+/// places in the client area of the dialog, keys have the toolkit's numbers.
+class Person {
+public:
+    Person();
+
+    /// Lets go of a button that is still down.
+    ~Person();
+
+    Person(const Person &) = delete;
+    Person &operator=(const Person &) = delete;
+
+    void moveTo(wxPoint point);
+
+    /// Moves to `point` and stays there with a hand's small movements until `isSo` holds on the
+    /// user-interface thread: the toolkit drops a move that comes while it handles another.
+    void hoverAt(wxPoint point, const std::string &expected, const std::function<bool()> &isSo);
+
+    void press(int button = 1);
+    void release(int button = 1);
+    void click(wxPoint point);
+    void click(int controlId) { click(middleOf(controlId)); }
+
+    /// Presses at `from`, waits for the drag to begin, and moves on to `to` in a few steps; then
+    /// the button is still down.
+    void dragTo(wxPoint from, wxPoint to);
+
+    /// Releases the button and waits for the end of the drag.
+    void drop();
+
+    /// Both in one.
+    void drag(wxPoint from, wxPoint to);
+
+    void keyDown(int key);
+    void keyUp(int key);
+    void strike(int key);
+
+    /// Replaces the content of the delimiter field by one character.
+    void typeDelimiter(char character);
+    void emptyDelimiter();
+
+    /// Waits until the dialog stands on the screen.
+    void waitForDialog();
+
+    static wxPoint middleOf(int controlId);
+    static wxPoint fileRow(int row);
+    static wxPoint matchRow(int row);
+
+    /// A place in the list beside its entries: below the last one.
+    static wxPoint belowFileRows();
+    static wxPoint belowMatchRows();
+
+private:
+    std::unique_ptr<Hand> m_hand;
+    int m_buttonDown = 0;
+};

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "person/Hand.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <wx/gdicmn.h>
+
+// What a person needs of the platform. Each platform has a file of its own with these functions.
+// All but the first two are to be called on the user-interface thread.
+
+/// The hand for the screen that the dialogs are shown on.
+std::unique_ptr<Hand> makeHand();
+
+/// Runs `work` on the user-interface thread, behind all input that the screen has delivered so far,
+/// and waits for it; what it throws is thrown here. To be called on any other thread.
+void onUserInterface(const std::function<void()> &work);
+
+/// Carries out what `onUserInterface` asks for while no event loop is running.
+void handleEvents();
+
+/// Whether the dialog is shown, takes keys, and has been given its place and size.
+bool dialogStands();
+
+/// The place and size of the dialog's window with its frame, as the screen has them.
+wxRect frameOfDialog();
+
+/// Whether a drag out of the dialog is under way.
+bool isDragRunning();
+
+/// Where the drag that is under way was last over a place that takes its text, as a place in the
+/// client area of the dialog.
+std::optional<wxPoint> placeOfDrag();
+
+/// Whether a row of the match list is shown as marked.
+bool isShownAsMarked(int row);

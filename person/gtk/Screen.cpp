@@ -1,0 +1,121 @@
+#include "person/Screen.h"
+
+#include "person/openDialog.h"
+#include "person/x11/XTestHand.h"
+
+#include <exception>
+#include <future>
+
+#include <gtk/gtk.h>
+
+namespace {
+
+struct Call {
+    const std::function<void()> &work;
+    std::promise<void> done;
+};
+
+gboolean carryOut(void *data) {
+    auto &call = *static_cast<Call *>(data);
+    try {
+        call.work();
+        call.done.set_value();
+    } catch (...) {
+        call.done.set_exception(std::current_exception());
+    }
+    return G_SOURCE_REMOVE;
+}
+
+wxPoint originOf(GdkWindow *window) {
+    wxPoint origin;
+    gdk_window_get_origin(window, &origin.x, &origin.y);
+    return origin;
+}
+
+/// What becomes of the drags of this process.
+struct DragNotes {
+    bool isRunning = false;
+    std::optional<wxPoint> place;
+};
+
+DragNotes dragNotes;
+
+gboolean noteBegin(GSignalInvocationHint *, unsigned, const GValue *, void *) {
+    dragNotes.isRunning = true;
+    dragNotes.place.reset();
+    return TRUE;
+}
+
+gboolean noteMotion(GSignalInvocationHint *, unsigned, const GValue *values, void *) {
+    GdkWindow *target = gtk_widget_get_window(GTK_WIDGET(g_value_get_object(&values[0])));
+    dragNotes.place = originOf(target) - openDialog().ClientToScreen(wxPoint()) +
+                      wxPoint(g_value_get_int(&values[2]), g_value_get_int(&values[3]));
+    return TRUE;
+}
+
+gboolean noteEnd(GSignalInvocationHint *, unsigned, const GValue *, void *) {
+    dragNotes.isRunning = false;
+    return TRUE;
+}
+
+void onSignal(const char *signal, GSignalEmissionHook hook) {
+    g_signal_add_emission_hook(g_signal_lookup(signal, GTK_TYPE_WIDGET), 0, hook, nullptr, nullptr);
+}
+
+void watchDrags() {
+    static const bool done = [] {
+        onSignal("drag-begin", noteBegin);
+        onSignal("drag-motion", noteMotion);
+        onSignal("drag-end", noteEnd);
+        return true;
+    }();
+    static_cast<void>(done);
+}
+
+} // namespace
+
+std::unique_ptr<Hand> makeHand() {
+    return std::make_unique<XTestHand>();
+}
+
+void onUserInterface(const std::function<void()> &work) {
+    Call call{work, {}};
+    std::future<void> done = call.done.get_future();
+    // Behind all that is due: input that the screen has delivered is handled first.
+    g_idle_add_full(G_PRIORITY_LOW + 50, carryOut, &call, nullptr);
+    done.get();
+}
+
+void handleEvents() {
+    g_main_context_iteration(nullptr, FALSE);
+}
+
+// The window manager gives the frame its place and its size in steps.
+bool dialogStands() {
+    if (!isDialogOpen() || !openDialog().IsActive()) {
+        return false;
+    }
+    watchDrags();
+    const wxRect frame = frameOfDialog();
+    return frame.GetPosition() == wxPoint(100, 100) && frame.width >= 100;
+}
+
+wxRect frameOfDialog() {
+    GdkRectangle frame;
+    gdk_window_get_frame_extents(gtk_widget_get_window(openDialog().GetHandle()), &frame);
+    return {frame.x, frame.y, frame.width, frame.height};
+}
+
+bool isDragRunning() {
+    return dragNotes.isRunning;
+}
+
+std::optional<wxPoint> placeOfDrag() {
+    return dragNotes.place;
+}
+
+// The highlight is what there is to be seen of a mark.
+bool isShownAsMarked(int row) {
+    const wxColour colour = matchList().GetItemBackgroundColour(row);
+    return colour.IsOk() && colour != matchList().GetBackgroundColour();
+}

@@ -1,0 +1,79 @@
+#include "person/openDialog.h"
+
+#include "person/UserInterface.h"
+
+#include <functional>
+
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+std::vector<int> rowsWhere(const std::function<bool(int)> &isSo) {
+    return read([&isSo] {
+        std::vector<int> rows;
+        for (int row = 0; row < matchList().GetItemCount(); ++row) {
+            if (isSo(row)) {
+                rows.push_back(row);
+            }
+        }
+        return rows;
+    });
+}
+
+} // namespace
+
+bool isDialogOpen() {
+    const wxWindow *ok = wxWindow::FindWindowById(wxID_OK);
+    return ok != nullptr && ok->IsShownOnScreen();
+}
+
+wxDialog &openDialog() {
+    if (!isDialogOpen()) {
+        throw GivenUp("no dialog is open");
+    }
+    return dynamic_cast<wxDialog &>(*wxGetTopLevelParent(wxWindow::FindWindowById(wxID_OK)));
+}
+
+wxListBox &fileList() {
+    return control<wxListBox>(wxImportCSVDialog::LISTBOX_FILE);
+}
+
+wxListCtrl &matchList() {
+    return control<wxListCtrl>(wxImportCSVDialog::LISTBOX_MATCH);
+}
+
+Names matchTexts() {
+    return read([] {
+        Names texts;
+        for (int row = 0; row < matchList().GetItemCount(); ++row) {
+            texts.push_back(
+                matchList().GetItemText(row, wxImportCSVDialog::COLUMN_MATCH).utf8_string());
+        }
+        return texts;
+    });
+}
+
+std::vector<int> boldRows() {
+    return rowsWhere(
+        [](int row) { return matchList().GetItemFont(row).GetWeight() == wxFONTWEIGHT_BOLD; });
+}
+
+std::vector<int> markedRows() {
+    return rowsWhere(isShownAsMarked);
+}
+
+std::vector<int> hoverRows() {
+    return rowsWhere([](int row) {
+        return matchList().GetItemState(row, wxLIST_STATE_SELECTED) == wxLIST_STATE_SELECTED;
+    });
+}
+
+Names fileTexts() {
+    return read([] {
+        Names texts;
+        for (unsigned row = 0; row < fileList().GetCount(); ++row) {
+            texts.push_back(fileList().GetString(row).utf8_string());
+        }
+        return texts;
+    });
+}

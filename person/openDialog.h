@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include <wx/dialog.h>
+#include <wx/listbox.h>
+#include <wx/listctrl.h>
+
+using Names = std::vector<std::string>;
+
+// The dialog that is open and its controls; to be used on the user-interface thread.
+
+bool isDialogOpen();
+wxDialog &openDialog();
+wxListBox &fileList();
+wxListCtrl &matchList();
+
+/// A control of the dialog, by its identifier.
+template <typename Control = wxWindow>
+Control &control(int id) {
+    return dynamic_cast<Control &>(*openDialog().FindWindow(id));
+}
+
+// What is to be read of it; to be used on a person's thread.
+
+/// The texts of the match list's first column, and those of its rows that are shown in bold.
+Names matchTexts();
+std::vector<int> boldRows();
+
+/// The rows of the match list that are marked, and those in the hover state.
+std::vector<int> markedRows();
+std::vector<int> hoverRows();
+
+/// The texts of the list of file columns.
+Names fileTexts();

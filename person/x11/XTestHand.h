@@ -1,0 +1,24 @@
+#pragma once
+
+#include "person/Hand.h"
+
+// The X11 headers define macros that do not go with other headers.
+struct _XDisplay; // NOLINT(bugprone-reserved-identifier): the name that X11 gives it
+
+/// The hand on an X11 screen: the server takes its input for that of real devices.
+class XTestHand : public Hand {
+public:
+    XTestHand();
+    ~XTestHand() override;
+
+    void findDialog() override;
+    void moveTo(wxPoint point) override;
+    void setButton(int button, bool isDown) override;
+    void setKey(int key, bool isDown) override;
+
+private:
+    void send();
+
+    _XDisplay *m_display;
+    wxPoint m_dialog;
+};
