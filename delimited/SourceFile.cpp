@@ -6,13 +6,16 @@
 namespace columnimport {
 
 SourceFile::SourceFile(const std::string &path) {
-    const std::filesystem::path file = std::filesystem::u8path(path);
-    std::error_code failure;
-    if (std::filesystem::is_regular_file(file, failure)) {
-        // The carriage returns are dropped in readLine: only one platform's text mode would.
-        m_stream.open(file, std::ios::in | std::ios::binary);
-    } else {
-        m_stream.setstate(std::ios::failbit);
+    m_stream.setstate(std::ios::failbit);
+    try {
+        const std::filesystem::path file = std::filesystem::u8path(path);
+        std::error_code failure;
+        if (std::filesystem::is_regular_file(file, failure)) {
+            // The carriage returns are dropped in readLine: only one platform's text mode would.
+            m_stream.open(file, std::ios::in | std::ios::binary);
+        }
+    } catch (const std::system_error &) {
+        // Where a path is made of wide characters, bytes that are no UTF-8 name no file.
     }
 }
 

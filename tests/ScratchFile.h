@@ -2,25 +2,27 @@
 
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <string>
-
-#include <stdlib.h>
-#include <unistd.h>
 
 /// A file with this content that lives as long as the object.
 class ScratchFile {
 public:
     explicit ScratchFile(const std::string &content)
-        : m_path(std::filesystem::temp_directory_path() / "columnimport-XXXXXX") {
-        close(mkstemp(m_path.data()));
+        : m_path(std::filesystem::temp_directory_path() /
+                 ("columnimport-" + std::to_string(std::random_device()()))) {
         std::ofstream(m_path, std::ios::binary) << content;
     }
-    ~ScratchFile() { unlink(m_path.c_str()); }
+    ~ScratchFile() {
+        std::error_code isLeft;
+        std::filesystem::remove(m_path, isLeft);
+    }
     ScratchFile(const ScratchFile &) = delete;
     ScratchFile &operator=(const ScratchFile &) = delete;
 
-    const std::string &path() const { return m_path; }
+    /// In UTF-8.
+    std::string path() const { return m_path.u8string(); }
 
 private:
-    std::string m_path;
+    std::filesystem::path m_path;
 };
