@@ -45,18 +45,37 @@ generate_export_header(columnimport)
 columnimport_own_code(columnimport)
 set_target_properties(columnimport PROPERTIES
     VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR}
-    LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+    SOVERSION ${PROJECT_VERSION_MAJOR})
 target_compile_features(columnimport PUBLIC cxx_std_17)
 target_link_libraries(columnimport PRIVATE
     columnimport_matching columnimport_delimited columnimport_toolkit)
-if(NOT WIN32)
+if(WIN32)
+    # The name that the platform's libraries have, whatever the compiler's own custom is.
+    set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
+else()
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
     # host closes it.
     target_link_options(columnimport PRIVATE
         -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map -Wl,--no-undefined
         -Wl,-z,relro -Wl,-z,now -Wl,-z,nodelete)
+    set_target_properties(columnimport PROPERTIES
+        LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
+endif()
+
+# The library for what looks inside: it shares the toolkit with it. Where the toolkit is linked into
+# the library, nobody else meets its objects, and this is the same code once more.
+if(WIN32)
+    add_library(columnimport_inside STATIC $<TARGET_OBJECTS:columnimport>)
+    target_compile_definitions(columnimport_inside INTERFACE COLUMNIMPORT_STATIC_DEFINE)
+    target_include_directories(columnimport_inside INTERFACE
+        $<TARGET_PROPERTY:columnimport,INTERFACE_INCLUDE_DIRECTORIES>)
+    target_link_libraries(columnimport_inside PUBLIC
+        columnimport_matching columnimport_delimited columnimport_toolkit)
+else()
+    add_library(columnimport_inside INTERFACE)
+    target_link_libraries(columnimport_inside INTERFACE
+        columnimport::columnimport columnimport_toolkit)
 endif()
 
 set(public_headers

@@ -9,7 +9,10 @@
 #include <wx/gdicmn.h>
 
 // What a person needs of the platform. Each platform has a file of its own with these functions.
-// All but the first two are to be called on the user-interface thread.
+// All but `makeHand` and `onUserInterface` are to be called on the user-interface thread.
+
+/// Ends the program, from now on, when the platform complains of what the toolkit asks of it.
+void endOnComplaints();
 
 /// The hand for the screen that the dialogs are shown on.
 std::unique_ptr<Hand> makeHand();
@@ -26,6 +29,9 @@ bool dialogStands();
 
 /// The place and size of the dialog's window with its frame, as the screen has them.
 wxRect frameOfDialog();
+
+/// Asks the dialog to close, as the window manager does for its close box.
+void pressCloseBox();
 
 /// Whether a drag out of the dialog is under way.
 bool isDragRunning();

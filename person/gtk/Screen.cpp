@@ -74,6 +74,11 @@ void watchDrags() {
 
 } // namespace
 
+// The environment variable for it would come too late: it is read as the program is loaded.
+void endOnComplaints() {
+    g_log_set_always_fatal(static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL));
+}
+
 std::unique_ptr<Hand> makeHand() {
     return std::make_unique<XTestHand>();
 }
@@ -104,6 +109,13 @@ wxRect frameOfDialog() {
     GdkRectangle frame;
     gdk_window_get_frame_extents(gtk_widget_get_window(openDialog().GetHandle()), &frame);
     return {frame.x, frame.y, frame.width, frame.height};
+}
+
+void pressCloseBox() {
+    GdkEvent *event = gdk_event_new(GDK_DELETE);
+    event->any.window = GDK_WINDOW(g_object_ref(gtk_widget_get_window(openDialog().GetHandle())));
+    gtk_main_do_event(event);
+    gdk_event_free(event);
 }
 
 bool isDragRunning() {

@@ -7,7 +7,6 @@
 #include <fstream>
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 #include <wxImportCSVDialog.h>
 
 using namespace std::string_literals;
@@ -95,7 +94,7 @@ TEST_F(AnyFile, OneThatShrinksOrVanishesMeanwhileIsReadAsItIs) {
         std::ofstream(file.path()).close();
         person.typeDelimiter(';');
         waitUntil("the emptied file has no columns", [] { return fileList().GetCount() == 0; });
-        unlink(file.path().c_str());
+        std::filesystem::remove(std::filesystem::u8path(file.path()));
         person.typeDelimiter(',');
         pressOk(person);
     }));

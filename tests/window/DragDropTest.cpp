@@ -8,7 +8,6 @@
 #include <random>
 #include <set>
 
-#include <glib.h>
 #include <gtest/gtest.h>
 #include <wxImportCSVDialog.h>
 
