@@ -20,14 +20,13 @@ target_compile_definitions(columnimport_toolkit INTERFACE ${wxWidgets_DEFINITION
 target_compile_options(columnimport_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
 target_link_libraries(columnimport_toolkit INTERFACE ${wxWidgets_LIBRARIES})
 
+add_subdirectory(names)
+
 add_library(columnimport SHARED
-    delimited/getFilePreview.cpp
-    delimited/loadHeader.cpp
+    delimited/dialogMembers.cpp
     dialogs/${platform}/SmallControls.cpp
     dialogs/HeaderSection.cpp
-    dialogs/LongNames.cpp
     dialogs/MatchingSection.cpp
-    dialogs/NameText.cpp
     dialogs/matchTexts.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
@@ -37,8 +36,13 @@ add_library(columnimport SHARED
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp
     dragdrop/dragText.cpp
-    host/${platform}/NativeHost.cpp
-    host/ModalRun.cpp
+    host/${platform}/modalLoop.cpp
+    host/${platform}/nativeWindow.cpp
+    host/${platform}/toolkit.cpp
+    host/ApplicationObject.cpp
+    host/HostStandIn.cpp
+    host/OpenRun.cpp
+    host/runDialog.cpp
     host/wxImportCSVDialogPeer.cpp)
 add_library(columnimport::columnimport ALIAS columnimport)
 generate_export_header(columnimport)
@@ -48,11 +52,12 @@ set_target_properties(columnimport PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR})
 target_compile_features(columnimport PUBLIC cxx_std_17)
 target_link_libraries(columnimport PRIVATE
-    columnimport_matching columnimport_delimited columnimport_toolkit)
+    columnimport_matching columnimport_delimited columnimport_names columnimport_toolkit)
 if(WIN32)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
 else()
+    target_sources(columnimport PRIVATE host/gtk/QuietStart.cpp)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
     # host closes it.

@@ -4,8 +4,9 @@
 #include "dialogs/wxImportCSVDialog.h"
 
 #include "delimited/readPreview.h"
-#include "dialogs/NameText.h"
 #include "dialogs/SmallControls.h"
+#include "dragdrop/controls.h"
+#include "names/nameText.h"
 
 #include <wx/checkbox.h>
 #include <wx/image.h>
@@ -14,15 +15,12 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-using columnimport::toBytes;
-using columnimport::toText;
-
 namespace {
 
-/// Gives `text` the largest font, up to the usual size, at which `lines` lines fit into its height.
-void fitLines(wxStaticText &text, int lines) {
-    // Read once: a new font makes a static text take its best size until the next layout.
-    const int height = text.GetSize().GetHeight();
+const wxSize previewSize(850, 125);
+
+/// Gives `text` the largest font, up to the usual size, at which `lines` lines fit into `height`.
+void fitLines(wxStaticText &text, int lines, int height) {
     wxFont font = text.GetFont();
     font.SetFamily(wxFONTFAMILY_TELETYPE);
     text.SetFont(font);
@@ -56,9 +54,9 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
 
     auto *label = new wxStaticText(options->GetStaticBox(), wxID_ANY,
                                    "Field Delimiter ('S' for 'space' 'T' for 'tab')");
-    auto *delimiter =
-        new wxTextCtrl(options->GetStaticBox(), TXT_DELIMITER, toText(std::string(1, m_delimiter)),
-                       wxDefaultPosition, wxSize(25, 20));
+    auto *delimiter = new wxTextCtrl(options->GetStaticBox(), TXT_DELIMITER,
+                                     columnimport::decoded(std::string(1, m_delimiter)),
+                                     wxDefaultPosition, wxSize(25, 20));
     delimiter->SetMaxLength(1);
     columnimport::fitOneCharacter(*delimiter);
     delimiterRow->Add(label);
@@ -72,23 +70,22 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
     sizer->Add(options, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, 10));
 
-    // The file's text is no caption: an ampersand in it is an ampersand. Its size is given; a
-    // control that resized itself would lay out the whole text for each new font.
-    auto *text =
-        new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW,
-                         wxControl::EscapeMnemonics(columnimport::toPreviewText(getFilePreview())),
-                         wxDefaultPosition, wxSize(850, 125), wxST_NO_AUTORESIZE);
-    fitLines(*text, columnimport::previewLines);
+    auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW, wxEmptyString,
+                                  wxDefaultPosition, previewSize);
+    fitLines(*text, columnimport::previewLines, previewSize.y);
     columnimport::cutLongLines(*text);
-    text->ToggleWindowStyle(wxST_NO_AUTORESIZE);
+    // The file's text is no caption: an ampersand in it is an ampersand. A new label makes a static
+    // text as large as itself, and the box around it would be fitted to that.
+    text->SetLabelText(columnimport::previewText(getFilePreview()));
+    text->SetSize(previewSize);
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
 
     loadHeader();
 }
 
 void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
-    const auto *control = static_cast<wxTextCtrl *>(wxWindowBase::FindWindowById(TXT_DELIMITER));
-    const std::string typed = toBytes(control->GetValue());
+    const auto *control = columnimport::findControl<wxTextCtrl>(*this, TXT_DELIMITER);
+    const std::string typed = columnimport::encoded(control->GetValue());
     if (typed.empty() || typed.front() == m_delimiter) {
         return;
     }

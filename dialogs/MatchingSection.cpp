@@ -3,12 +3,13 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
-#include "dialogs/NameText.h"
 #include "dialogs/arrow.xpm"
 #include "dialogs/matchTexts.h"
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/TextDropTarget.h"
+#include "dragdrop/controls.h"
+#include "names/nameText.h"
 
 #include <cassert>
 
@@ -21,46 +22,50 @@
 #include <wx/statbox.h>
 #include <wx/wupdlock.h>
 
+using columnimport::findControl;
 using columnimport::ListBoxSource;
 using columnimport::ListCtrlSource;
 using columnimport::TextDropTarget;
-using columnimport::toText;
+
+static_assert(wxImportCSVDialog::LISTBOX_FILE == columnimport::fileListId);
+static_assert(wxImportCSVDialog::LISTBOX_MATCH == columnimport::matchListId);
+static_assert(wxImportCSVDialog::COLUMN_MATCH == columnimport::matchColumn);
 
 namespace {
 
-ListBoxSource &fileList() {
-    return *static_cast<ListBoxSource *>(
-        wxWindowBase::FindWindowById(wxImportCSVDialog::LISTBOX_FILE));
+ListBoxSource &fileListOf(wxWindow &dialog) {
+    return *findControl<ListBoxSource>(dialog, wxImportCSVDialog::LISTBOX_FILE);
 }
 
-ListCtrlSource &matchList() {
-    return *columnimport::findMatchList();
+ListCtrlSource &matchListOf(wxWindow &dialog) {
+    return *findControl<ListCtrlSource>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
 }
 
 /// The check box for the first line, or null: a table has none.
-wxCheckBox *firstLineBox() {
-    return static_cast<wxCheckBox *>(wxWindowBase::FindWindowById(wxImportCSVDialog::CHECK_HEADER));
+wxCheckBox *firstLineBoxOf(wxWindow &dialog) {
+    return findControl<wxCheckBox>(dialog, wxImportCSVDialog::CHECK_HEADER);
 }
 
-void showFileColumns(const std::vector<std::string> &names) {
+void showFileColumns(ListBoxSource &list, const std::vector<std::string> &names,
+                     columnimport::NameBook &book) {
     wxArrayString items;
     items.reserve(names.size());
     for (const std::string &name : names) {
-        items.push_back(toText(name));
+        items.push_back(book.textOf(name));
     }
     if (!items.empty()) {
-        fileList().Append(items);
+        list.Append(items);
     }
 }
 
-void showMatches(const std::vector<std::string> &matchTexts,
+void showMatches(ListCtrlSource &list, const std::vector<std::string> &matchTexts,
                  const std::vector<std::string> &appColumns) {
     assert(matchTexts.size() <= appColumns.size());
-    ListCtrlSource &list = matchList();
     for (std::size_t index = 0; index < matchTexts.size(); ++index) {
         const auto row = static_cast<long>(index);
-        list.InsertItem(row, toText(matchTexts[index]));
-        list.SetItem(row, wxImportCSVDialog::COLUMN_APP, toText(appColumns[index]), -1);
+        list.InsertItem(row, list.names().textOf(matchTexts[index]));
+        list.SetItem(row, wxImportCSVDialog::COLUMN_APP, columnimport::shownText(appColumns[index]),
+                     -1);
     }
 }
 
@@ -100,54 +105,61 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     matches->InsertColumn(COLUMN_MATCH, "Matching", wxLIST_FORMAT_LEFT, 245);
     matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, 245);
 
-    m_matchDropTarget = new TextDropTarget(matches->GetId());
+    m_matchDropTarget = new TextDropTarget(*matches);
     matches->SetDropTarget(m_matchDropTarget);
-    m_fileDropTarget = new TextDropTarget(files->GetId());
+    m_fileDropTarget = new TextDropTarget(*files);
     files->SetDropTarget(m_fileDropTarget);
     m_fileDropTarget->setMatchList(matches);
 
     SetSizerAndFit(sizer, true);
+    // In a smaller frame the controls keep their sizes too, and are cut off by it.
+    SetVirtualSize(GetClientSize());
     wxCommandEvent refresh(wxEVT_NULL, 0);
     onCheckHeader(refresh);
 }
 
 void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
-    const wxCheckBox *firstLine = firstLineBox();
-    const wxWindowUpdateLocker fileListLock(&fileList());
-    const wxWindowUpdateLocker matchListLock(&matchList());
-    fileList().Clear();
-    matchList().DeleteAllItems();
+    const wxCheckBox *firstLine = firstLineBoxOf(*this);
+    ListBoxSource &files = fileListOf(*this);
+    ListCtrlSource &matches = matchListOf(*this);
+    const wxWindowUpdateLocker fileListLock(&files);
+    const wxWindowUpdateLocker matchListLock(&matches);
+    files.Clear();
+    matches.DeleteAllItems();
+    matches.names().clear();
     if (firstLine != nullptr) {
         m_firstLineHeader = firstLine->IsChecked();
     }
 
     if (!m_firstLineHeader) {
-        showFileColumns(positionalNames(m_fileSchema.size()));
-        showMatches(columnimport::positionalMatchTexts(m_appColumns.size(), m_fileSchema.size()),
+        showFileColumns(files, positionalNames(m_fileSchema.size()), matches.names());
+        showMatches(matches,
+                    columnimport::positionalMatchTexts(m_appColumns.size(), m_fileSchema.size()),
                     m_appColumns);
     } else if (m_useSavedMatches) {
-        showFileColumns(m_fileSchema);
+        showFileColumns(files, m_fileSchema, matches.names());
         columnimport::dropUnknownMatches(m_savedMatches, m_fileSchema);
-        showMatches(m_savedMatches, m_appColumns);
+        showMatches(matches, m_savedMatches, m_appColumns);
     } else {
-        showFileColumns(m_fileSchema);
-        showMatches(columnimport::proposedMatchTexts(m_appColumns, m_fileSchema), m_appColumns);
+        showFileColumns(files, m_fileSchema, matches.names());
+        showMatches(matches, columnimport::proposedMatchTexts(m_appColumns, m_fileSchema),
+                    m_appColumns);
     }
     applyListBoxMatchFont();
     // The list lays its rows out when the toolkit is idle, and is blank till then: with very many
     // file columns, for as long as the other list takes to measure its own rows.
-    matchList().OnInternalIdle();
+    matches.OnInternalIdle();
 }
 
 void wxImportCSVDialog::applyListBoxMatchFont() {
-    ListCtrlSource &list = matchList();
+    ListCtrlSource &list = matchListOf(*this);
     for (int row = 0; row < list.GetItemCount(); ++row) {
         list.applyMatchFont(row);
     }
 }
 
 void wxImportCSVDialog::onBtnRematch(wxCommandEvent &event) {
-    if (wxCheckBox *firstLine = firstLineBox()) {
+    if (wxCheckBox *firstLine = firstLineBoxOf(*this)) {
         firstLine->SetValue(true);
     }
     m_useSavedMatches = false;

@@ -1,6 +1,7 @@
 #include "dialogs/matchTexts.h"
 
 #include "matching/matchColumns.h"
+#include "names/notUsed.h"
 
 #include <string_view>
 #include <unordered_set>

@@ -6,9 +6,6 @@
 
 namespace columnimport {
 
-/// The match text of an application column that has no file column.
-inline constexpr const char *notUsed = "Not used";
-
 /// The name of a file column that is known by number only, counted from 1: "Column1", "Column2".
 std::string positionalName(std::size_t number);
 

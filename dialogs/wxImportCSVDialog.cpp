@@ -1,8 +1,8 @@
 #include "dialogs/wxImportCSVDialog.h"
 
-#include "dialogs/LongNames.h"
-#include "dialogs/matchTexts.h"
 #include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/controls.h"
+#include "names/notUsed.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,14 +11,14 @@
 
 wxBEGIN_EVENT_TABLE(wxImportCSVDialog, wxDialog)
     EVT_CHECKBOX(CHECK_HEADER, wxImportCSVDialog::onCheckHeader)
-        EVT_TEXT(TXT_DELIMITER, wxImportCSVDialog::onTxtDelimiter)
-            EVT_BUTTON(BTN_REMATCH, wxImportCSVDialog::onBtnRematch) wxEND_EVENT_TABLE()
+    EVT_TEXT(TXT_DELIMITER, wxImportCSVDialog::onTxtDelimiter)
+    EVT_BUTTON(BTN_REMATCH, wxImportCSVDialog::onBtnRematch)
+wxEND_EVENT_TABLE()
 
-                wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
-                                                     std::vector<std::string> appColumns,
-                                                     std::string fileName, bool useSavedMatches,
-                                                     std::vector<std::string> savedMatches,
-                                                     char delimiter, bool firstLineHeader)
+wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
+                                     std::vector<std::string> appColumns, std::string fileName,
+                                     bool useSavedMatches, std::vector<std::string> savedMatches,
+                                     char delimiter, bool firstLineHeader)
     : wxDialog(parent, wxID_ANY, title, wxDefaultPosition, wxSize(300, 200),
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       m_appColumns(std::move(appColumns)), m_delimiter(delimiter),
@@ -36,9 +36,7 @@ wxBEGIN_EVENT_TABLE(wxImportCSVDialog, wxDialog)
     }
 }
 
-wxImportCSVDialog::~wxImportCSVDialog() {
-    columnimport::LongNames::forgetAll();
-}
+wxImportCSVDialog::~wxImportCSVDialog() = default;
 
 void wxImportCSVDialog::create() {
     auto *sizer = new wxBoxSizer(wxVERTICAL);
@@ -47,10 +45,11 @@ void wxImportCSVDialog::create() {
 }
 
 std::vector<std::string> wxImportCSVDialog::getColumnNames() {
-    const columnimport::ListCtrlSource *matchList = columnimport::findMatchList();
+    const auto &matchList =
+        *columnimport::findControl<columnimport::ListCtrlSource>(*this, LISTBOX_MATCH);
     std::vector<std::string> names;
-    for (int row = 0; row < matchList->GetItemCount(); ++row) {
-        std::string name = matchList->getMatchText(row);
+    for (int row = 0; row < matchList.GetItemCount(); ++row) {
+        std::string name = matchList.getMatchText(row);
         if (name == columnimport::notUsed) {
             name.clear();
         }

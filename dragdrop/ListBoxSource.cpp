@@ -1,6 +1,7 @@
 #include "dragdrop/ListBoxSource.h"
 
 #include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
 
 namespace columnimport {
@@ -26,7 +27,7 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
     if (row < 0 || !movedWithButtonDown(event)) {
         return;
     }
-    findMatchList()->clearMarkedRows();
+    findControl<ListCtrlSource>(*this, matchListId)->clearMarkedRows();
     SetSelection(row);
     dragText(*this, GetString(static_cast<unsigned>(row)));
 }

@@ -1,9 +1,8 @@
 #include "dragdrop/ListCtrlSource.h"
 
-#include "dialogs/NameText.h"
-#include "dialogs/matchTexts.h"
-#include "dialogs/wxImportCSVDialog.h"
+#include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
+#include "names/notUsed.h"
 
 #include <algorithm>
 
@@ -22,14 +21,14 @@ ListCtrlSource::~ListCtrlSource() = default;
 std::string ListCtrlSource::getMatchText(int row) const {
     wxListItem item;
     item.SetId(row);
-    item.SetColumn(wxImportCSVDialog::COLUMN_MATCH);
+    item.SetColumn(matchColumn);
     item.SetMask(wxLIST_MASK_TEXT);
     GetItem(item);
-    return toBytes(item.GetText());
+    return m_names.bytesOf(item.GetText());
 }
 
 void ListCtrlSource::setMatchText(long row, const wxString &text) {
-    SetItem(row, wxImportCSVDialog::COLUMN_MATCH, text, -1);
+    SetItem(row, matchColumn, text, -1);
     applyMatchFont(row);
 }
 
@@ -39,7 +38,7 @@ void ListCtrlSource::applyMatchFont(long row) {
     if (!font.IsOk()) {
         font = GetFont();
     }
-    const bool unused = GetItemText(row, wxImportCSVDialog::COLUMN_MATCH).Cmp(notUsed) == 0;
+    const bool unused = GetItemText(row, matchColumn).Cmp(notUsed) == 0;
     font.SetWeight(unused ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
     SetItemFont(row, font);
 }
@@ -134,12 +133,7 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
         clearMarkedRows();
         m_marks.set(row, true);
     }
-    dragText(*this, toText(getMatchText(static_cast<int>(row))));
-}
-
-ListCtrlSource *findMatchList() {
-    return static_cast<ListCtrlSource *>(
-        wxWindowBase::FindWindowById(wxImportCSVDialog::LISTBOX_MATCH));
+    dragText(*this, GetItemText(row, matchColumn));
 }
 
 } // namespace columnimport

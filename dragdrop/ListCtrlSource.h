@@ -1,6 +1,7 @@
 #pragma once
 
 #include "RowMarks.h" // of the platform
+#include "names/NameBook.h"
 
 #include <cstdint>
 #include <string>
@@ -10,7 +11,8 @@
 namespace columnimport {
 
 /// The match list: one row per application column, with the matched file column's name in its first
-/// column. The rows are the only record of the current matching.
+/// column. The rows are the only record of the current matching. They hold the texts under which
+/// the names are shown; `names` knows the bytes that these stand for.
 ///
 /// Two states of a row, independent of each other:
 ///  - marked: the row belongs to the user's multiple selection. A click marks one row, Control adds
@@ -28,8 +30,12 @@ public:
     /// The match text of `row`, as the bytes of a file column's name or "Not used".
     std::string getMatchText(int row) const;
 
-    /// Writes a match text into `row` and gives the row the weight that goes with it.
+    /// Writes a match text into `row`, as it is to be shown, and gives the row the weight that goes
+    /// with it.
     void setMatchText(long row, const wxString &text);
+
+    /// The book of the names that this dialog shows.
+    NameBook &names() { return m_names; }
 
     /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.
     void applyMatchFont(long row);
@@ -40,8 +46,9 @@ public:
     /// Puts `row` alone in the hover state, unless a row is marked.
     void hoverOver(long row);
 
-    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows. The edge is
-    /// thin, so that a drop on the first or last row in view is no matter of luck.
+    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows, which moves
+    /// another row under it. The edge is thin, so that a drop on the first or last row in view is
+    /// no matter of luck.
     void scrollAtEdge();
 
     void clearHoverRows();
@@ -56,11 +63,9 @@ private:
     void onLeftUp(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
 
+    NameBook m_names;
     RowMarks m_marks;
     std::int32_t m_lastClickedRow = -1; // the anchor of a Shift range; survives a refresh
 };
-
-/// The match list of the dialog that is open.
-ListCtrlSource *findMatchList();
 
 } // namespace columnimport

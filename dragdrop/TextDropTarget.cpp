@@ -1,13 +1,12 @@
 #include "dragdrop/TextDropTarget.h"
 
-#include "dialogs/NameText.h"
-#include "dialogs/matchTexts.h"
-#include "dialogs/wxImportCSVDialog.h"
 #include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/controls.h"
+#include "names/notUsed.h"
 
 namespace columnimport {
 
-TextDropTarget::TextDropTarget(std::int32_t ownerId) : m_ownerId(ownerId) {}
+TextDropTarget::TextDropTarget(wxWindow &owner) : m_owner(owner) {}
 
 TextDropTarget::~TextDropTarget() = default;
 
@@ -16,13 +15,13 @@ void TextDropTarget::setMatchList(ListCtrlSource *matchList) {
 }
 
 wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult suggested) {
-    if (m_ownerId == wxImportCSVDialog::LISTBOX_MATCH) {
-        ListCtrlSource &list = *findMatchList();
+    if (m_owner.GetId() == matchListId) {
+        auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);
+        list.scrollAtEdge();
         const long row = list.rowAt(wxPoint(x, y));
         if (row >= 0) {
             list.hoverOver(row);
         }
-        list.scrollAtEdge();
     }
     return suggested;
 }
@@ -35,11 +34,10 @@ bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
         }
         return true;
     }
-    ListCtrlSource &list = *findMatchList();
+    auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);
     const long row = list.rowAt(wxPoint(x, y));
     if (row >= 0) {
-        // Another program's text may be longer than the list could lay out.
-        list.setMatchText(row, toText(toBytes(text)));
+        list.setMatchText(row, list.names().textOfForeign(text));
     }
     return true;
 }

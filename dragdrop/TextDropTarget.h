@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include <wx/dnd.h>
 
 namespace columnimport {
@@ -15,11 +13,11 @@ class ListCtrlSource;
 /// match list become "Not used".
 ///
 /// A row out of view is reached during a drag too: each move along the very edge of the match list
-/// scrolls it by a row.
+/// scrolls it by a row. The row in the hover state is always the one that a drop would write to.
 class TextDropTarget : public wxTextDropTarget {
 public:
-    /// `ownerId` is the identifier of the control on which the target will sit, which then owns it.
-    explicit TextDropTarget(std::int32_t ownerId);
+    /// `owner` is the control on which the target will sit, and which then owns it.
+    explicit TextDropTarget(wxWindow &owner);
     ~TextDropTarget() override;
 
     /// Makes this the target of the list of file columns. `matchList` must outlive the target.
@@ -30,7 +28,7 @@ public:
 
 private:
     ListCtrlSource *m_matchList = nullptr; // null in the target of the match list itself
-    std::int32_t m_ownerId;
+    wxWindow &m_owner;
 };
 
 } // namespace columnimport

@@ -37,9 +37,10 @@ public:
     /// Shows the dialog for a delimited text file over the host's window, modally, and blocks until
     /// the user dismisses it.
     ///
-    /// Strings are bytes in the encoding of the process's locale, except for the path. The pointers
-    /// must not be null and must stay valid for the call. All outputs are written however the
-    /// dialog was ended; a host that wants its earlier values after a Cancel keeps a copy.
+    /// Names are bytes and come back as such; they are shown as UTF-8 if they are that, else as the
+    /// process's locale has them, else as Latin-1. The pointers must not be null and must stay
+    /// valid for the call. All outputs are written however the dialog was ended; a host that wants
+    /// its earlier values after a Cancel keeps a copy.
     ///
     /// @param hostWindow       the host's window; null opens the dialog without an owner
     /// @param title            text of the title bar
@@ -53,9 +54,8 @@ public:
     /// @param delimiter        in and out: the field delimiter, one byte taken literally
     /// @param firstLineHeader  in and out: whether the first line holds titles. If false at the
     ///                         end, the matches are positional names such as "Column1"
-    /// @param width, height    size of the dialog's frame in pixels, at least 100 and at most
-    /// 32000; it
-    ///                         stands at 100, 100
+    /// @param width, height    size of the dialog's frame in pixels; it stands at 100, 100. The
+    ///                         controls keep their sizes, and a frame too small cuts them off
     /// @return true exactly if the user pressed OK. False with all variables unchanged if the
     ///         dialog could not be shown: there is no display, no peer was ever made, or a run is
     ///         open already

@@ -2,12 +2,8 @@
 
 #include "HostWindow.h"
 
-#include <cstdint>
 #include <memory>
 
-#include <wx/log.h>
-
-class wxImportCSVDialog;
 class wxWindow;
 
 namespace columnimport {
@@ -29,24 +25,5 @@ public:
 private:
     std::unique_ptr<wxWindow> m_window;
 };
-
-/// Holds while a dialog of the library is open: there is one at a time. Meanwhile the toolkit logs
-/// nothing, neither to the host's console nor in windows of its own.
-class OpenRun {
-public:
-    /// Whether a run can be opened now.
-    static bool isPossible();
-
-    OpenRun();
-    ~OpenRun();
-    OpenRun(const OpenRun &) = delete;
-    OpenRun &operator=(const OpenRun &) = delete;
-
-private:
-    wxLogNull m_silence;
-};
-
-/// Builds `dialog`, shows it at 100, 100 in the given size and returns whether it ended with OK.
-bool runDialog(wxImportCSVDialog &dialog, std::int32_t width, std::int32_t height);
 
 } // namespace columnimport

@@ -1,20 +1,9 @@
-#include "host/NativeHost.h"
+#include "host/nativeWindow.h"
 
-#include <wx/app.h>
-#include <wx/dialog.h>
-#include <wx/init.h>
 #include <wx/msw/private.h>
+#include <wx/window.h>
 
 namespace columnimport {
-
-void setUpToolkit() {
-    wxApp::SetInstance(new wxApp);
-    new wxInitializer;
-}
-
-bool isToolkitSetUp() {
-    return wxApp::GetInstance() != nullptr;
-}
 
 HostWindow ownerOf(HostWindow hostWindow) {
     return hostWindow;
@@ -27,10 +16,6 @@ void attach(wxWindow &standIn, HostWindow hostWindow) {
 
 void detach(wxWindow &standIn) {
     standIn.SetHWND(nullptr);
-}
-
-int showModal(wxDialog &dialog) {
-    return dialog.ShowModal();
 }
 
 } // namespace columnimport

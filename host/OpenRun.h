@@ -1,0 +1,23 @@
+#pragma once
+
+#include <wx/log.h>
+
+namespace columnimport {
+
+/// Holds while a dialog of the library is open: there is one at a time. Meanwhile the toolkit logs
+/// nothing, neither to the host's console nor in windows of its own.
+class OpenRun {
+public:
+    /// Whether a run can be opened now.
+    static bool isPossible();
+
+    OpenRun();
+    ~OpenRun();
+    OpenRun(const OpenRun &) = delete;
+    OpenRun &operator=(const OpenRun &) = delete;
+
+private:
+    wxLogNull m_silence;
+};
+
+} // namespace columnimport

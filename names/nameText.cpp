@@ -1,0 +1,117 @@
+#include "names/nameText.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include <wx/strconv.h>
+
+namespace columnimport {
+
+namespace {
+
+constexpr wchar_t ellipsis = L'\x2026';
+
+/// Whether all characters are Unicode's: the toolkit and some locales decode others too, and halves
+/// of some.
+bool isUnicode(const wxString &text) {
+    wxUint32 before = 0;
+    for (const wxUniChar character : text) {
+        constexpr bool comesInHalves = sizeof(wchar_t) == 2;
+        const wxUint32 value = character.GetValue();
+        const bool isFirstHalf = value >= 0xD800 && value <= 0xDBFF;
+        const bool isSecondHalf = value >= 0xDC00 && value <= 0xDFFF;
+        const bool followsFirstHalf = before >= 0xD800 && before <= 0xDBFF;
+        if (value > 0x10FFFF || isSecondHalf != followsFirstHalf ||
+            (isFirstHalf && !comesInHalves)) {
+            return false;
+        }
+        before = value;
+    }
+    return before < 0xD800 || before > 0xDBFF;
+}
+
+/// The picture of a control character, or the character itself.
+wxUniChar standIn(wxUniChar character) {
+    constexpr wxUint32 pictures = 0x2400;
+    constexpr wxUint32 pictureOfDelete = 0x2421;
+    constexpr wxUint32 replacement = 0xFFFD;
+    const wxUint32 value = character.GetValue();
+    if (value < 0x20) {
+        return pictures + value;
+    }
+    if (value == 0x7F) {
+        return pictureOfDelete;
+    }
+    return value >= 0x80 && value < 0xA0 ? wxUniChar(replacement) : character;
+}
+
+/// The first bytes of what is too long, without a part of a UTF-8 character at their end.
+std::string_view head(std::string_view bytes) {
+    if (bytes.size() <= shownLength) {
+        return bytes;
+    }
+    std::size_t length = shownLength;
+    while (length > shownLength - 3 &&
+           (static_cast<unsigned char>(bytes[length]) & 0xC0U) == 0x80) {
+        --length;
+    }
+    return bytes.substr(0, length);
+}
+
+/// `bytes`, or the head of them and an ellipsis.
+wxString decodedHead(std::string_view bytes) {
+    const std::string_view shown = head(bytes);
+    wxString text = decoded(std::string(shown));
+    if (shown.size() < bytes.size()) {
+        text += ellipsis;
+    }
+    return text;
+}
+
+} // namespace
+
+wxString decoded(const std::string &bytes) {
+    for (const wxString &text : {wxString::FromUTF8(bytes.data(), bytes.size()),
+                                 wxString(bytes.data(), wxConvLibc, bytes.size())}) {
+        if (!text.empty() && isUnicode(text)) {
+            return text;
+        }
+    }
+    return {bytes.data(), wxConvISO8859_1, bytes.size()};
+}
+
+std::string encoded(const wxString &text) {
+    std::string bytes = text.ToStdString(wxConvLibc);
+    return bytes.empty() ? text.utf8_string() : bytes;
+}
+
+wxString readable(const wxString &text) {
+    const bool isLong = text.length() > shownLength;
+    wxString shown = isLong ? text.Left(shownLength) : text;
+    std::transform(shown.begin(), shown.end(), shown.begin(), standIn);
+    return isLong ? shown + ellipsis : shown;
+}
+
+wxString shownText(const std::string &bytes) {
+    return readable(decodedHead(bytes));
+}
+
+wxString previewText(const std::string &lines) {
+    wxString text;
+    std::string_view rest(lines);
+    while (!rest.empty()) {
+        const std::size_t end = std::min(rest.find('\n'), rest.size());
+        wxString line = decodedHead(rest.substr(0, end));
+        std::transform(line.begin(), line.end(), line.begin(), [](wxUniChar character) {
+            return character == '\t' ? character : standIn(character);
+        });
+        text += line;
+        if (end < rest.size()) {
+            text += '\n';
+        }
+        rest.remove_prefix(std::min(end + 1, rest.size()));
+    }
+    return text;
+}
+
+} // namespace columnimport

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include <wx/string.h>
+
+namespace columnimport {
+
+// From bytes to the text that is best to read, and from foreign text to bytes. The two need not
+// invert each other: which bytes a shown text stands for is told by a NameBook.
+
+/// The number of bytes up to which a name or a line is shown in full. A file of megabytes without
+/// a line feed has its whole content for the name of its only column, and some list controls give
+/// no more than 511 characters of an entry back.
+inline constexpr std::size_t shownLength = 400;
+
+/// `bytes` as UTF-8 if they are that, else as the process's locale has them, else as Latin-1.
+wxString decoded(const std::string &bytes);
+
+/// `text` in the process's locale, or as UTF-8 where the locale has nothing for it.
+std::string encoded(const wxString &text);
+
+/// `text` with a visible stand-in for each control character, and its head alone if it is long.
+///
+///     readable(L"from\tto") == L"from\x2409to"
+wxString readable(const wxString &text);
+
+/// A name as a person reads it: decoded and readable.
+wxString shownText(const std::string &bytes);
+
+/// The lines of a file as a person reads them. Each line is read by itself, as a name is; tabs stay
+/// tabs.
+wxString previewText(const std::string &lines);
+
+} // namespace columnimport
