@@ -76,7 +76,7 @@ if(WIN32)
     target_include_directories(columnimport_inside INTERFACE
         $<TARGET_PROPERTY:columnimport,INTERFACE_INCLUDE_DIRECTORIES>)
     target_link_libraries(columnimport_inside PUBLIC
-        columnimport_matching columnimport_delimited columnimport_toolkit)
+        columnimport_matching columnimport_delimited columnimport_names columnimport_toolkit)
 else()
     add_library(columnimport_inside INTERFACE)
     target_link_libraries(columnimport_inside INTERFACE

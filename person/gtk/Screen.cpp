@@ -7,6 +7,7 @@
 #include <future>
 
 #include <gtk/gtk.h>
+#include <wx/sizer.h>
 
 namespace {
 
@@ -95,14 +96,20 @@ void handleEvents() {
     g_main_context_iteration(nullptr, FALSE);
 }
 
-// The window manager gives the frame its place and its size in steps.
+// The window manager gives the frame its place and its size in steps, and the controls follow. A
+// button that moves under the pointer would not know of the press.
 bool dialogStands() {
     if (!isDialogOpen() || !openDialog().IsActive()) {
         return false;
     }
     watchDrags();
+    const wxDialog &dialog = openDialog();
     const wxRect frame = frameOfDialog();
-    return frame.GetPosition() == wxPoint(100, 100) && frame.width >= 100;
+    const int clientWidth = gdk_window_get_width(gtk_widget_get_window(dialog.GetHandle()));
+    constexpr int thickestBorders = 50;
+    return frame.GetPosition() == wxPoint(100, 100) && frame.width >= 100 &&
+           frame.width - clientWidth < thickestBorders && dialog.GetClientSize().x == clientWidth &&
+           dialog.GetSizer()->GetSize() == dialog.GetVirtualSize();
 }
 
 wxRect frameOfDialog() {
