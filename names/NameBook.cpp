@@ -46,7 +46,7 @@ void NameBook::clear() {
 }
 
 wxString NameBook::enter(const wxString &text, const std::string &bytes) {
-    const std::wstring alike = text.ToStdWstring();
+    const std::wstring &alike = text.ToStdWstring();
     auto [entry, isNew] = m_names.emplace(alike, bytes);
     // A name may hold invisible characters of its own.
     while (!isNew) {
