@@ -103,4 +103,14 @@ std::string endlessName(std::size_t length) {
     return name;
 }
 
+std::vector<std::string> longNames(std::size_t count, std::size_t length) {
+    const std::string endless = endlessName(count * length);
+    std::vector<std::string> names;
+    names.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        names.push_back(endless.substr(i * length, length));
+    }
+    return names;
+}
+
 } // namespace columnimport::bench

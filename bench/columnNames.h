@@ -13,4 +13,7 @@ std::vector<std::string> columnNames(std::size_t count, unsigned seed);
 /// A title line read as one name: `length` bytes of such names, one after the other.
 std::string endlessName(std::size_t length);
 
+/// `count` names of `length` bytes: an endless one cut into pieces.
+std::vector<std::string> longNames(std::size_t count, std::size_t length);
+
 } // namespace columnimport::bench

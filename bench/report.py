@@ -1,19 +1,9 @@
-"""Writes the results of a benchmark run into docs/performance.md, between its two marks, and draws
-docs/performance.svg."""
+"""Makes of a benchmark run's results.json a table, results.md, and a plot, results.svg, beside it."""
 
 import json
 import math
 import pathlib
 import sys
-
-BEGIN, END = "<!-- results -->\n", "<!-- end of results -->\n"
-
-
-def cpu_model():
-    for line in pathlib.Path("/proc/cpuinfo").read_text().splitlines():
-        if line.startswith("model name"):
-            return line.split(":", 1)[1].strip()
-    return "unknown processor"
 
 
 def time_of(run):
@@ -33,40 +23,25 @@ def significant(value):
 
 
 def table(results):
-    context = results["context"]
-    runs = [run for run in results["benchmarks"] if run["run_type"] == "iteration"]
-    named = {run["name"]: run for run in runs}
-    lines = [
-        f"{cpu_model()}, {context['num_cpus']} processors; compiler {context['compiler']},"
-        f" `RelWithDebInfo`; {context['date'][:10]}.",
-        "",
-        "| Benchmark | Time | ns per pair |",
-        "|---|--:|--:|",
-    ]
-    for run in runs:
+    lines = ["| Benchmark | Time | ns per pair |", "|---|--:|--:|"]
+    for run in results["benchmarks"]:
         pair = significant(ns_per_pair(run)) if "time/pair" in run else ""
         lines.append(f"| `{run['name']}` | {time_of(run)} | {pair} |")
-    literal = named.get("matchColumns/literal/200/1000")
-    current = named.get("matchColumns/current/200/1000")
-    if literal and current:
-        ratio = literal["cpu_time"] / current["cpu_time"]
-        lines += ["", f"200 application columns by 1,000 file columns: {ratio:,.0f} times as fast"
-                      " as the literal reading."]
     return "\n".join(lines) + "\n"
 
 
 def points(results, prefix):
     for run in results["benchmarks"]:
         numbers = run["name"].removeprefix(prefix + "/").split("/")
-        if run["run_type"] == "iteration" and len(numbers) == 2 and numbers[0].isdigit():
+        if len(numbers) == 2 and numbers[0].isdigit():
             yield int(numbers[0]), ns_per_pair(run)
 
 
 def plot(results):
     """Nanoseconds per pair against the application columns, both axes logarithmic."""
     width, height, left, bottom = 640, 400, 70, 50
-    series = [("literal reading", "#b03030", list(points(results, "matchColumns/literal"))),
-              ("current", "#3050b0", list(points(results, "matchColumns/current")))]
+    series = [("reference", "#b03030", list(points(results, "matchColumns/reference"))),
+              ("matchColumns", "#3050b0", list(points(results, "matchColumns")))]
     xs = [x for _, _, line in series for x, _ in line]
     decades = range(-1, 5)
 
@@ -104,13 +79,10 @@ def plot(results):
 
 
 def main():
-    results = json.loads(pathlib.Path(sys.argv[1]).read_text())
-    docs = pathlib.Path(sys.argv[2])
-    page = docs / "performance.md"
-    before, rest = page.read_text().split(BEGIN)
-    after = rest.split(END)[1]
-    page.write_text(before + BEGIN + "\n" + table(results) + "\n" + END + after)
-    (docs / "performance.svg").write_text(plot(results))
+    path = pathlib.Path(sys.argv[1])
+    results = json.loads(path.read_text())
+    path.with_suffix(".md").write_text(table(results))
+    path.with_suffix(".svg").write_text(plot(results))
 
 
 main()

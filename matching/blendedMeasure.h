@@ -4,11 +4,13 @@
 
 namespace columnimport {
 
+/// A name of fewer bytes is too short for the measure.
+inline constexpr std::size_t leastMeasuredLength = 3;
+
 /// The measure of two different names of `lengthA` and `lengthB` bytes, of which `sharedA` and
 /// `sharedB` bytes occur in the other one and whose longest common run has `run` bytes.
 ///
-/// Every operation rounds monotonously, so the measure of larger counts is never smaller: what it
-/// gives for an upper bound of a count is an upper bound of the measure, to the last bit.
+///     blendedMeasure(4, 4, 3, 5, 5) is 0.6, for au_gt and ag_gt
 inline double blendedMeasure(std::size_t sharedA, std::size_t sharedB, std::size_t run,
                              std::size_t lengthA, std::size_t lengthB) {
     const double runStep = static_cast<double>(run) - 1.0;

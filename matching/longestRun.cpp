@@ -1,76 +1,44 @@
 #include "matching/longestRun.h"
 
-#include <cassert>
+#include <algorithm>
 
 namespace columnimport {
 
 namespace {
 
-const unsigned char *bytesOf(std::string_view text) {
-    return reinterpret_cast<const unsigned char *>(text.data());
-}
-
-std::size_t longestRunByMasks(std::string_view name, std::string_view text) {
-    assert(name.size() <= maskedLength);
-    // Only the entries of bytes that occur are ever read; clearing all 256 would cost more than
-    // the search in short names.
-    std::uint64_t positions[256];
-    for (const char byte : name) {
-        positions[static_cast<unsigned char>(byte)] = 0;
+/// The length of the run on both sides of the two bytes at `a[i]` and `b[j]`, which are equal.
+std::size_t runAround(std::string_view a, std::size_t i, std::string_view b, std::size_t j) {
+    std::size_t before = 0;
+    while (before < std::min(i, j) && a[i - before - 1] == b[j - before - 1]) {
+        ++before;
     }
-    for (const char byte : text) {
-        positions[static_cast<unsigned char>(byte)] = 0;
+    std::size_t behind = 1;
+    while (behind < std::min(a.size() - i, b.size() - j) && a[i + behind] == b[j + behind]) {
+        ++behind;
     }
-    for (std::size_t i = 0; i < name.size(); ++i) {
-        positions[bytesOf(name)[i]] |= std::uint64_t{1} << i;
-    }
-    return longestRunAbove(0, positions, bytesOf(text), text.size());
-}
-
-/// Looks for a run longer than `best` where two texts lie beside each other. Such a run covers one
-/// of any `best` + 1 neighbouring bytes, so only each of these is compared until two are equal.
-std::size_t longestRunBeside(std::string_view a, std::string_view b, std::size_t best) {
-    const std::size_t length = std::min(a.size(), b.size());
-    std::size_t begin = 0;
-    std::size_t probe = best;
-    while (probe < length) {
-        if (a[probe] == b[probe]) {
-            std::size_t first = probe;
-            while (first > begin && a[first - 1] == b[first - 1]) {
-                --first;
-            }
-            while (probe < length && a[probe] == b[probe]) {
-                ++probe;
-            }
-            best = std::max(best, probe - first);
-        }
-        begin = probe + 1;
-        probe = begin + best;
-    }
-    return best;
-}
-
-std::size_t longestRunByDiagonals(std::string_view a, std::string_view b) {
-    std::size_t best = 0;
-    const std::size_t offsets = std::max(a.size(), b.size());
-    for (std::size_t offset = 0; offset + best < offsets; ++offset) {
-        if (offset < a.size()) {
-            best = longestRunBeside(a.substr(offset), b, best);
-        }
-        if (offset < b.size()) {
-            best = longestRunBeside(a, b.substr(offset), best);
-        }
-    }
-    return best;
+    return before + behind;
 }
 
 } // namespace
 
-std::size_t longestRun(std::string_view a, std::string_view b) {
-    if (a.size() > b.size()) {
-        std::swap(a, b);
+std::size_t longestRunAbove(std::size_t floor, std::string_view a, std::string_view b) {
+    const auto [name, text] = std::minmax(a, b, [](std::string_view one, std::string_view other) {
+        return one.size() < other.size();
+    });
+    // A longer run than the best so far covers one of any best + 1 neighbouring bytes of the text,
+    // so only each of these is looked up in the name.
+    std::size_t best = floor;
+    for (std::size_t probe = best; probe < text.size(); probe += best + 1) {
+        for (std::size_t at = name.find(text[probe]); at != std::string_view::npos;
+             at = name.find(text[probe], at + 1)) {
+            const std::size_t room =
+                std::min(at, probe) + std::min(name.size() - at, text.size() - probe);
+            if (room > best) {
+                best = std::max(best, runAround(name, at, text, probe));
+            }
+        }
     }
-    return a.size() <= maskedLength ? longestRunByMasks(a, b) : longestRunByDiagonals(a, b);
+    return best;
 }
 
 } // namespace columnimport

@@ -4,7 +4,7 @@
 
 namespace columnimport {
 
-/// A kept vote counts only if its score is above this.
+/// A vote counts only if its score is above this.
 inline constexpr double acceptanceThreshold = 0.4;
 
 /// The application column that a file column fits best, as far as is known, and how well. One that
@@ -13,12 +13,13 @@ struct Vote {
     double score = acceptanceThreshold;
     std::int32_t app = -1;
 
+    bool isForNone() const { return app < 0; }
+
     /// Takes a better score, or for an equal one a column that stands before the present one, so
     /// that columns may be offered in any order.
-    void offer(double otherScore, std::int32_t otherApp) {
+    void offer(std::int32_t otherApp, double otherScore) {
         if (otherScore > score || (otherScore == score && otherApp < app)) {
-            score = otherScore;
-            app = otherApp;
+            *this = {otherScore, otherApp};
         }
     }
 };

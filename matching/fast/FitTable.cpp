@@ -1,4 +1,4 @@
-#include "matching/FitTable.h"
+#include "matching/fast/FitTable.h"
 
 #include <algorithm>
 
