@@ -2,7 +2,6 @@
 # matcher and the text tools linked in.
 
 include(GenerateExportHeader)
-include(CMakePackageConfigHelpers)
 find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
 
 if(WIN32)
@@ -49,7 +48,7 @@ generate_export_header(columnimport)
 columnimport_own_code(columnimport)
 set_target_properties(columnimport PROPERTIES
     VERSION ${PROJECT_VERSION}
-    SOVERSION ${PROJECT_VERSION_MAJOR})
+    SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 target_compile_features(columnimport PUBLIC cxx_std_17)
 target_link_libraries(columnimport PRIVATE
     columnimport_matching columnimport_delimited columnimport_names columnimport_toolkit)
@@ -81,25 +80,12 @@ else()
     add_library(columnimport_inside INTERFACE)
     target_link_libraries(columnimport_inside INTERFACE
         columnimport::columnimport columnimport_toolkit)
+    # The same for a host that has this project as a part of its own and runs the dialogs itself.
+    add_library(columnimport::dialogs ALIAS columnimport_inside)
 endif()
 
-set(public_headers
-    dialogs/wxImportCSVDialog.h
-    dialogs/wxImportODBCDialog.h
-    host/${platform}/HostWindow.h
-    host/wxImportCSVDialogPeer.h)
 target_include_directories(columnimport
     PRIVATE dragdrop/${platform}
     PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host;${PROJECT_SOURCE_DIR}/host/${platform};${PROJECT_SOURCE_DIR}/dialogs;${CMAKE_CURRENT_BINARY_DIR}>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/columnimport>")
-
-install(TARGETS columnimport EXPORT columnimportTargets)
-install(FILES ${public_headers} ${CMAKE_CURRENT_BINARY_DIR}/columnimport_export.h
-        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/columnimport)
-install(EXPORT columnimportTargets NAMESPACE columnimport::
-        FILE columnimportConfig.cmake
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)
-write_basic_package_version_file(columnimportConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES ${CMAKE_CURRENT_BINARY_DIR}/columnimportConfigVersion.cmake
-        DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)

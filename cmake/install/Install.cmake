@@ -1,0 +1,57 @@
+# What a host gets: the library, its public headers, and what CMake and pkg-config find them by.
+# The components are those of the packages: "library" is needed where a host runs, "development"
+# where one is built.
+
+include(CMakePackageConfigHelpers)
+
+set(columnimport_config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)
+
+install(TARGETS columnimport EXPORT columnimportTargets
+    RUNTIME COMPONENT library
+    LIBRARY COMPONENT library NAMELINK_COMPONENT development
+    ARCHIVE COMPONENT development)
+install(FILES
+        ${PROJECT_SOURCE_DIR}/dialogs/wxImportCSVDialog.h
+        ${PROJECT_SOURCE_DIR}/dialogs/wxImportODBCDialog.h
+        ${PROJECT_SOURCE_DIR}/host/${platform}/HostWindow.h
+        ${PROJECT_SOURCE_DIR}/host/wxImportCSVDialogPeer.h
+        ${CMAKE_CURRENT_BINARY_DIR}/columnimport_export.h
+    DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/columnimport
+    COMPONENT development)
+
+install(EXPORT columnimportTargets NAMESPACE columnimport::
+    DESTINATION ${columnimport_config_folder} COMPONENT development)
+configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/columnimportConfig.cmake.in
+    columnimportConfig.cmake
+    INSTALL_DESTINATION ${columnimport_config_folder}
+    NO_SET_AND_CHECK_MACRO)
+# As long as the major version is 0, a new minor version may break a host.
+write_basic_package_version_file(columnimportConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+install(FILES
+        ${CMAKE_CURRENT_BINARY_DIR}/columnimportConfig.cmake
+        ${CMAKE_CURRENT_BINARY_DIR}/columnimportConfigVersion.cmake
+    DESTINATION ${columnimport_config_folder} COMPONENT development)
+
+# The file names its places from where it stands itself, so that the tree can be moved.
+set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
+    BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_folder}
+    OUTPUT_VARIABLE prefix_from_pkgconfig_folder)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/columnimport.pc.in columnimport.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/columnimport.pc
+    DESTINATION ${pkgconfig_folder} COMPONENT development)
+
+install(FILES README.md CHANGELOG.md LICENSE
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY docs
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+    FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg)
+install(FILES examples/minimal_host.cpp
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
+
+if(PROJECT_IS_TOP_LEVEL)
+    add_custom_target(uninstall
+        COMMAND ${CMAKE_COMMAND} -P ${CMAKE_CURRENT_LIST_DIR}/uninstall.cmake
+        WORKING_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}
+        VERBATIM)
+endif()

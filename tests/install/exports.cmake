@@ -1,0 +1,23 @@
+# The library exports the listed symbols, each of them and nothing else.
+#   cmake -D library=FILE -D list=FILE -D found=FILE -P exports.cmake
+# Leaves what it found in `found`, in the form of the list.
+execute_process(COMMAND nm --dynamic --demangle --defined-only --format=posix ${library}
+                OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+# The name alone, without kind and address, with the standard types as one writes them.
+string(REGEX REPLACE " [A-Za-z] [0-9a-f]+ *[0-9a-f]*\n" "\n" symbols "${symbols}")
+string(REPLACE "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
+               "std::string" symbols "${symbols}")
+string(REPLACE "std::vector<std::string, std::allocator<std::string > >"
+               "std::vector<std::string>" symbols "${symbols}")
+string(REPLACE "std::vector<std::string, std::allocator<std::string> >"
+               "std::vector<std::string>" symbols "${symbols}")
+string(REGEX REPLACE "\n$" "" symbols "${symbols}")
+string(REPLACE "\n" ";" symbols "${symbols}")
+list(SORT symbols)
+list(REMOVE_DUPLICATES symbols) # constructors and destructors have several
+list(JOIN symbols "\n" symbols)
+file(WRITE ${found} "${symbols}\n")
+execute_process(COMMAND diff -u ${list} ${found} RESULT_VARIABLE differs)
+if(differs)
+    message(FATAL_ERROR "the exported symbols are not those of ${list}")
+endif()

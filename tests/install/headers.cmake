@@ -1,0 +1,23 @@
+# Compiles each installed header alone.
+#   cmake -D compiler=FILE -D headers=FOLDER -D toolkit=FOLDERS -D definitions=NAMES -P headers.cmake
+list(TRANSFORM toolkit PREPEND "-isystem")
+list(TRANSFORM definitions PREPEND "-D")
+file(GLOB files ${headers}/*.h)
+if(NOT files)
+    message(FATAL_ERROR "no headers in ${headers}")
+endif()
+foreach(file IN LISTS files)
+    set(flags)
+    if(file MATCHES "Dialog\\.h$")
+        set(flags ${toolkit} ${definitions})
+    endif()
+    foreach(standard c++17 c++20)
+        execute_process(
+            COMMAND ${compiler} -std=${standard} -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+                ${flags} -fsyntax-only -x c++ -include ${file} /dev/null
+            RESULT_VARIABLE result)
+        if(result)
+            message(SEND_ERROR "${file} does not compile alone as ${standard}")
+        endif()
+    endforeach()
+endforeach()
