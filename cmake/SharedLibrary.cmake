@@ -9,7 +9,7 @@ if(WIN32)
 else()
     set(platform gtk)
     find_package(PkgConfig REQUIRED)
-    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0)
+    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 wayland-client)
 endif()
 
 # The toolkit's headers are not ours to warn about.
@@ -30,7 +30,6 @@ add_library(columnimport SHARED
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/RowMarks.cpp
-    dragdrop/${platform}/dragIcon.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp
@@ -57,6 +56,9 @@ if(WIN32)
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
 else()
     target_sources(columnimport PRIVATE host/gtk/QuietStart.cpp)
+    target_sources(columnimport PRIVATE
+        dragdrop/gtk/DragLabel.cpp
+        dragdrop/gtk/IgnoredDrag.cpp)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
     # host closes it.

@@ -29,7 +29,8 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
     }
     findControl<ListCtrlSource>(*this, matchListId)->clearMarkedRows();
     SetSelection(row);
-    dragText(*this, GetString(static_cast<unsigned>(row)));
+    const wxString name = GetString(static_cast<unsigned>(row));
+    dragText(*this, name, name);
 }
 
 } // namespace columnimport

@@ -133,7 +133,9 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
         clearMarkedRows();
         m_marks.set(row, true);
     }
-    dragText(*this, GetItemText(row, matchColumn));
+    const wxString name = GetItemText(row, matchColumn);
+    const int count = countMarkedRows();
+    dragText(*this, name, count == 1 ? name : wxString::Format("%s (%d rows)", name, count));
 }
 
 } // namespace columnimport

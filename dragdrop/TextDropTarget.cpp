@@ -1,12 +1,15 @@
 #include "dragdrop/TextDropTarget.h"
 
 #include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/UnicodeText.h"
 #include "dragdrop/controls.h"
 #include "names/notUsed.h"
 
 namespace columnimport {
 
-TextDropTarget::TextDropTarget(wxWindow &owner) : m_owner(owner) {}
+TextDropTarget::TextDropTarget(wxWindow &owner) : m_owner(owner) {
+    SetDataObject(new UnicodeText);
+}
 
 TextDropTarget::~TextDropTarget() = default;
 

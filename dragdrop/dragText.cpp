@@ -1,8 +1,9 @@
 #include "dragdrop/dragText.h"
 
-#include "dragdrop/dragIcon.h"
+#include "DragLabel.h"   // of the platform
+#include "IgnoredDrag.h" // of the platform
+#include "dragdrop/UnicodeText.h"
 
-#include <wx/dataobj.h>
 #include <wx/dnd.h>
 #include <wx/event.h>
 #include <wx/utils.h>
@@ -48,13 +49,14 @@ bool movedWithButtonDown(const wxMouseEvent &move) {
     return wxGetMouseState().LeftIsDown() && move.LeftIsDown();
 }
 
-void dragText(wxWindow &source, const wxString &text) {
+void dragText(wxWindow &source, const wxString &text, const wxString &shown) {
     const ClosingPutOff closing(source);
-    wxTextDataObject data(text);
+    UnicodeText data(text);
     wxDropSource drag(&source);
     drag.SetData(data);
+    const IgnoredDrag end(drag);
+    const DragLabel label(drag, source, shown);
     drag.DoDragDrop(wxDrag_AllowMove);
-    discardIcon(drag);
 }
 
 } // namespace columnimport

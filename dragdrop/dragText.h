@@ -11,9 +11,9 @@ namespace columnimport {
 bool movedWithButtonDown(const wxMouseEvent &move);
 
 /// Drags `text` out of `source` until it is dropped or given up; returns when the drag is over.
-/// If the window is to close meanwhile, it closes then.
+/// Meanwhile `shown` stands beside the pointer. If the window is to close, it closes afterwards.
 ///
 /// To be called from the handler of the mouse event that begins the drag.
-void dragText(wxWindow &source, const wxString &text);
+void dragText(wxWindow &source, const wxString &text, const wxString &shown);
 
 } // namespace columnimport

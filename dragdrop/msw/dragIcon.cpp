@@ -1,8 +1,0 @@
-#include "dragdrop/dragIcon.h"
-
-namespace columnimport {
-
-// It is a cursor, which goes by itself.
-void discardIcon(wxDropSource &) {}
-
-} // namespace columnimport
