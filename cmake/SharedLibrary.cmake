@@ -55,10 +55,11 @@ if(WIN32)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
 else()
-    target_sources(columnimport PRIVATE host/gtk/QuietStart.cpp)
     target_sources(columnimport PRIVATE
         dragdrop/gtk/DragLabel.cpp
-        dragdrop/gtk/IgnoredDrag.cpp)
+        dragdrop/gtk/IgnoredDrag.cpp
+        host/gtk/QuietStart.cpp
+        host/gtk/frameShadow.cpp)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
     # host closes it.

@@ -1,5 +1,7 @@
 #include "host/modalLoop.h"
 
+#include "host/gtk/frameShadow.h"
+
 #include <algorithm>
 #include <exception>
 
@@ -58,9 +60,10 @@ private:
 
 void resize(wxDialog &dialog, const wxSize &size) {
     // No frame is smaller than its title bar and borders, and how large these are is known only
-    // when it is shown. X11 counts no further than 16 bits.
+    // when it is shown. X11 counts no further than 16 bits, and under Wayland the memory for all
+    // pixels of a window is the program's own.
     constexpr int leastSize = 100;
-    constexpr int greatestSize = 32000;
+    constexpr int greatestSize = 8000;
     dialog.SetSize(std::clamp(size.x, leastSize, greatestSize),
                    std::clamp(size.y, leastSize, greatestSize));
 }
@@ -69,8 +72,12 @@ int showModal(wxDialog &dialog) {
     // On its first show the toolkit realises the window early, to ask for the extents of its frame,
     // and the position that it was given gets lost on the way.
     const wxPoint position = dialog.GetPosition();
-    dialog.Bind(wxEVT_SHOW, [&dialog, position](wxShowEvent &event) {
+    const wxSize size = dialog.GetSize();
+    dialog.Bind(wxEVT_SHOW, [&dialog, position, size](wxShowEvent &event) {
         if (event.IsShown()) {
+            if (const wxSize shadow = frameShadow(dialog); shadow != wxSize(0, 0)) {
+                dialog.SetSize(size + shadow);
+            }
             gtk_window_move(GTK_WINDOW(dialog.GetHandle()), position.x, position.y);
         }
         event.Skip();
