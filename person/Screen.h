@@ -27,7 +27,11 @@ void handleEvents();
 /// Whether the dialog is shown, takes keys, and has been given its place and size.
 bool dialogStands();
 
-/// The place and size of the dialog's window with its frame, as the screen has them.
+/// Whether a program has a say in where its windows stand on this screen.
+bool placesWindows();
+
+/// The place and size of the dialog's window with its frame, as the screen has them. Where no
+/// program has a say in the place, the place is any.
 wxRect frameOfDialog();
 
 /// Asks the dialog to close, as the window manager does for its close box.

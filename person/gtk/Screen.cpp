@@ -1,11 +1,13 @@
 #include "person/Screen.h"
 
 #include "person/openDialog.h"
+#include "person/wayland/MutterHand.h"
 #include "person/x11/XTestHand.h"
 
 #include <exception>
 #include <future>
 
+#include <gdk/gdkwayland.h>
 #include <gtk/gtk.h>
 #include <wx/sizer.h>
 
@@ -73,6 +75,16 @@ void watchDrags() {
     static_cast<void>(done);
 }
 
+bool isWayland() {
+    return GDK_IS_WAYLAND_DISPLAY(gdk_display_get_default());
+}
+
+void addTo(void *frame, GtkWidget *part) {
+    GtkAllocation place;
+    gtk_widget_get_allocation(part, &place);
+    static_cast<wxRect *>(frame)->Union(wxRect(place.x, place.y, place.width, place.height));
+}
+
 } // namespace
 
 // The environment variable for it would come too late: it is read as the program is loaded.
@@ -81,6 +93,9 @@ void endOnComplaints() {
 }
 
 std::unique_ptr<Hand> makeHand() {
+    if (isWayland()) {
+        return std::make_unique<MutterHand>();
+    }
     return std::make_unique<XTestHand>();
 }
 
@@ -105,14 +120,35 @@ bool dialogStands() {
     watchDrags();
     const wxDialog &dialog = openDialog();
     const wxRect frame = frameOfDialog();
-    const int clientWidth = gdk_window_get_width(gtk_widget_get_window(dialog.GetHandle()));
+    GdkWindow *window = gtk_widget_get_window(dialog.GetHandle());
+    if (dialog.GetSizer()->GetSize() != dialog.GetVirtualSize()) {
+        return false;
+    }
+    if (isWayland()) {
+        // Nobody is told the place.
+        return dialog.GetClientSize().x == frame.width &&
+               dialog.GetSize() ==
+                   wxSize(gdk_window_get_width(window), gdk_window_get_height(window));
+    }
+    const int clientWidth = gdk_window_get_width(window);
     constexpr int thickestBorders = 50;
     return frame.GetPosition() == wxPoint(100, 100) && frame.width >= 100 &&
-           frame.width - clientWidth < thickestBorders && dialog.GetClientSize().x == clientWidth &&
-           dialog.GetSizer()->GetSize() == dialog.GetVirtualSize();
+           frame.width - clientWidth < thickestBorders && dialog.GetClientSize().x == clientWidth;
+}
+
+bool placesWindows() {
+    return !isWayland();
 }
 
 wxRect frameOfDialog() {
+    if (isWayland()) {
+        // Around the title bar and the content GTK draws a shadow, which is no part of the frame.
+        wxRect frame;
+        gtk_container_forall(
+            GTK_CONTAINER(openDialog().GetHandle()),
+            [](GtkWidget *part, void *data) { addTo(data, part); }, &frame);
+        return frame;
+    }
     GdkRectangle frame;
     gdk_window_get_frame_extents(gtk_widget_get_window(openDialog().GetHandle()), &frame);
     return {frame.x, frame.y, frame.width, frame.height};
@@ -129,7 +165,9 @@ bool isDragRunning() {
     return dragNotes.isRunning;
 }
 
+// A drop counts where the compositor has been told that it is taken, and that takes its time.
 std::optional<wxPoint> placeOfDrag() {
+    gdk_display_sync(gdk_display_get_default());
     return dragNotes.place;
 }
 

@@ -3,10 +3,12 @@
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
+#include <chrono>
 #include <cstdlib>
 #include <functional>
 #include <random>
 #include <set>
+#include <thread>
 
 #include <gtest/gtest.h>
 #include <wxImportCSVDialog.h>
@@ -208,15 +210,17 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
              person.moveTo(wxPoint(1400, 1000));
              person.drop();
          }},
-        {"a release before the drag can begin",
+        {"a release before or just after the drag begins",
          [](Person &person) {
-             for (int times = 0; times < 50; ++times) {
+             for (int milliseconds = 0; milliseconds <= 25; ++milliseconds) {
                  person.moveTo(Person::fileRow(5));
                  person.press();
-                 person.moveTo(Person::fileRow(5) + wxSize(1 + times % 2, 0));
+                 person.moveTo(Person::fileRow(5) + wxSize(1 + milliseconds % 2, 0));
+                 std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
                  person.release();
              }
-             waitUntil("no drag is left", [] { return !isDragRunning(); });
+             person.hoverAt(Person::matchRow(2), "no drag is left",
+                            [] { return !isDragRunning() && isInHover(2)(); });
          }},
     };
     EXPECT_TRUE(run.show([&ways](Person &person) {

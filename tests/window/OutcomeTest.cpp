@@ -69,8 +69,10 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
         run.width = size.x;
         run.height = size.y;
         run.show([&size](Person &person) {
-            const wxRect wanted(wxPoint(100, 100), size);
-            waitUntil("the frame is in its place", [&] { return frameOfDialog() == wanted; });
+            waitUntil("the frame has its size", [&] { return frameOfDialog().GetSize() == size; });
+            if (placesWindows()) {
+                EXPECT_EQ(read(frameOfDialog).GetPosition(), wxPoint(100, 100));
+            }
             pressEscape(person);
         });
     }

@@ -1,0 +1,136 @@
+#include "person/wayland/MutterHand.h"
+
+#include "person/UserInterface.h"
+#include "person/gtk/keysymOf.h"
+#include "person/openDialog.h"
+
+#include <algorithm>
+#include <map>
+#include <optional>
+
+#include <gtk/gtk.h>
+#include <linux/input-event-codes.h>
+#include <wx/utils.h>
+
+namespace {
+
+constexpr const char *door = "org.gnome.Mutter.RemoteDesktop";
+
+/// Calls `method` and gives its answer back; the caller frees it.
+GVariant *ask(GDBusProxy *proxy, const char *method, GVariant *arguments = nullptr) {
+    GError *error = nullptr;
+    GVariant *answer = g_dbus_proxy_call_sync(proxy, method, arguments, G_DBUS_CALL_FLAGS_NONE, -1,
+                                              nullptr, &error);
+    if (answer == nullptr) {
+        const std::string reason = error->message;
+        g_error_free(error);
+        throw GivenUp(reason);
+    }
+    return answer;
+}
+
+void tell(GDBusProxy *proxy, const char *method, GVariant *arguments = nullptr) {
+    g_variant_unref(ask(proxy, method, arguments));
+}
+
+GDBusProxy *proxyOf(const char *path, const char *interface) {
+    GError *error = nullptr;
+    GDBusProxy *proxy =
+        g_dbus_proxy_new_for_bus_sync(G_BUS_TYPE_SESSION, G_DBUS_PROXY_FLAGS_NONE, nullptr, door,
+                                      path, interface, nullptr, &error);
+    if (proxy == nullptr) {
+        const std::string reason = error->message;
+        g_error_free(error);
+        throw GivenUp(reason);
+    }
+    return proxy;
+}
+
+/// Where the pointer is in the client area of the dialog, if the dialog has heard of it.
+std::optional<wxPoint> pointerInDialog() {
+    GdkWindow *dialog = gtk_widget_get_window(openDialog().GetHandle());
+    GdkDevice *pointer =
+        gdk_seat_get_pointer(gdk_display_get_default_seat(gdk_display_get_default()));
+    GdkWindow *under = gdk_device_get_window_at_position(pointer, nullptr, nullptr);
+    if (under == nullptr || gdk_window_get_effective_toplevel(under) != dialog) {
+        return std::nullopt;
+    }
+    return openDialog().ScreenToClient(wxGetMousePosition());
+}
+
+} // namespace
+
+MutterHand::MutterHand() {
+    GDBusProxy *desktop = proxyOf("/org/gnome/Mutter/RemoteDesktop", door);
+    GVariant *created = ask(desktop, "CreateSession");
+    const char *path = nullptr;
+    g_variant_get(created, "(&o)", &path);
+    m_session = proxyOf(path, "org.gnome.Mutter.RemoteDesktop.Session");
+    g_variant_unref(created);
+    g_object_unref(desktop);
+    tell(m_session, "Start");
+    m_screen = read(wxGetDisplaySize);
+    // Wherever the pointer was: a way longer than the screen ends in its corner.
+    m_pointer = wxPoint(m_screen.x, m_screen.y);
+    moveOnScreen(wxPoint(0, 0));
+    // A screen without a keyboard gives no window the focus; it has one from the first key on.
+    MutterHand::setKey(WXK_SHIFT, true);
+    MutterHand::setKey(WXK_SHIFT, false);
+}
+
+MutterHand::~MutterHand() {
+    try {
+        tell(m_session, "Stop");
+    } catch (const GivenUp &) {
+        // Then the screen has gone before the hand.
+    }
+    g_object_unref(m_session);
+}
+
+// A program is not told where its windows are. Where the dialog is follows from the pointer, whose
+// place is known on the screen and, some time after each move, in the dialog: unequal steps must
+// give the same answer several times in a row. They are made in the middle of the screen first.
+void MutterHand::findDialog() {
+    int steps = 0;
+    int equal = 0;
+    poll("the pointer is over the dialog", [&] {
+        const int region = ++steps / 12;
+        moveOnScreen(wxPoint((m_screen.x / 2 + 330 * region) % m_screen.x + 7 * steps * steps % 30,
+                             (m_screen.y / 2 + 70 * region) % m_screen.y + 5 * steps * steps % 20));
+        const std::optional<wxPoint> inDialog = read(pointerInDialog);
+        const wxPoint dialog = inDialog ? m_pointer - *inDialog : wxPoint();
+        equal = inDialog && dialog == m_dialog ? equal + 1 : 0;
+        m_dialog = dialog;
+        return equal == 3;
+    });
+}
+
+void MutterHand::moveTo(wxPoint point) {
+    moveOnScreen(m_dialog + point);
+}
+
+// The edges of the screen stop the pointer.
+void MutterHand::moveOnScreen(wxPoint point) {
+    point.x = std::clamp(point.x, 0, m_screen.x - 1);
+    point.y = std::clamp(point.y, 0, m_screen.y - 1);
+    const wxPoint way = point - m_pointer;
+    tell(m_session, "NotifyPointerMotionRelative",
+         g_variant_new("(dd)", static_cast<double>(way.x), static_cast<double>(way.y)));
+    m_pointer = point;
+}
+
+void MutterHand::setButton(int button, bool isDown) {
+    if (button == 4 || button == 5) {
+        if (isDown) {
+            tell(m_session, "NotifyPointerAxisDiscrete",
+                 g_variant_new("(ui)", 0U, button == 4 ? -1 : 1));
+        }
+        return;
+    }
+    static const std::map<int, int> codes = {{1, BTN_LEFT}, {2, BTN_MIDDLE}, {3, BTN_RIGHT}};
+    tell(m_session, "NotifyPointerButton", g_variant_new("(ib)", codes.at(button), isDown));
+}
+
+void MutterHand::setKey(int key, bool isDown) {
+    tell(m_session, "NotifyKeyboardKeysym", g_variant_new("(ub)", keysymOf(key), isDown));
+}
