@@ -1,0 +1,74 @@
+// Imports a file of assays as the program does, on the thread of the database beside a main loop.
+//   drillhole_bench ASSAYS.csv HOLES.sqlite
+// Prints the rows taken, the peak of the memory in kB, and the longest time in milliseconds that
+// the main loop was kept waiting.
+
+#include "examples/drillhole/database/connection.h"
+#include "examples/drillhole/database/importRows.h"
+#include "examples/drillhole/window/DatabaseThread.h"
+
+#include <chrono>
+#include <iostream>
+
+#include <glibmm/init.h>
+#include <glibmm/main.h>
+#include <sys/resource.h>
+
+using namespace drillhole;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr unsigned int tick = 5; // milliseconds
+
+long peakMemory() {
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    if (argc != 3) {
+        std::cerr << "usage: drillhole_bench ASSAYS.csv HOLES.sqlite\n";
+        return 2;
+    }
+    Glib::init();
+    const std::string file = argv[1];
+    const std::string database = argv[2];
+    const auto loop = Glib::MainLoop::create();
+    Clock::time_point last = Clock::now();
+    Clock::duration longest{};
+    Glib::signal_timeout().connect(
+        [&] {
+            const Clock::time_point now = Clock::now();
+            longest = std::max(longest, now - last);
+            last = now;
+            return true;
+        },
+        tick);
+
+    ImportProgress progress;
+    ImportOutcome outcome;
+    std::string failure;
+    DatabaseThread thread(connectionFor(database));
+    thread.run(
+        [&](soci::session &holes) {
+            const Table &assays = *findTable("assay");
+            const FileMatch match{
+                {"BHID", "FROM", "TO", "Au", "Cu", "Zn", "DUP", "BLANK", "STD"}, ',', true};
+            outcome = importFile({holes, assays, database + ".refused.csv", false}, file, match,
+                                 progress);
+        },
+        [&](const std::string &fault) {
+            failure = fault;
+            loop->quit();
+        });
+    loop->run();
+    std::cerr << failure;
+    std::cout << outcome.taken << ' ' << peakMemory() << ' '
+              << std::chrono::duration_cast<std::chrono::milliseconds>(longest).count() << '\n';
+    return failure.empty() ? 0 : 1;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <string>
+
+#include <soci/soci.h>
+
+namespace drillhole {
+
+// A connection string names a backend and what that needs to find a database:
+//     sqlite3://db="/data/holes.sqlite"
+//     postgresql://host=db.example.org dbname=mine user=ann
+//     odbc://DSN=mine
+
+/// The connection string for what a user types: the path of an SQLite file, or a connection string.
+std::string connectionFor(const std::string &pathOrConnection);
+
+/// The connection string with a password added, as its backend wants it. An empty one adds nothing.
+std::string withPassword(const std::string &connection, const std::string &password);
+
+/// The connection string with the passwords in it left out, to be shown and kept.
+std::string withoutPassword(const std::string &connection);
+
+/// The database in short: the path of an SQLite file, or the connection string without password.
+std::string placeOf(const std::string &connection);
+
+/// The text with three asterisks for every password of the connection string.
+std::string hidePasswords(std::string text, const std::string &connection);
+
+/// Opens a database to write to; an SQLite file is made if it is missing. Throws a Fault.
+void openDatabase(soci::session &session, const std::string &connection);
+
+/// Opens a database to read from; nothing is made. Throws a Fault.
+void openSource(soci::session &session, const std::string &connection);
+
+} // namespace drillhole

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "examples/drillhole/rows/RowCheck.h"
+
+#include <memory>
+
+#include <soci/soci.h>
+
+namespace drillhole {
+
+// What the program asks of the database that its drill holes are in.
+
+/// Makes those of the tables that are missing.
+void makeHoleTables(soci::session &session);
+
+std::size_t rowCount(soci::session &session, const Table &table);
+
+/// The names of all holes that have a collar.
+std::unordered_set<std::string> holeNames(soci::session &session);
+
+/// A stretch of the table's rows as texts, in the order in which the database keeps them.
+std::vector<std::vector<std::string>> rowsOf(soci::session &session, const Table &table,
+                                             std::size_t first, std::size_t count);
+
+struct Collar {
+    std::string name;
+    double easting;
+    double northing;
+};
+
+std::vector<Collar> collarsOf(soci::session &session);
+
+/// Puts rows into a table, one after the other.
+class RowInsertion {
+public:
+    RowInsertion(soci::session &session, const Table &table);
+
+    void insert(const std::vector<Value> &values);
+
+private:
+    const Table &m_table;
+    // What the statement is bound to: one of each for every column.
+    std::vector<double> m_numbers;
+    std::vector<std::string> m_texts;
+    std::vector<soci::indicator> m_indicators;
+    soci::statement m_statement;
+};
+
+} // namespace drillhole

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace drillhole {
+
+/// Something that ends an import. The text is for the user: what is wrong, and what to do.
+class Fault : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+} // namespace drillhole

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "examples/drillhole/rows/RowSource.h"
+
+#include <fstream>
+#include <string>
+
+namespace drillhole {
+
+struct RefusedRow {
+    std::string lines; ///< "7", or "7-9" for a row of several lines
+    std::string reason;
+};
+
+/// The rows that an import refused: all of them in a file, the first ones in memory too.
+///
+/// The file is a table of its own: lines, reason, and the fields of the row as they were. It takes
+/// its name when the import is done; until then, and after an import that is not, the report of the
+/// last one stays as it was.
+class RefusedRows {
+public:
+    /// Throws a Fault if the file can't be made.
+    explicit RefusedRows(const std::string &path);
+    ~RefusedRows();
+    RefusedRows(const RefusedRows &) = delete;
+    RefusedRows &operator=(const RefusedRows &) = delete;
+
+    void add(const Row &row, const std::string &reason);
+
+    std::size_t count() const { return m_count; }
+
+    /// The first thousand.
+    const std::vector<RefusedRow> &first() const { return m_first; }
+
+    /// Completes the file. Throws a Fault if it can't be written.
+    void finish();
+
+    /// Gives the file its name, or takes the last report away if no row was refused.
+    void publish();
+
+private:
+    std::string m_path;
+    std::string m_unfinished;
+    std::ofstream m_file;
+    std::size_t m_count = 0;
+    std::vector<RefusedRow> m_first;
+};
+
+} // namespace drillhole

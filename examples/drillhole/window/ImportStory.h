@@ -1,0 +1,26 @@
+#pragma once
+
+#include "examples/drillhole/database/importRows.h"
+
+#include <iosfwd>
+
+namespace drillhole {
+
+/// One import from the choice of its source to its end.
+struct ImportStory {
+    const Table *table = nullptr;
+    std::string source;               ///< the file's name, or the table's
+    bool isConfirmed = false;         ///< with OK in the dialog
+    std::optional<FileMatch> file;    ///< of a file, how the dialog was left
+    std::vector<std::string> matches; ///< a name for each column of the table, or an empty string
+    ImportOutcome outcome;
+    std::string fault; ///< why nothing was imported
+
+    bool isDone() const { return isConfirmed && fault.empty() && !outcome.isCancelled; }
+};
+
+/// Writes it line by line: how the dialog ended, the columns with their matches, the rows taken and
+/// the rows refused with their reasons.
+void print(std::ostream &out, const ImportStory &story);
+
+} // namespace drillhole

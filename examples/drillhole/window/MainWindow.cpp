@@ -1,0 +1,310 @@
+#include "examples/drillhole/window/MainWindow.h"
+
+#include "examples/drillhole/database/connection.h"
+#include "examples/drillhole/database/sourceTables.h"
+#include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/window/SourceDialog.h"
+
+#include <utility>
+
+#include <glibmm/convert.h>
+#include <glibmm/main.h>
+#include <glibmm/miscutils.h>
+#include <gtkmm/filechoosernative.h>
+#include <gtkmm/frame.h>
+#include <gtkmm/paned.h>
+
+namespace drillhole {
+
+namespace {
+
+constexpr int spacing = 8;
+constexpr unsigned int progressInterval = 50; // milliseconds
+
+/// What the window shows of the database.
+struct Content {
+    std::vector<std::size_t> counts; ///< of each table
+    std::vector<std::vector<std::string>> rows;
+    std::vector<Collar> collars;
+};
+
+Content contentOf(soci::session &session, const Table &table, std::size_t firstRow) {
+    Content content;
+    for (const Table &each : holeTables()) {
+        content.counts.push_back(rowCount(session, each));
+    }
+    content.rows = rowsOf(session, table, firstRow, RowGrid::pageSize);
+    content.collars = collarsOf(session);
+    return content;
+}
+
+} // namespace
+
+MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
+                       const std::string &connection, const std::string &reportFolder)
+    : m_settings(settings), m_dialog(peer, settings), m_reportFolder(reportFolder),
+      m_table(&holeTables().front()), m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
+      m_replace("_Replace the rows that are there", true),
+      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing), m_thread(connection) {
+    set_title("Drill holes in " + placeOf(connection));
+    set_default_size(1120, 720);
+    auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
+    all->property_margin() = 12;
+    all->pack_start(createToolbar(), Gtk::PACK_SHRINK);
+    all->pack_start(createFaultBar(), Gtk::PACK_SHRINK);
+    all->pack_start(createBody(), Gtk::PACK_EXPAND_WIDGET);
+    all->pack_start(m_report, Gtk::PACK_SHRINK);
+    all->pack_start(createProgressLine(), Gtk::PACK_SHRINK);
+    add(*all);
+    show_all_children();
+    load(0);
+}
+
+void MainWindow::choose(const Table &table) {
+    for (std::size_t i = 0; i < m_tableButtons.size(); ++i) {
+        if (&holeTables()[i] == &table) {
+            m_tableButtons[i]->set_active();
+        }
+    }
+}
+
+void MainWindow::importFile(const std::string &path) {
+    if (m_isBusy) {
+        return;
+    }
+    m_faultBar.hide();
+    ImportStory story;
+    story.table = m_table;
+    story.source = Glib::filename_display_basename(path);
+    try {
+        story.file = m_dialog.matchFile(*this, *m_table, path);
+    } catch (const Fault &fault) {
+        story.fault = fault.what();
+    }
+    story.isConfirmed = story.file.has_value();
+    if (!story.isConfirmed) {
+        end(story);
+        return;
+    }
+    const FileMatch match = *story.file;
+    story.matches = match.matches;
+    start(story, [path, match](const Destination &destination, ImportProgress &progress) {
+        return drillhole::importFile(destination, path, match, progress);
+    });
+}
+
+void MainWindow::importTable(const std::string &connection, const std::string &sourceTable) {
+    if (m_isBusy) {
+        return;
+    }
+    m_faultBar.hide();
+    ImportStory story;
+    story.table = m_table;
+    story.source = sourceTable;
+    const auto columns = std::make_shared<std::vector<std::string>>();
+    setBusy(true);
+    m_thread.run(
+        [connection, sourceTable, columns](soci::session &) {
+            soci::session source;
+            openSource(source, connection);
+            *columns = columnNames(source, sourceTable);
+        },
+        [this, story, connection, columns](const std::string &fault) mutable {
+            story.fault = fault;
+            matchTable(story, connection, *columns);
+        });
+}
+
+void MainWindow::matchTable(ImportStory story, const std::string &connection,
+                            const std::vector<std::string> &columns) {
+    if (story.fault.empty()) {
+        if (auto matches = m_dialog.matchTable(*this, *story.table, story.source, columns)) {
+            story.isConfirmed = true;
+            story.matches = std::move(*matches);
+        }
+    }
+    if (!story.isConfirmed) {
+        end(story);
+        return;
+    }
+    start(story, [connection, columns, table = story.source, matches = story.matches](
+                     const Destination &destination, ImportProgress &progress) {
+        return drillhole::importTable(destination, connection, table, columns, matches, progress);
+    });
+}
+
+void MainWindow::start(ImportStory story, Import import) {
+    const auto progress = std::make_shared<ImportProgress>();
+    const auto outcome = std::make_shared<ImportOutcome>();
+    m_progress = progress;
+    m_progressTimer =
+        Glib::signal_timeout().connect([this] { return showProgress(); }, progressInterval);
+    setBusy(true);
+    m_progressLine.show();
+    const std::string report =
+        Glib::build_filename(m_reportFolder, "refused_" + story.table->name + ".csv");
+    const bool replaces = m_replace.get_active();
+    m_thread.run(
+        [=, table = story.table](soci::session &holes) {
+            *outcome = import({holes, *table, report, replaces}, *progress);
+        },
+        [this, story, outcome](const std::string &fault) mutable {
+            story.outcome = *outcome;
+            story.fault = fault;
+            end(story);
+        });
+}
+
+void MainWindow::end(const ImportStory &story) {
+    m_progressTimer.disconnect();
+    m_progress.reset();
+    m_progressLine.hide();
+    setBusy(false);
+    if (!story.fault.empty()) {
+        showFault(story.fault);
+    } else if (story.isConfirmed) {
+        m_report.show(story.outcome, story.source, *story.table);
+        if (!m_settings.complaint().empty()) {
+            showFault(m_settings.complaint());
+        }
+    }
+    if (story.isDone()) {
+        m_replace.set_active(false);
+        load(0);
+    }
+    m_signalEnded.emit(story);
+}
+
+void MainWindow::setBusy(bool isBusy) {
+    m_isBusy = isBusy;
+    m_toolbar.set_sensitive(!isBusy);
+}
+
+bool MainWindow::showProgress() {
+    m_progressBar.set_fraction(m_progress->share);
+    m_progressBar.set_text(std::to_string(m_progress->rows) + " rows");
+    return true;
+}
+
+void MainWindow::load(std::size_t firstRow) {
+    const auto content = std::make_shared<Content>();
+    m_thread.run([content, table = m_table, firstRow](
+                     soci::session &holes) { *content = contentOf(holes, *table, firstRow); },
+                 [this, content, table = m_table, firstRow](const std::string &fault) {
+                     if (!fault.empty()) {
+                         showFault(fault);
+                         return;
+                     }
+                     for (std::size_t i = 0; i < m_tableButtons.size(); ++i) {
+                         m_tableButtons[i]->set_label(holeTables()[i].title + " (" +
+                                                      std::to_string(content->counts[i]) + ')');
+                         if (&holeTables()[i] == table) {
+                             m_grid.show(*table, content->rows, firstRow, content->counts[i]);
+                         }
+                     }
+                     m_plan.show(content->collars);
+                 });
+}
+
+void MainWindow::chooseFile() {
+    const auto chooser = Gtk::FileChooserNative::create("Choose a File to Import", *this,
+                                                        Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
+    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
+        importFile(chooser->get_filename());
+    }
+}
+
+void MainWindow::chooseSourceTable() {
+    std::optional<SourceTable> chosen;
+    {
+        SourceDialog dialog(*this, m_thread, m_settings.source());
+        chosen = dialog.choose();
+    }
+    if (chosen) {
+        m_settings.keepSource(chosen->connection);
+        importTable(chosen->connection, chosen->name);
+    }
+}
+
+void MainWindow::showFault(const std::string &fault) {
+    m_fault.set_text(fault);
+    m_faultBar.show();
+}
+
+bool MainWindow::on_delete_event(GdkEventAny *) {
+    if (m_progress) {
+        showFault("An import is running. Wait for its end, or cancel it, before you close.");
+    }
+    return m_progress != nullptr;
+}
+
+Gtk::Widget &MainWindow::createToolbar() {
+    auto *tables = Gtk::make_managed<Gtk::Box>();
+    tables->get_style_context()->add_class("linked");
+    Gtk::RadioButton::Group group;
+    for (const Table &table : holeTables()) {
+        auto *button = Gtk::make_managed<Gtk::RadioButton>(group, table.title);
+        button->set_mode(false);
+        button->signal_toggled().connect([this, button, chosen = &table] {
+            if (button->get_active()) {
+                m_table = chosen;
+                load(0);
+            }
+        });
+        m_tableButtons.push_back(button);
+        tables->pack_start(*button, Gtk::PACK_SHRINK);
+    }
+    m_toolbar.pack_start(*tables, Gtk::PACK_SHRINK);
+
+    auto *file = Gtk::make_managed<Gtk::Button>("Import _File...", true);
+    file->get_style_context()->add_class("suggested-action");
+    file->signal_clicked().connect([this] { chooseFile(); });
+    auto *source = Gtk::make_managed<Gtk::Button>("Import _Table...", true);
+    source->signal_clicked().connect([this] { chooseSourceTable(); });
+    m_toolbar.pack_end(*file, Gtk::PACK_SHRINK);
+    m_toolbar.pack_end(*source, Gtk::PACK_SHRINK);
+    m_toolbar.pack_end(m_replace, Gtk::PACK_SHRINK);
+    return m_toolbar;
+}
+
+Gtk::Widget &MainWindow::createFaultBar() {
+    m_faultBar.set_message_type(Gtk::MESSAGE_ERROR);
+    m_faultBar.set_show_close_button();
+    m_faultBar.signal_response().connect([this](int) { m_faultBar.hide(); });
+    m_fault.set_line_wrap();
+    m_fault.set_xalign(0);
+    m_fault.set_selectable();
+    m_fault.show();
+    dynamic_cast<Gtk::Container *>(m_faultBar.get_content_area())->add(m_fault);
+    m_faultBar.set_no_show_all();
+    return m_faultBar;
+}
+
+Gtk::Widget &MainWindow::createBody() {
+    m_grid.signalPage().connect([this](std::size_t firstRow) { load(firstRow); });
+    auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
+    both->pack1(m_grid, true, false);
+    auto *frame = Gtk::make_managed<Gtk::Frame>();
+    frame->add(m_plan);
+    both->pack2(*frame, true, false);
+    both->set_position(660);
+    return *both;
+}
+
+Gtk::Widget &MainWindow::createProgressLine() {
+    auto *cancel = Gtk::make_managed<Gtk::Button>("_Cancel", true);
+    cancel->signal_clicked().connect([this] {
+        if (m_progress) {
+            m_progress->isCancelled = true;
+        }
+    });
+    m_progressBar.set_show_text();
+    m_progressBar.set_valign(Gtk::ALIGN_CENTER);
+    m_progressLine.pack_start(m_progressBar, Gtk::PACK_EXPAND_WIDGET);
+    m_progressLine.pack_start(*cancel, Gtk::PACK_SHRINK);
+    m_progressLine.show_all_children();
+    m_progressLine.set_no_show_all();
+    return m_progressLine;
+}
+
+} // namespace drillhole

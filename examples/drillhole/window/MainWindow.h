@@ -1,0 +1,82 @@
+#pragma once
+
+#include "examples/drillhole/window/DatabaseThread.h"
+#include "examples/drillhole/window/ImportStory.h"
+#include "examples/drillhole/window/MatchDialog.h"
+#include "examples/drillhole/window/PlanView.h"
+#include "examples/drillhole/window/ReportPane.h"
+#include "examples/drillhole/window/RowGrid.h"
+
+#include <gtkmm/checkbutton.h>
+#include <gtkmm/infobar.h>
+#include <gtkmm/progressbar.h>
+#include <gtkmm/radiobutton.h>
+
+namespace drillhole {
+
+/// The program's window: a table's rows, the collars in a plan, what came of the last import, and
+/// the ways to the next one.
+class MainWindow : public Gtk::Window {
+public:
+    /// @param connection   the database of the drill holes
+    /// @param reportFolder where the reports of refused rows go
+    MainWindow(wxImportCSVDialogPeer &peer, Settings &settings, const std::string &connection,
+               const std::string &reportFolder);
+
+    /// Chooses the table that is shown and imported into.
+    void choose(const Table &table);
+
+    /// Runs the dialog and then the import, which goes on after the call.
+    void importFile(const std::string &path);
+
+    /// The same for a table in another database.
+    void importTable(const std::string &connection, const std::string &sourceTable);
+
+    /// Every import's end, however it came.
+    sigc::signal<void, const ImportStory &> &signalEnded() { return m_signalEnded; }
+
+private:
+    using Import = std::function<ImportOutcome(const Destination &, ImportProgress &)>;
+
+    Gtk::Widget &createToolbar();
+    Gtk::Widget &createBody();
+    Gtk::Widget &createFaultBar();
+    Gtk::Widget &createProgressLine();
+
+    void chooseFile();
+    void chooseSourceTable();
+    void matchTable(ImportStory story, const std::string &connection,
+                    const std::vector<std::string> &columns);
+    void start(ImportStory story, Import import);
+    void end(const ImportStory &story);
+    void setBusy(bool isBusy);
+    bool showProgress();
+
+    void load(std::size_t firstRow);
+    void showFault(const std::string &fault);
+    bool on_delete_event(GdkEventAny *event) override;
+
+    Settings &m_settings;
+    MatchDialog m_dialog;
+    std::string m_reportFolder;
+    const Table *m_table;
+    bool m_isBusy = false;
+    std::shared_ptr<ImportProgress> m_progress;
+    sigc::connection m_progressTimer;
+    sigc::signal<void, const ImportStory &> m_signalEnded;
+
+    std::vector<Gtk::RadioButton *> m_tableButtons;
+    Gtk::Box m_toolbar;
+    Gtk::CheckButton m_replace;
+    Gtk::InfoBar m_faultBar;
+    Gtk::Label m_fault;
+    RowGrid m_grid;
+    PlanView m_plan;
+    ReportPane m_report;
+    Gtk::Box m_progressLine;
+    Gtk::ProgressBar m_progressBar;
+
+    DatabaseThread m_thread; // the last: it ends before what its work is for
+};
+
+} // namespace drillhole

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <glibmm/keyfile.h>
+
+namespace drillhole {
+
+/// How the dialog was last left with OK.
+struct KeptMatch {
+    std::vector<std::string> matches;
+    std::optional<char> delimiter; ///< none before the first import
+    bool firstLineHoldsTitles = true;
+    int width = 0; ///< of the dialog's frame in pixels; 0 before the first import
+    int height = 0;
+};
+
+/// What the program keeps from one run to the next, in a key file.
+class Settings {
+public:
+    /// A file that is missing or that nobody can read leaves everything at its start.
+    explicit Settings(const std::string &path);
+
+    /// @param name  what is imported where, such as "collar from file"
+    KeptMatch match(const std::string &name) const;
+    void keepMatch(const std::string &name, const KeptMatch &match);
+
+    /// The connection string of the last source, without a password.
+    std::string source() const;
+    void keepSource(const std::string &connection);
+
+    /// Why the last values could not be kept; empty if they were.
+    const std::string &complaint() const { return m_complaint; }
+
+private:
+    void save();
+
+    std::string m_path;
+    std::string m_complaint;
+    Glib::KeyFile m_file;
+};
+
+} // namespace drillhole

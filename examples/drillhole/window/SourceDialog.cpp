@@ -1,0 +1,141 @@
+#include "examples/drillhole/window/SourceDialog.h"
+
+#include "examples/drillhole/database/connection.h"
+#include "examples/drillhole/database/sourceTables.h"
+
+#include <gtkmm/filechoosernative.h>
+#include <gtkmm/scrolledwindow.h>
+
+namespace drillhole {
+
+namespace {
+
+constexpr int spacing = 8;
+
+} // namespace
+
+SourceDialog::SourceDialog(Gtk::Window &owner, DatabaseThread &thread,
+                           const std::string &connection)
+    : Gtk::Dialog("Choose a Table to Import", owner, true), m_thread(thread),
+      m_grid(Gtk::make_managed<Gtk::Grid>()), m_file("SQLite _File...", true),
+      m_connect("C_onnect", true) {
+    set_default_size(640, 420);
+    set_border_width(6);
+    add_button("_Cancel", Gtk::RESPONSE_CANCEL);
+    add_button("_Match Columns...", Gtk::RESPONSE_OK)
+        ->get_style_context()
+        ->add_class("suggested-action");
+    set_default_response(Gtk::RESPONSE_OK);
+    set_response_sensitive(Gtk::RESPONSE_OK, false);
+
+    m_grid->set_row_spacing(spacing);
+    m_grid->set_column_spacing(spacing);
+    m_grid->property_margin() = 12;
+    m_connection.set_text(connection);
+    m_connection.set_hexpand();
+    m_connection.set_placeholder_text("postgresql://host=... dbname=... user=...   odbc://DSN=...");
+    m_connection.signal_activate().connect([this] { listTables(); });
+    m_password.set_visibility(false);
+    m_password.set_input_purpose(Gtk::INPUT_PURPOSE_PASSWORD);
+    m_password.set_placeholder_text("if the database wants one; it is not kept");
+    m_password.signal_activate().connect([this] { listTables(); });
+    addRow(0, "Co_nnection", m_connection);
+    m_grid->attach(m_file, 2, 0);
+    addRow(1, "_Password", m_password);
+    m_grid->attach(m_connect, 2, 1);
+    m_file.signal_clicked().connect([this] { chooseFile(); });
+    m_connect.signal_clicked().connect([this] { listTables(); });
+
+    m_message.set_xalign(0);
+    m_message.set_line_wrap();
+    m_message.set_max_width_chars(60);
+    m_message.set_selectable();
+    m_message.set_text("Choose an SQLite file, or type how to reach a database, and connect to see "
+                       "its tables.");
+    m_grid->attach(m_message, 0, 2, 3);
+
+    auto *scrolled = Gtk::make_managed<Gtk::ScrolledWindow>();
+    scrolled->set_shadow_type(Gtk::SHADOW_IN);
+    scrolled->set_vexpand();
+    scrolled->add(m_tables);
+    m_tables.signal_row_selected().connect(
+        [this](Gtk::ListBoxRow *row) { set_response_sensitive(Gtk::RESPONSE_OK, row != nullptr); });
+    m_tables.set_activate_on_single_click(false);
+    m_tables.signal_row_activated().connect(
+        [this](Gtk::ListBoxRow *) { response(Gtk::RESPONSE_OK); });
+    m_grid->attach(*scrolled, 0, 3, 3);
+    get_content_area()->pack_start(*m_grid, Gtk::PACK_EXPAND_WIDGET);
+    show_all_children();
+}
+
+SourceDialog::~SourceDialog() {
+    *m_isOpen = false;
+}
+
+std::optional<SourceTable> SourceDialog::choose() {
+    if (run() != Gtk::RESPONSE_OK) {
+        return std::nullopt;
+    }
+    const auto *label = dynamic_cast<Gtk::Label *>(m_tables.get_selected_row()->get_child());
+    return SourceTable{m_listed, label->get_text()};
+}
+
+void SourceDialog::addRow(int row, const Glib::ustring &text, Gtk::Widget &control) {
+    auto *label = Gtk::make_managed<Gtk::Label>(text, Gtk::ALIGN_END, Gtk::ALIGN_CENTER, true);
+    label->set_mnemonic_widget(control);
+    m_grid->attach(*label, 0, row);
+    m_grid->attach(control, 1, row);
+}
+
+void SourceDialog::chooseFile() {
+    const auto chooser = Gtk::FileChooserNative::create("Choose an SQLite Database", *this,
+                                                        Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
+    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
+        m_connection.set_text(connectionFor(chooser->get_filename()));
+        listTables();
+    }
+}
+
+void SourceDialog::listTables() {
+    const std::string typed = m_connection.get_text();
+    if (typed.empty()) {
+        m_message.set_text("Type a connection string, or choose an SQLite file.");
+        return;
+    }
+    const std::string connection = withPassword(connectionFor(typed), m_password.get_text());
+    const auto names = std::make_shared<std::vector<std::string>>();
+    showTables({});
+    m_connect.set_sensitive(false);
+    m_message.set_text("Connecting...");
+    m_thread.run(
+        [connection, names](soci::session &) {
+            soci::session source;
+            openSource(source, connection);
+            *names = tableNames(source);
+        },
+        [this, connection, names, isOpen = m_isOpen](const std::string &fault) {
+            if (!*isOpen) {
+                return;
+            }
+            m_connect.set_sensitive(true);
+            m_listed = connection;
+            showTables(*names);
+            m_message.set_text(fault.empty() && names->empty() ? "The database has no tables."
+                                                               : fault);
+        });
+}
+
+void SourceDialog::showTables(const std::vector<std::string> &names) {
+    for (Gtk::Widget *row : m_tables.get_children()) {
+        m_tables.remove(*row);
+    }
+    for (const std::string &name : names) {
+        auto *label = Gtk::make_managed<Gtk::Label>(name, Gtk::ALIGN_START);
+        label->property_margin() = 4;
+        m_tables.append(*label);
+        label->show_all();
+    }
+    m_tables.show_all();
+}
+
+} // namespace drillhole

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "examples/drillhole/window/DatabaseThread.h"
+
+#include <optional>
+#include <vector>
+
+#include <gtkmm/button.h>
+#include <gtkmm/dialog.h>
+#include <gtkmm/entry.h>
+#include <gtkmm/grid.h>
+#include <gtkmm/label.h>
+#include <gtkmm/listbox.h>
+
+namespace drillhole {
+
+/// A table in another database.
+struct SourceTable {
+    std::string connection; ///< with its password
+    std::string name;
+};
+
+/// Lets the user connect to a database and choose a table of it.
+class SourceDialog : public Gtk::Dialog {
+public:
+    /// @param connection  what to begin with
+    SourceDialog(Gtk::Window &owner, DatabaseThread &thread, const std::string &connection);
+    ~SourceDialog() override;
+
+    /// Nothing if the user pressed Cancel.
+    std::optional<SourceTable> choose();
+
+private:
+    void addRow(int row, const Glib::ustring &text, Gtk::Widget &control);
+    void chooseFile();
+    void listTables();
+    void showTables(const std::vector<std::string> &names);
+
+    DatabaseThread &m_thread;
+    std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true);
+    std::string m_listed; ///< the connection whose tables are shown
+    Gtk::Grid *m_grid;
+    Gtk::Entry m_connection;
+    Gtk::Entry m_password;
+    Gtk::Button m_file;
+    Gtk::Button m_connect;
+    Gtk::Label m_message;
+    Gtk::ListBox m_tables;
+};
+
+} // namespace drillhole

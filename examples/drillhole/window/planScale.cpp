@@ -1,0 +1,55 @@
+#include "examples/drillhole/window/planScale.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace drillhole {
+
+namespace {
+
+constexpr double leastExtent = 100;
+
+double scaleFor(double extent, double pixels) {
+    return std::max(pixels, 1.0) / extent;
+}
+
+} // namespace
+
+PlanScale planScale(const std::vector<Collar> &collars, double width, double height,
+                    double margin) {
+    PlanScale scale;
+    if (collars.empty()) {
+        return scale;
+    }
+    const auto [west, east] =
+        std::minmax_element(collars.begin(), collars.end(),
+                            [](const Collar &a, const Collar &b) { return a.easting < b.easting; });
+    const auto [south, north] =
+        std::minmax_element(collars.begin(), collars.end(), [](const Collar &a, const Collar &b) {
+            return a.northing < b.northing;
+        });
+    double extentEast = east->easting - west->easting;
+    double extentNorth = north->northing - south->northing;
+    if (extentEast <= 0 && extentNorth <= 0) {
+        extentEast = extentNorth = leastExtent;
+    }
+    scale.pixelsPerUnit =
+        std::min(extentEast > 0 ? scaleFor(extentEast, width - 2 * margin) : HUGE_VAL,
+                 extentNorth > 0 ? scaleFor(extentNorth, height - 2 * margin) : HUGE_VAL);
+    scale.west = (west->easting + east->easting) / 2 - width / 2 / scale.pixelsPerUnit;
+    scale.north = (south->northing + north->northing) / 2 + height / 2 / scale.pixelsPerUnit;
+    return scale;
+}
+
+double roundStep(double units) {
+    const double power = std::pow(10, std::floor(std::log10(std::max(units, 0.001))));
+    for (const double factor : {1.0, 2.0, 5.0}) {
+        // A hair below counts as equal, as powers of ten are not exact.
+        if (factor * power >= units * (1 - 1e-9)) {
+            return factor * power;
+        }
+    }
+    return 10 * power;
+}
+
+} // namespace drillhole
