@@ -15,6 +15,7 @@ using Picture = Cairo::RefPtr<Cairo::Context>;
 constexpr double margin = 70;
 constexpr double gridSpacing = 110;
 constexpr double holeRadius = 3.5;
+constexpr double scaleBarHeight = 30;
 
 // A plan is a sheet of paper, in a dark theme too.
 void usePaper(const Picture &picture) {
@@ -111,9 +112,11 @@ void PlanView::drawGrid(const Picture &picture, const PlanScale &scale) const {
         picture->move_to(0, y);
         picture->line_to(width, y);
         picture->stroke();
-        useFaintInk(picture);
-        picture->move_to(4, y - 4);
-        picture->show_text(coordinate(northing) + " N");
+        if (y < height - scaleBarHeight) {
+            useFaintInk(picture);
+            picture->move_to(4, y - 4);
+            picture->show_text(coordinate(northing) + " N");
+        }
     }
 }
 
