@@ -28,7 +28,7 @@ std::string found(const std::vector<std::string> &matches, const std::string &te
         }
         return places;
     } catch (const Fault &fault) {
-        const std::string said = fault.what();
+        std::string said = fault.what();
         for (const char *part :
              {"between its quotes", "are both called", "any more", "quotes in"}) {
             if (said.find(part) != std::string::npos) {

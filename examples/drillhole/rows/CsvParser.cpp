@@ -10,6 +10,7 @@ namespace drillhole {
 namespace {
 
 constexpr std::size_t longestField = 1'048'576;
+constexpr std::size_t fieldGrowth = 4096; // the library's own is 128, too little for a long field
 
 // The dialog counts a carriage return among the blanks, and a line feed alone ends a line.
 int isBlank(unsigned char byte) {
@@ -36,6 +37,7 @@ CsvParser::CsvParser(char delimiter) : m_delimiterIsBlank(delimiter == ' ') {
     if (csv_init(&m_parser, CSV_REPALL_NL | CSV_EMPTY_IS_NULL) != 0) {
         throw std::bad_alloc();
     }
+    csv_set_blk_size(&m_parser, fieldGrowth);
     csv_set_delim(&m_parser, static_cast<unsigned char>(delimiter));
     if (delimiter == '"') {
         csv_set_quote(&m_parser, '\0');
