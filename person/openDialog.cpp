@@ -8,6 +8,17 @@
 
 namespace {
 
+/// The dialog that is shown, among all windows that the process may have, or null.
+wxDialog *find() {
+    for (wxWindow *window : wxTopLevelWindows) {
+        auto *dialog = dynamic_cast<wxDialog *>(window);
+        if (dialog != nullptr && dialog->IsShown()) {
+            return dialog;
+        }
+    }
+    return nullptr;
+}
+
 std::vector<int> rowsWhere(const std::function<bool(int)> &isSo) {
     return read([&isSo] {
         std::vector<int> rows;
@@ -23,15 +34,15 @@ std::vector<int> rowsWhere(const std::function<bool(int)> &isSo) {
 } // namespace
 
 bool isDialogOpen() {
-    const wxWindow *ok = wxWindow::FindWindowById(wxID_OK);
-    return ok != nullptr && ok->IsShownOnScreen();
+    return find() != nullptr;
 }
 
 wxDialog &openDialog() {
-    if (!isDialogOpen()) {
+    wxDialog *dialog = find();
+    if (dialog == nullptr) {
         throw GivenUp("no dialog is open");
     }
-    return dynamic_cast<wxDialog &>(*wxGetTopLevelParent(wxWindow::FindWindowById(wxID_OK)));
+    return *dialog;
 }
 
 wxListBox &fileList() {

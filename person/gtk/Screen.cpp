@@ -132,7 +132,7 @@ bool dialogStands() {
     }
     const int clientWidth = gdk_window_get_width(window);
     constexpr int thickestBorders = 50;
-    return frame.GetPosition() == wxPoint(100, 100) && frame.width >= 100 &&
+    return frame.GetPosition() == dialog.GetPosition() && frame.width >= 100 &&
            frame.width - clientWidth < thickestBorders && dialog.GetClientSize().x == clientWidth;
 }
 
