@@ -11,7 +11,7 @@ public:
     explicit ScratchFile(const std::string &content)
         : m_path(std::filesystem::temp_directory_path() /
                  ("columnimport-" + std::to_string(std::random_device()()))) {
-        std::ofstream(m_path, std::ios::binary) << content;
+        write(content);
     }
     ~ScratchFile() {
         std::error_code isLeft;
@@ -19,6 +19,10 @@ public:
     }
     ScratchFile(const ScratchFile &) = delete;
     ScratchFile &operator=(const ScratchFile &) = delete;
+
+    void write(const std::string &content) const {
+        std::ofstream(m_path, std::ios::binary) << content;
+    }
 
     /// In UTF-8.
     std::string path() const { return m_path.u8string(); }

@@ -19,31 +19,29 @@ protected:
     DialogRun run;
 };
 
-void pressEscape(Person &person) {
-    person.strike(WXK_ESCAPE);
+Act strike(int key) {
+    return [key](Person &person) { person.strike(key); };
 }
 
 } // namespace
 
 TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
     const struct {
-        void (*leave)(Person &);
+        Act leave;
         bool result;
     } ways[] = {{pressOk, true},
+                {strike(WXK_RETURN), true},
                 {pressCancel, false},
                 {[](Person &) { onUserInterface(pressCloseBox); }, false},
-                {pressEscape, false}};
+                {strike(WXK_ESCAPE), false}};
     for (const auto &way : ways) {
         run.matches = {"from before"};
         run.delimiter = ',';
         run.firstLineHeader = true;
         EXPECT_EQ(run.show([&way](Person &person) {
             person.typeDelimiter(';');
-            waitUntil("the line is cut at the semicolon",
-                      [] { return fileList().GetString(1) == "Dip"; });
             person.click(wxImportCSVDialog::CHECK_HEADER);
-            waitUntil("positions are shown",
-                      [] { return matchList().GetItemText(1) == "Column2"; });
+            poll("positions are shown", [] { return matchTexts() == Names{"Column1", "Column2"}; });
             way.leave(person);
         }),
                   way.result);
@@ -57,11 +55,19 @@ TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
 TEST_F(Outcome, AFileColumnCalledNotUsedComesBackAsNone) {
     const ScratchFile named("Not used\n");
     run.fileName = named.path();
-    run.firstLineHeader = true;
     run.useSavedMatches = true;
     run.matches = {"Not used", ""};
     run.show(pressOk);
     EXPECT_EQ(run.matches, (Names{"", ""}));
+}
+
+TEST_F(Outcome, WithoutApplicationColumnsItIsEmpty) {
+    run.appColumns.clear();
+    EXPECT_TRUE(run.show([](Person &person) {
+        EXPECT_EQ(fileTexts(), (Names{"BHID", "Azimut;Dip"}));
+        pressOk(person);
+    }));
+    EXPECT_EQ(run.matches, Names());
 }
 
 TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
@@ -73,16 +79,8 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
             if (placesWindows()) {
                 EXPECT_EQ(read(frameOfDialog).GetPosition(), wxPoint(100, 100));
             }
-            pressEscape(person);
+            person.strike(WXK_ESCAPE);
         });
-    }
-}
-
-TEST_F(Outcome, ASizeBeyondReasonDoesNoHarm) {
-    for (const int size : {0, -1, -70000, 2147483647}) {
-        run.width = size;
-        run.height = size;
-        EXPECT_FALSE(run.show(pressEscape)) << size;
     }
 }
 

@@ -1,0 +1,178 @@
+// Where everything stands in the dialog, what it reads, and that a small frame does not squeeze it.
+
+#include "person/DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <algorithm>
+
+#include <gtest/gtest.h>
+#include <wx/statbmp.h>
+#include <wx/stattext.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+using D = wxImportCSVDialog;
+
+class Layout : public testing::Test {
+protected:
+    Layout() : file("BHID,UTM X,Depth\nDH-1,500,20\n") {
+        run.fileName = file.path();
+        run.appColumns = {"holename", "x"};
+    }
+
+    ScratchFile file;
+    DialogRun run;
+};
+
+/// The place of a control in the client area of the dialog.
+wxRect place(const wxWindow &window) {
+    return window.GetParent() == &openDialog()
+               ? window.GetRect()
+               : wxRect(openDialog().ScreenToClient(window.GetScreenPosition()), window.GetSize());
+}
+
+wxWindow &labelled(const char *label) {
+    wxWindow *found = wxWindow::FindWindowByLabel(label, &openDialog());
+    if (found == nullptr) {
+        throw GivenUp(std::string("there is nothing labelled ") + label);
+    }
+    return *found;
+}
+
+int right(const wxRect &rect) {
+    return rect.x + rect.width;
+}
+
+int bottom(const wxRect &rect) {
+    return rect.y + rect.height;
+}
+
+struct Figure {
+    const char *what;
+    int is;
+    int wanted;
+};
+
+/// All that is fixed of the places and sizes, in pixels, however wide the platform's own texts and
+/// the frames of its boxes are.
+std::vector<Figure> figures() {
+    const wxRect preview = place(labelled("File Preview"));
+    const wxRect text = place(control(D::TEXT_FILE_PREVIEW));
+    const wxRect options = place(labelled("Options"));
+    const wxRect label = place(labelled("Field Delimiter ('S' for 'space' 'T' for 'tab')"));
+    const wxRect delimiter = place(control(D::TXT_DELIMITER));
+    const wxRect check = place(control(D::CHECK_HEADER));
+    const wxRect reset = place(control(D::BTN_REMATCH));
+    const wxRect matching = place(labelled("Column Matching"));
+    const wxRect files = place(control(D::LISTBOX_FILE));
+    const wxRect arrow = place(*wxWindow::FindWindowByName("staticBitmap", &openDialog()));
+    const wxRect matches = place(control(D::LISTBOX_MATCH));
+    const wxRect ok = place(control(wxID_OK));
+    const wxRect cancel = place(control(wxID_CANCEL));
+    const int client = openDialog().GetClientSize().x;
+    // What the platform's frame takes of a box.
+    const wxSize frame = preview.GetSize() - text.GetSize();
+    const wxPoint inside = text.GetPosition() - preview.GetPosition();
+    return {
+        {"preview box: left", preview.x, 10},
+        {"preview box: top", preview.y, 10},
+        {"preview: width", text.width, 850},
+        {"preview: height", text.height, 125},
+        {"options: left", options.x, 10},
+        {"options: below the preview", options.y, bottom(preview) + 10},
+        {"options: width", options.width, right(delimiter) - label.x + frame.x},
+        {"options: height", options.height, bottom(check) - label.y + frame.y},
+        {"label: left", label.x, options.x + inside.x},
+        {"label: top", label.y, options.y + inside.y},
+        {"delimiter: left", delimiter.x, right(label) + 10},
+        {"delimiter: top", delimiter.y, label.y},
+        {"delimiter: width", delimiter.width, 25},
+        {"delimiter: height", delimiter.height, 20},
+        {"check box: top", check.y, bottom(delimiter)},
+        {"check box: middle", check.x + right(check), label.x + right(delimiter)},
+        {"reset: top", reset.y, bottom(options)},
+        {"reset: right", right(reset), client - 25},
+        {"matching box: left", matching.x, 10},
+        {"matching box: top", matching.y, bottom(reset)},
+        {"matching box: width", matching.width, 250 + 50 + 525 + 20 + frame.x},
+        {"matching box: height", matching.height, 450 + frame.y},
+        {"file list: left", files.x, matching.x + inside.x},
+        {"file list: top", files.y, matching.y + inside.y},
+        {"file list: width", files.width, 250},
+        {"file list: height", files.height, 450},
+        {"arrow: left", arrow.x, right(files)},
+        {"arrow: top", arrow.y, files.y + 200},
+        {"arrow: width", arrow.width, 50},
+        {"arrow: height", arrow.height, 50},
+        {"match list: left", matches.x, right(arrow)},
+        {"match list: top", matches.y, files.y},
+        {"match list: width", matches.width, 525},
+        {"match list: height", matches.height, 450},
+        {"match list: first column", matchList().GetColumnWidth(D::COLUMN_MATCH), 245},
+        {"match list: second column", matchList().GetColumnWidth(D::COLUMN_APP), 245},
+        {"OK: top", ok.y, bottom(matching) + 20},
+        {"Cancel: top", cancel.y, ok.y},
+        {"OK and Cancel: at the right",
+         static_cast<int>(std::max(right(ok), right(cancel)) > reset.x), 1},
+    };
+}
+
+std::vector<wxSize> sizes() {
+    std::vector<wxSize> all;
+    for (const wxWindow *box : openDialog().GetChildren()) {
+        all.push_back(box->GetSize());
+        for (const wxWindow *inside : box->GetChildren()) {
+            all.push_back(inside->GetSize());
+        }
+    }
+    return all;
+}
+
+} // namespace
+
+TEST_F(Layout, EverythingHasItsPlaceAndSize) {
+    run.show([](Person &person) {
+        for (const Figure &figure : read(figures)) {
+            EXPECT_EQ(figure.is, figure.wanted) << figure.what;
+        }
+        pressCancel(person);
+    });
+}
+
+TEST_F(Layout, EverythingReadsAsItShould) {
+    run.title = "Import collars";
+    run.show([](Person &person) {
+        onUserInterface([] {
+            EXPECT_EQ(openDialog().GetTitle(), "Import collars");
+            EXPECT_EQ(control(D::CHECK_HEADER).GetLabel(), "First Line contain title");
+            EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), "Reset to Default");
+            EXPECT_EQ(control<wxStaticText>(D::TEXT_FILE_PREVIEW).GetLabelText(),
+                      "BHID,UTM X,Depth\nDH-1,500,20\n\n");
+            const char *const headings[] = {"Matching", "Application"};
+            for (const int column : {0, 1}) {
+                wxListItem heading;
+                heading.SetMask(wxLIST_MASK_TEXT);
+                matchList().GetColumn(column, heading);
+                EXPECT_EQ(heading.GetText(), headings[column]);
+            }
+        });
+        pressCancel(person);
+    });
+}
+
+TEST_F(Layout, TheControlsKeepTheirSizesInAFrameOfAnySize) {
+    std::vector<wxSize> usual;
+    run.show([&usual](Person &person) {
+        usual = read(sizes);
+        pressCancel(person);
+    });
+    for (const int size : {2147483647, 1600, 300, 100, 1, 0, -1, -70000}) {
+        run.width = size;
+        run.height = size;
+        EXPECT_FALSE(run.show([&usual](Person &person) {
+            EXPECT_EQ(read(sizes), usual);
+            person.strike(WXK_ESCAPE);
+        })) << size;
+    }
+}

@@ -1,0 +1,94 @@
+// A host that itself runs on the toolkit: with an application object and windows of its own, some
+// of them with the identifiers of the dialog's controls, and with dialogs that it runs itself.
+
+#include "person/DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <functional>
+
+#include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/button.h>
+#include <wx/frame.h>
+#include <wx/init.h>
+#include <wxImportODBCDialog.h>
+
+namespace {
+
+class HostApplication : public wxApp {};
+
+/// Does `work` in the main loop of such a host, which ends with its only window.
+void inHost(const std::function<void(wxFrame &)> &work) {
+    auto *application = new HostApplication;
+    wxApp::SetInstance(application);
+    const wxInitializer toolkit;
+    auto *frame = new wxFrame(nullptr, wxImportCSVDialog::LISTBOX_MATCH, "Host");
+    for (int id = 1; id <= 10; ++id) {
+        new wxButton(frame, id, "Import");
+    }
+    frame->Show();
+    frame->CallAfter([&work, frame] {
+        work(*frame);
+        frame->Close();
+    });
+    EXPECT_EQ(application->OnRun(), 0);
+    EXPECT_EQ(wxApp::GetInstance(), application);
+}
+
+bool runItself(wxImportCSVDialog &dialog, const Act &act) {
+    dialog.create();
+    const bool isOk = accompany(act, [&dialog] { return dialog.ShowModal() == wxID_OK; });
+    EXPECT_FALSE(dialog.isOk());
+    return isOk;
+}
+
+} // namespace
+
+TEST(ToolkitHost, KeepsItsApplicationItsLoopAndItsWindows) {
+    const ScratchFile file("BHID,Dip\n");
+    inHost([&file](wxFrame &frame) {
+        DialogRun run;
+        run.owner = frame.GetHandle();
+        run.fileName = file.path();
+        run.appColumns = {"holename", "dip"};
+        for (int times = 0; times < 2; ++times) {
+            EXPECT_TRUE(run.show([](Person &person) {
+                person.drag(Person::fileRow(0), Person::matchRow(1));
+                pressOk(person);
+            }));
+            EXPECT_EQ(run.matches, (Names{"BHID", "BHID"}));
+        }
+    });
+}
+
+TEST(ToolkitHost, RunsTheDialogForAFileItself) {
+    const ScratchFile file("BHID;Dip\n");
+    inHost([&file](wxFrame &frame) {
+        wxImportCSVDialog dialog(&frame, "Import", {"holename", "dip"}, file.path(), false, {}, ',',
+                                 true);
+        EXPECT_TRUE(runItself(dialog, [](Person &person) {
+            person.typeDelimiter(';');
+            pressOk(person);
+        }));
+        for (int times = 0; times < 2; ++times) {
+            EXPECT_EQ(dialog.getColumnNames(), (Names{"BHID", "Dip"}));
+        }
+        EXPECT_EQ(dialog.getDelimiter(), ';');
+        EXPECT_TRUE(dialog.isFirstLineHeader());
+    });
+}
+
+TEST(ToolkitHost, RunsTheDialogForATableItself) {
+    inHost([](wxFrame &frame) {
+        wxImportODBCDialog dialog(&frame, "Import", {"holename", "dip"}, "no file", true, {},
+                                  {"BHID", "DIP"});
+        EXPECT_FALSE(runItself(dialog, [](Person &person) {
+            for (const int onlyForFiles : {5, 6, 7}) {
+                EXPECT_EQ(read([=] { return openDialog().FindWindow(onlyForFiles); }), nullptr);
+            }
+            person.strike(WXK_ESCAPE);
+        }));
+        EXPECT_EQ(dialog.getColumnNames(), (Names{"BHID", "DIP"}));
+        EXPECT_EQ(dialog.getDelimiter(), ',');
+    });
+}
