@@ -7,10 +7,19 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+if(WIN32)
+    # A program finds the DLLs that stand beside it.
+    set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
+endif()
+
 # The project's root is an include folder of our own code, so that an include names its room:
 # #include "matching/matchColumns.h".
 function(columnimport_own_code target)
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+    if(MSVC)
+        target_compile_options(${target} PRIVATE /W4 /utf-8)
+        return()
+    endif()
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
         -fstack-protector-strong -Wformat -Werror=format-security)

@@ -9,6 +9,20 @@
 
 #include <wx/sizer.h>
 
+// For a host that takes one by reference.
+const int wxImportCSVDialog::BTN_ADD;
+const int wxImportCSVDialog::LISTBOX_FILE;
+const int wxImportCSVDialog::LISTBOX_MATCH;
+const int wxImportCSVDialog::LISTBOX_APP;
+const int wxImportCSVDialog::TEXT_FILE_PREVIEW;
+const int wxImportCSVDialog::CHECK_HEADER;
+const int wxImportCSVDialog::TXT_DELIMITER;
+const int wxImportCSVDialog::BTN_OK;
+const int wxImportCSVDialog::BTN_CANCEL;
+const int wxImportCSVDialog::BTN_REMATCH;
+const int wxImportCSVDialog::COLUMN_MATCH;
+const int wxImportCSVDialog::COLUMN_APP;
+
 wxBEGIN_EVENT_TABLE(wxImportCSVDialog, wxDialog)
     EVT_CHECKBOX(CHECK_HEADER, wxImportCSVDialog::onCheckHeader)
     EVT_TEXT(TXT_DELIMITER, wxImportCSVDialog::onTxtDelimiter)

@@ -33,19 +33,19 @@ class TextDropTarget;
 /// hand.
 class COLUMNIMPORT_EXPORT wxImportCSVDialog : public wxDialog {
 public:
-    static inline const int BTN_ADD = 1;           ///< no control has it
-    static inline const int LISTBOX_FILE = 2;      ///< the list of file columns
-    static inline const int LISTBOX_MATCH = 3;     ///< the match list
-    static inline const int LISTBOX_APP = 4;       ///< no control has it
-    static inline const int TEXT_FILE_PREVIEW = 5; ///< the first lines of the file
-    static inline const int CHECK_HEADER = 6;      ///< "First Line contain title"
-    static inline const int TXT_DELIMITER = 7;     ///< the field delimiter, one character
-    static inline const int BTN_OK = 8;            ///< no control has it: the button is wxID_OK
-    static inline const int BTN_CANCEL = 9;        ///< no control has it: it is wxID_CANCEL
-    static inline const int BTN_REMATCH = 10;      ///< "Reset to Default"
+    static const int BTN_ADD = 1;           ///< no control has it
+    static const int LISTBOX_FILE = 2;      ///< the list of file columns
+    static const int LISTBOX_MATCH = 3;     ///< the match list
+    static const int LISTBOX_APP = 4;       ///< no control has it
+    static const int TEXT_FILE_PREVIEW = 5; ///< the first lines of the file
+    static const int CHECK_HEADER = 6;      ///< "First Line contain title"
+    static const int TXT_DELIMITER = 7;     ///< the field delimiter, one character
+    static const int BTN_OK = 8;            ///< no control has it: the button is wxID_OK
+    static const int BTN_CANCEL = 9;        ///< no control has it: it is wxID_CANCEL
+    static const int BTN_REMATCH = 10;      ///< "Reset to Default"
 
-    static inline const int COLUMN_MATCH = 0; ///< column of the match list: the file column's name
-    static inline const int COLUMN_APP = 1;   ///< column of the match list: the application column
+    static const int COLUMN_MATCH = 0; ///< column of the match list: the file column's name
+    static const int COLUMN_APP = 1;   ///< column of the match list: the application column
 
     /// Stores the values of one import; no file is touched and no control is built before `create`.
     ///

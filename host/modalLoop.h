@@ -15,4 +15,8 @@ void resize(wxDialog &dialog, const wxSize &size);
 /// exception comes out of the dialog.
 int showModal(wxDialog &dialog);
 
+/// Whether `dialog` has still its window. On some platforms it goes with its owner, which the host
+/// may have destroyed during the run.
+bool hasWindow(const wxDialog &dialog);
+
 } // namespace columnimport

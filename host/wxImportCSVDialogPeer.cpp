@@ -3,6 +3,7 @@
 #include "dialogs/wxImportODBCDialog.h"
 #include "host/HostStandIn.h"
 #include "host/OpenRun.h"
+#include "host/modalLoop.h"
 #include "host/runDialog.h"
 #include "host/toolkit.h"
 #include "names/nameText.h"
@@ -27,7 +28,9 @@ bool runImport(columnimport::HostWindow hostWindow, const wxSize &size,
     Dialog dialog(parent.window(), columnimport::shownText(title),
                   std::forward<Arguments>(arguments)...);
     const bool ok = columnimport::runDialog(dialog, size);
-    takeResults(dialog);
+    if (columnimport::hasWindow(dialog)) {
+        takeResults(dialog);
+    }
     parent.release();
     dialog.Destroy();
     return ok;

@@ -98,9 +98,7 @@ void Person::emptyDelimiter() {
     click(wxImportCSVDialog::TXT_DELIMITER);
     waitUntil("the delimiter field has the focus",
               [] { return wxWindow::FindFocus() == &delimiterField(); });
-    keyDown(WXK_CONTROL);
-    strike('a');
-    keyUp(WXK_CONTROL);
+    strike(WXK_HOME);
     strike(WXK_DELETE);
     waitUntil("the delimiter field is empty", [] { return delimiterField().GetValue().empty(); });
 }

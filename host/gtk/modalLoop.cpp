@@ -85,4 +85,8 @@ int showModal(wxDialog &dialog) {
     return gtk_main_level() == 0 ? dialog.ShowModal() : LoopAround(dialog).run();
 }
 
+bool hasWindow(const wxDialog &) {
+    return true;
+}
+
 } // namespace columnimport

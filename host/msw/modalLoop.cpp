@@ -1,15 +1,75 @@
 #include "host/modalLoop.h"
 
+#include <optional>
+
 #include <wx/dialog.h>
+#include <wx/msw/wrapcctl.h>
 
 namespace columnimport {
+
+namespace {
+
+/// The code of the host's quit that came during the run.
+std::optional<int> quitCode;
+
+LRESULT CALLBACK noteQuit(int code, WPARAM isTaken, LPARAM number) {
+    const auto *message = reinterpret_cast<const MSG *>(number);
+    if (code == HC_ACTION && isTaken == PM_REMOVE && message->message == WM_QUIT) {
+        quitCode = static_cast<int>(message->wParam);
+    }
+    return CallNextHookEx(nullptr, code, isTaken, number);
+}
+
+/// Sees what the toolkit's loop takes out of the queue: it keeps nothing of a quit.
+class QuitWatch {
+public:
+    QuitWatch()
+        : m_hook(SetWindowsHookExW(WH_GETMESSAGE, noteQuit, nullptr, GetCurrentThreadId())) {
+        quitCode.reset();
+    }
+    ~QuitWatch() { UnhookWindowsHookEx(m_hook); }
+    QuitWatch(const QuitWatch &) = delete;
+    QuitWatch &operator=(const QuitWatch &) = delete;
+
+private:
+    HHOOK m_hook;
+};
+
+/// The toolkit does not hear of it when the owner's end takes the dialog along, and would wait on.
+LRESULT CALLBACK onDialogMessage(HWND window, UINT message, WPARAM word, LPARAM number, UINT_PTR id,
+                                 DWORD_PTR dialog) {
+    if (message == WM_DESTROY) {
+        RemoveWindowSubclass(window, onDialogMessage, id);
+        auto &open = *reinterpret_cast<wxDialog *>(dialog);
+        if (open.IsModal()) {
+            open.EndModal(wxID_CANCEL);
+        }
+    }
+    return DefSubclassProc(window, message, word, number);
+}
+
+} // namespace
 
 void resize(wxDialog &dialog, const wxSize &size) {
     dialog.SetSize(size);
 }
 
+// At a quit the toolkit leaves its loop without closing the dialog, and the owner stays disabled.
 int showModal(wxDialog &dialog) {
-    return dialog.ShowModal();
+    const QuitWatch watch;
+    const HWND owner = GetWindow(dialog.GetHWND(), GW_OWNER);
+    SetWindowSubclass(dialog.GetHWND(), onDialogMessage, 0, reinterpret_cast<DWORD_PTR>(&dialog));
+    const int result = dialog.ShowModal();
+    if (quitCode) {
+        EnableWindow(owner, TRUE);
+        dialog.Hide();
+        PostQuitMessage(*quitCode);
+    }
+    return result;
+}
+
+bool hasWindow(const wxDialog &dialog) {
+    return IsWindow(dialog.GetHWND()) != FALSE;
 }
 
 } // namespace columnimport

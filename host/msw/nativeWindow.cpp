@@ -5,16 +5,36 @@
 
 namespace columnimport {
 
+namespace {
+
+/// The bit of the host's extended style that the toolkit turns on for the dialog's sake.
+LONG_PTR controlParentBit(HWND window) {
+    return GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT;
+}
+
+/// As it was before the run; there is one run at a time.
+LONG_PTR formerControlParentBit = 0;
+
+} // namespace
+
+// The root of a control is the window that it is in; of the desktop, or of no window, there is
+// none.
 HostWindow ownerOf(HostWindow hostWindow) {
-    return hostWindow;
+    return IsWindow(hostWindow) != FALSE ? GetAncestor(hostWindow, GA_ROOT) : nullptr;
 }
 
 void attach(wxWindow &standIn, HostWindow hostWindow) {
+    formerControlParentBit = controlParentBit(hostWindow);
     standIn.SetHWND(hostWindow);
     standIn.AdoptAttributesFromHWND();
 }
 
 void detach(wxWindow &standIn) {
+    HWND window = standIn.GetHWND();
+    if (IsWindow(window) != FALSE && controlParentBit(window) != formerControlParentBit) {
+        const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
+        SetWindowLongPtrW(window, GWL_EXSTYLE, style ^ WS_EX_CONTROLPARENT);
+    }
     standIn.SetHWND(nullptr);
 }
 

@@ -1,8 +1,15 @@
 # The library exports the listed symbols, each of them and nothing else.
 #   cmake -D library=FILE -D list=FILE -D found=FILE -P exports.cmake
-# Leaves what it found in `found`, in the form of the list.
-execute_process(COMMAND nm --dynamic --demangle --defined-only --format=posix ${library}
-                OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+# Leaves what it found in `found`, in the form of the list. Of a DLL the library is the one that
+# hosts link to.
+if(library MATCHES "dll")
+    execute_process(COMMAND nm --format=posix ${library} COMMAND sed -n "s/^__imp_//p"
+                    COMMAND c++filt OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+    string(REPLACE "HWND__*" "_GtkWidget*" symbols "${symbols}")
+else()
+    execute_process(COMMAND nm --dynamic --demangle --defined-only --format=posix ${library}
+                    OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+endif()
 # The name alone, without kind and address, with the standard types as one writes them.
 string(REGEX REPLACE " [A-Za-z] [0-9a-f]+ *[0-9a-f]*\n" "\n" symbols "${symbols}")
 string(REPLACE "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"

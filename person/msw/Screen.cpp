@@ -1,0 +1,124 @@
+#include "person/Screen.h"
+
+#include "person/msw/WineHand.h"
+#include "person/openDialog.h"
+
+#include <exception>
+#include <future>
+
+#include <wx/msw/private.h>
+
+namespace {
+
+struct Call {
+    const std::function<void()> &work;
+    std::promise<void> done;
+};
+
+constexpr UINT carryOut = WM_APP;
+
+// Posted messages overtake input, and timers do not.
+LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM word, LPARAM number) {
+    if (message != carryOut && message != WM_TIMER) {
+        return DefWindowProcW(window, message, word, number);
+    }
+    auto *call = reinterpret_cast<Call *>(message == WM_TIMER ? word : number);
+    const auto timer = reinterpret_cast<UINT_PTR>(call);
+    if (HIWORD(GetQueueStatus(QS_INPUT)) != 0) {
+        SetTimer(window, timer, USER_TIMER_MINIMUM, nullptr);
+        return 0;
+    }
+    KillTimer(window, timer);
+    try {
+        call->work();
+        call->done.set_value();
+    } catch (...) {
+        call->done.set_exception(std::current_exception());
+    }
+    return 0;
+}
+
+HWND makeMailbox() {
+    WNDCLASSW kind = {};
+    kind.lpszClassName = L"columnimport person";
+    kind.lpfnWndProc = onMessage;
+    RegisterClassW(&kind);
+    return CreateWindowExW(0, kind.lpszClassName, nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                           nullptr, nullptr);
+}
+
+/// On the thread that the program starts with, which is the one of its user interface.
+const HWND mailbox = makeMailbox();
+
+/// Where the pointer was in the last move that the user-interface thread has taken.
+POINT lastMove = {};
+
+LRESULT CALLBACK noteMove(int code, WPARAM isTaken, LPARAM number) {
+    const auto *message = reinterpret_cast<const MSG *>(number);
+    if (code == HC_ACTION && isTaken == PM_REMOVE && message->message == WM_MOUSEMOVE) {
+        lastMove = message->pt;
+    }
+    return CallNextHookEx(nullptr, code, isTaken, number);
+}
+
+void watchMoves() {
+    static const HHOOK hook =
+        SetWindowsHookExW(WH_GETMESSAGE, noteMove, nullptr, GetCurrentThreadId());
+    static_cast<void>(hook);
+}
+
+} // namespace
+
+// The platform has none: what it can't do it refuses.
+void endOnComplaints() {}
+
+std::unique_ptr<Hand> makeHand() {
+    return std::make_unique<WineHand>();
+}
+
+void onUserInterface(const std::function<void()> &work) {
+    Call call{work, {}};
+    std::future<void> done = call.done.get_future();
+    PostMessageW(mailbox, carryOut, 0, reinterpret_cast<LPARAM>(&call));
+    done.get();
+}
+
+void handleEvents() {
+    MSG message;
+    if (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) {
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+}
+
+bool dialogStands() {
+    watchMoves();
+    return isDialogOpen() && openDialog().IsActive();
+}
+
+wxRect frameOfDialog() {
+    RECT frame = {};
+    GetWindowRect(openDialog().GetHWND(), &frame);
+    return wxRectFromRECT(frame);
+}
+
+void pressCloseBox() {
+    PostMessageW(openDialog().GetHWND(), WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+// What drags has the pointer's input to itself, with a window that is none of the dialog's.
+bool isDragRunning() {
+    const HWND holder = GetCapture();
+    return holder != nullptr && wxFindWinFromHandle(holder) == nullptr;
+}
+
+std::optional<wxPoint> placeOfDrag() {
+    if (!isDragRunning()) {
+        return std::nullopt;
+    }
+    return openDialog().ScreenToClient(wxPoint(lastMove.x, lastMove.y));
+}
+
+bool isShownAsMarked(int row) {
+    return matchList().GetItemState(row, wxLIST_STATE_DROPHILITED) != 0;
+}

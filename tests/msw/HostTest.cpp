@@ -1,0 +1,309 @@
+// A plain host of this platform, which knows the library's public header and nothing of its
+// toolkit: what it gets back, and how its own window and loop are afterwards.
+
+#include "person/msw/Xdotool.h"
+#include "tests/ScratchFile.h"
+
+#include <atomic>
+#include <chrono>
+#include <functional>
+#include <thread>
+
+#include <gtest/gtest.h>
+#include <windows.h>
+#include <wxImportCSVDialogPeer.h>
+
+#include <commctrl.h>
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+// The standard buttons, and the controls with the numbers that the dialog gives them.
+constexpr int okButton = 5100;
+constexpr int cancelButton = 5101;
+constexpr int matchList = 3;
+constexpr int filePreview = 5;
+constexpr int delimiterField = 7;
+
+HWND newHostWindow() {
+    return CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40, 300, 200,
+                         nullptr, nullptr, nullptr, nullptr);
+}
+
+void poll(const char *expected, const std::function<bool()> &isSo) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (!isSo()) {
+        ASSERT_LT(std::chrono::steady_clock::now(), end) << "waited in vain until " << expected;
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
+HWND controlOf(HWND dialog, int id) {
+    struct Search {
+        int id;
+        HWND found;
+    } search = {id, nullptr};
+    EnumChildWindows(
+        dialog,
+        [](HWND window, LPARAM number) -> BOOL {
+            auto &sought = *reinterpret_cast<Search *>(number);
+            sought.found = GetDlgCtrlID(window) == sought.id ? window : sought.found;
+            return sought.found == nullptr;
+        },
+        reinterpret_cast<LPARAM>(&search));
+    return search.found;
+}
+
+/// What the match list shows in a row.
+std::wstring matchText(HWND dialog, int row) {
+    wchar_t text[100] = {};
+    LVITEMW item = {};
+    item.pszText = text;
+    item.cchTextMax = 100;
+    SendMessageW(controlOf(dialog, matchList), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(&item));
+    return text;
+}
+
+/// Whether something is drawn in the preview between these heights.
+bool hasInk(HWND dialog, int top, int bottom) {
+    HWND preview = controlOf(dialog, filePreview);
+    RedrawWindow(preview, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    HDC picture = GetDC(preview);
+    const COLORREF paper = GetPixel(picture, 840, 124);
+    bool found = false;
+    for (int y = top; y < bottom && !found; ++y) {
+        for (int x = 0; x < 200; ++x) {
+            found = found || GetPixel(picture, x, y) != paper;
+        }
+    }
+    ReleaseDC(preview, picture);
+    return found;
+}
+
+void click(HWND dialog, int control) {
+    RECT place = {};
+    GetWindowRect(controlOf(dialog, control), &place);
+    Xdotool().order("mousemove " + std::to_string((place.left + place.right) / 2) + " " +
+                    std::to_string((place.top + place.bottom) / 2) + " click 1");
+}
+
+void strike(const char *key) {
+    Xdotool().order(std::string("key ") + key);
+}
+
+void pressOk(HWND dialog) {
+    click(dialog, okButton);
+}
+void pressCancel(HWND dialog) {
+    click(dialog, cancelButton);
+}
+void pressEnter(HWND) {
+    strike("Return");
+}
+void pressEscape(HWND) {
+    strike("Escape");
+}
+void pressCloseBox(HWND dialog) {
+    PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+}
+
+using Act = std::function<void(HWND dialog)>;
+
+/// Has a person act on the dialog as soon as it takes keys, while `show` is open.
+bool accompany(const Act &act, const std::function<bool()> &show) {
+    std::atomic<bool> isOver = false;
+    std::thread person([&] {
+        HWND dialog = nullptr;
+        poll("the dialog takes keys", [&] {
+            dialog = FindWindowW(nullptr, L"Import of a test");
+            return isOver || (dialog != nullptr && Xdotool().isActive("Import of a test"));
+        });
+        act(dialog);
+        poll("the dialog is closed", [&] { return isOver.load(); });
+        // With it open the test would wait for ever.
+        if (!isOver) {
+            PostMessageW(dialog, WM_CLOSE, 0, 0);
+        }
+    });
+    const bool result = show();
+    isOver = true;
+    person.join();
+    return result;
+}
+
+class Host : public testing::Test {
+protected:
+    Host() : file("BHID,Azimut;Dip\r\n1,2;3\r\n"), path(file.path()), window(newHostWindow()) {}
+    ~Host() override { DestroyWindow(window); }
+
+    bool show(const Act &act) {
+        return accompany(act, [this] {
+            return peer.showWindow(window, "Import of a test", appColumns, path, &useSavedMatches,
+                                   &matches, &delimiter, &firstLineHeader, 900, 900);
+        });
+    }
+
+    bool showTable(const Names &table, const Act &act) {
+        return accompany(act, [&] {
+            return peer.showWindow(window, "Import of a test", appColumns, table, "table",
+                                   &useSavedMatches, &matches, 900, 900);
+        });
+    }
+
+    wxImportCSVDialogPeer peer;
+    ScratchFile file;
+    std::string path;
+    HWND window;
+    Names appColumns = {"holename", "dip"};
+    bool useSavedMatches = true;
+    Names matches;
+    char delimiter = ';';
+    bool firstLineHeader = true;
+};
+
+} // namespace
+
+TEST_F(Host, GetsTheOutputsHoweverARunEnds) {
+    const struct {
+        Act leave;
+        bool result;
+    } ways[] = {{pressOk, true},
+                {pressEnter, true},
+                {pressCancel, false},
+                {pressEscape, false},
+                {pressCloseBox, false}};
+    for (const auto &way : ways) {
+        matches = {""};
+        EXPECT_EQ(show(way.leave), way.result);
+        EXPECT_EQ(matches, (Names{"", "Dip"}));
+        matches = {""};
+        EXPECT_EQ(showTable({"BHID", "Dip"}, way.leave), way.result);
+        EXPECT_EQ(matches, (Names{"BHID", "Dip"}));
+        EXPECT_TRUE(IsWindowEnabled(window));
+    }
+}
+
+TEST_F(Host, GoesFromRunToRunWithItsSavedMatchesAndWithAnyPeer) {
+    delimiter = ',';
+    const Names saved = {"Azimut;Dip", "BHID"};
+    matches = saved;
+    EXPECT_TRUE(show([](HWND dialog) {
+        EXPECT_EQ(matchText(dialog, 0), L"Azimut;Dip");
+        pressOk(dialog);
+    }));
+    EXPECT_EQ(matches, saved);
+    const wxImportCSVDialogPeer other;
+    peer = other;
+    EXPECT_TRUE(show(pressOk));
+    EXPECT_EQ(matches, saved);
+    EXPECT_TRUE(show([](HWND dialog) {
+        click(dialog, delimiterField);
+        strike("Home");
+        strike("Delete");
+        strike("semicolon");
+        poll("the line is cut at the semicolon",
+             [dialog] { return matchText(dialog, 1) == L"Not used"; });
+        pressOk(dialog);
+    }));
+    EXPECT_EQ(delimiter, ';');
+}
+
+TEST_F(Host, ReadsAFileOfAnyNameThatAnotherProgramIsWriting) {
+    const std::filesystem::path any =
+        std::filesystem::temp_directory_path() / L"Bohrl\u00F6cher \u03A9 \u4E95.csv";
+    HANDLE writer = CreateFileW(any.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    WriteFile(writer, "BHID;Dip\r\n", 10, &written, nullptr);
+    path = any.u8string();
+    EXPECT_TRUE(show(pressOk));
+    EXPECT_EQ(matches, (Names{"BHID", "Dip"}));
+    CloseHandle(writer);
+    std::filesystem::remove(any);
+}
+
+TEST_F(Host, ReadsAndGetsBackNamesOfAnyBytes) {
+    const Names names = {"Plong\xC3\xA9\x65", "Plong\xE9\x65",    "\x81\x8D\xFF",    "\xCE\xA9",
+                         "\xE4\xBA\x95",      "\xC3\x83\xC2\xA9", "\xF0\x9F\x98\x80"};
+    const wchar_t *const shown[] = {L"Plong\u00E9e"};
+    appColumns = Names(names.size(), "dip");
+    matches = names;
+    EXPECT_TRUE(showTable(names, [&shown](HWND dialog) {
+        EXPECT_EQ(matchText(dialog, 0), shown[0]);
+        pressOk(dialog);
+    }));
+    EXPECT_EQ(matches, names);
+}
+
+TEST_F(Host, ShowsEachLineOfAFileAsOne) {
+    std::string words;
+    for (int word = 0; word < 300; ++word) {
+        words += "word ";
+    }
+    const ScratchFile wide(words + '\n');
+    path = wide.path();
+    EXPECT_TRUE(show([](HWND dialog) {
+        EXPECT_TRUE(hasInk(dialog, 0, 10));
+        EXPECT_FALSE(hasInk(dialog, 20, 120)) << "a line is wrapped";
+        pressOk(dialog);
+    }));
+}
+
+TEST_F(Host, KeepsItsWindowsStyleAndOwnsTheDialogByWhateverHandle) {
+    HWND child = CreateWindowW(L"BUTTON", L"Import", WS_CHILD | WS_VISIBLE, 0, 0, 80, 25, window,
+                               nullptr, nullptr, nullptr);
+    const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
+    HWND const top = window;
+    for (HWND handle : {top, child}) {
+        window = handle;
+        EXPECT_TRUE(show([top](HWND dialog) {
+            EXPECT_EQ(GetWindow(dialog, GW_OWNER), top);
+            EXPECT_FALSE(IsWindowEnabled(top));
+            pressOk(dialog);
+        }));
+        EXPECT_TRUE(IsWindowEnabled(top));
+        EXPECT_EQ(GetWindowLongPtrW(top, GWL_EXSTYLE), style);
+        EXPECT_EQ(GetForegroundWindow(), top);
+    }
+    window = top;
+    EXPECT_EQ(GetWindowLongPtrW(child, GWL_EXSTYLE), 0);
+}
+
+TEST_F(Host, OfAHandleThatIsNoWindowHasADialogWithoutAnOwner) {
+    DestroyWindow(window);
+    for (HWND handle : {window, static_cast<HWND>(nullptr), GetDesktopWindow()}) {
+        window = handle;
+        EXPECT_TRUE(show([](HWND dialog) {
+            EXPECT_EQ(GetWindow(dialog, GW_OWNER), nullptr);
+            pressOk(dialog);
+        }));
+    }
+    EXPECT_TRUE(IsWindowEnabled(GetDesktopWindow()));
+}
+
+TEST_F(Host, ThatQuitsDuringARunCanQuitAfterIt) {
+    EXPECT_FALSE(
+        show([thread = GetCurrentThreadId()](HWND) { PostThreadMessageW(thread, WM_QUIT, 7, 0); }));
+    EXPECT_TRUE(IsWindowEnabled(window));
+    EXPECT_EQ(FindWindowW(nullptr, L"Import of a test"), nullptr);
+    MSG message = {};
+    ASSERT_TRUE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+    EXPECT_EQ(message.wParam, 7U);
+    EXPECT_TRUE(show(pressOk));
+    EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
+}
+
+TEST_F(Host, ThatDestroysItsWindowDuringARunKeepsItsOutputs) {
+    matches = {"from before"};
+    delimiter = ',';
+    firstLineHeader = false;
+    EXPECT_FALSE(show([this](HWND) { PostMessageW(window, WM_CLOSE, 0, 0); }));
+    EXPECT_FALSE(IsWindow(window));
+    EXPECT_EQ(matches, Names{"from before"});
+    EXPECT_EQ(delimiter, ',');
+    EXPECT_FALSE(firstLineHeader);
+    window = newHostWindow();
+    EXPECT_TRUE(show(pressOk));
+}
