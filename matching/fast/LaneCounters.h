@@ -51,14 +51,6 @@ public:
         }
     }
 
-    std::size_t operator[](std::size_t lane) const {
-        std::size_t value = 0;
-        for (std::size_t bit = 0; bit < m_bits.size(); ++bit) {
-            value |= std::size_t{m_bits[bit][lane]} << bit;
-        }
-        return value;
-    }
-
     /// The lanes whose counters stand at 128 or above.
     const Lanes &atLeast128() const { return m_bits.back(); }
 

@@ -10,13 +10,11 @@ TEST(SplitLine, CutsAndTrimsByTheBytesAlone) {
         std::string line, delimiter;
         Fields fields;
     } cases[] = {
-        {"  a , b;c  ", ",", {"a", "b;c"}},
-        {"a, ,b, ", ",", {"a", "", "b", ""}},
-        {"  \t\r\n ", ",", {}},
-        {",,", ",", {"", "", ""}},
+        {"  a , b;c,, ", ",", {"a", "b;c", "", ""}},
+        {" \t\r\n ", ",", {}},
         {" a  b \t c\td ", " ", {"a", "b", "c\td"}},
         {"\ta b\t \tc\t", "\t", {"a b", "c"}},
-        {"\"a,b\",c", ",", {"\"a", "b\"", "c"}},
+        {"\"a,b\"", ",", {"\"a", "b\""}},
         {"a--b-c", "--", {"a", "b-c"}},
         {"\v a\f,\xA0", ",", {"\v a\f", "\xA0"}},
     };
@@ -39,5 +37,4 @@ TEST(TrimLeftAndRight, TakeOnlyTheGivenBytesOffTheirOwnEnd) {
     EXPECT_EQ(trimRight("xyaxy", "xy"), "xya");
     EXPECT_EQ(trimLeft("xyaxy", "xy"), "axy");
     EXPECT_EQ(trimRight("xyx", "xy") + trimLeft("xyx", "xy"), "");
-    EXPECT_EQ(trimRight("a ", ""), "a ");
 }

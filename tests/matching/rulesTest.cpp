@@ -1,0 +1,85 @@
+// The rules by examples that decide a doubtful case.
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "matching/columnNameScore.h"
+#include "matching/matchColumns.h"
+#include "matching/normalizeColumnName.h"
+
+using namespace columnimport;
+
+TEST(NormalizeColumnName, BringsEverySpellingOfANameToOneForm) {
+    const struct {
+        std::string written, normalised;
+    } cases[] = {
+        {"/09:@AZ[`az{", "_09__az__az_"},
+        {"cu_ %%", "cu__pct_pct"},
+        {"%CU_%", "_pctcu_pct"},
+        {"AU (G/T)", "au__gt_"},
+        {"g%/t", "g_pct_t"},
+        {std::string("a\0\xC3\xA9", 4), "a___"},
+    };
+    for (const auto &[written, normalised] : cases) {
+        EXPECT_EQ(normalizeColumnName(written), normalised) << '"' << written << '"';
+    }
+}
+
+TEST(ReplaceAll, GoesFromLeftToRightAndPassesOverWhatItPutIn) {
+    EXPECT_EQ(replaceAll("aaaaa", "aa", "a"), "aaa");
+    EXPECT_EQ(replaceAll("aba", "a", "aa"), "aabaa");
+}
+
+TEST(ColumnNameScore, ClimbsFromTheMeasureOverSynonymsToEquality) {
+    const std::string hundred(100, 'a');
+    const struct {
+        std::string a, b;
+        double score;
+    } cases[] = {
+        {"", "", 1.0},
+        {"az", "azimuth", 0.99},
+        {"xcollar", "xc", 0.0},
+        {"hole_id", "holename", 15.0 / 32},
+        {"abc", "xyz", -1.0 / 6},
+        {hundred, hundred + "a", 0.25 * 199 * (1.0 / 100 + 1.0 / 101)},
+    };
+    for (const auto &[a, b, score] : cases) {
+        EXPECT_NEAR(columnNameScore(a, b), score, 1e-12) << a << ' ' << b;
+    }
+}
+
+TEST(LongestCommonSubstringLength, MeasuresOneUnbrokenRunWithinTheGivenLengths) {
+    EXPECT_EQ(longestCommonSubstringLength("abcabcd", "xabcdx", 7, 6), 4);
+    EXPECT_EQ(longestCommonSubstringLength("abcabcd", "xabcdx", 6, 3), 2);
+}
+
+TEST(MatchColumns, ProposesTheFirstOfTheBestFits) {
+    const struct {
+        std::vector<std::string> app, file;
+        std::vector<std::int32_t> proposal;
+    } cases[] = {
+        {{"holename", "x", "dip"}, {"BHID", "UTM X", "Au g/t"}, {0, 1, -1}},
+        {{"x", "y"}, {}, {-1, -1}},
+        // Equal votes for one column.
+        {{"sample"}, {"samples", "sample2"}, {0}},
+        // A vote that two columns are equally good for, in the last case with 0.5 at two lengths.
+        {{"easting", "x"}, {"coordx"}, {0, -1}},
+        {{"Depth", "depth"}, {"DEPTH", "depth"}, {0, -1}},
+        {{"abd", "abcxyd"}, {"abcdef"}, {0, -1}},
+        // The stronger vote wins, and the weaker one is lost to the column that it fits less.
+        {{"sample_number", "sample_no"}, {"sample_numb", "sample_numbers"}, {1, -1}},
+    };
+    for (const auto &[app, file, proposal] : cases) {
+        EXPECT_EQ(matchColumns(app, file), proposal) << testing::PrintToString(file);
+    }
+}
+
+TEST(MatchColumns, AScoreOfExactlyTheThresholdIsRefusedAndTheNextDoubleTaken) {
+    // 33 shared bytes and a run of 32 make 0.4 too, but for the rounding.
+    const std::string app = std::string(32, 'a') + "b" + std::string(27, 'c');
+    const std::string file = std::string(32, 'a') + std::string(87, 'd') + "b";
+    EXPECT_EQ(columnNameScore("abcde", "abdxy"), 0.4);
+    EXPECT_EQ(columnNameScore(app, file), std::nextafter(0.4, 1.0));
+    EXPECT_EQ(matchColumns({"abcde", app}, {"abdxy", file}), (std::vector<std::int32_t>{-1, 1}));
+}
