@@ -172,7 +172,7 @@ TEST_F(Host, AFramePulledSmallCutsTheControlsOff) {
                        [] { return openDialog().GetClientSize().x < 100; });
         person.release();
         EXPECT_EQ(read(sizes), usual);
-        person.strike(WXK_ESCAPE);
+        onUserInterface(pressCloseBox);
     });
 }
 
