@@ -31,7 +31,11 @@ public:
     ~wxImportCSVDialogPeer();
 
     /// Changes nothing.
+    /// @param other any peer
+    /// @return this peer
     wxImportCSVDialogPeer &operator=(const wxImportCSVDialogPeer &other);
+
+    /// Another peer, as any other.
     wxImportCSVDialogPeer(const wxImportCSVDialogPeer &) = default;
 
     /// Shows the dialog for a delimited text file over the host's window, modally, and blocks until
@@ -65,14 +69,20 @@ public:
                     bool *firstLineHeader, std::int32_t width, std::int32_t height);
 
     /// Shows the dialog for a database table whose column names the host passes in. No file and no
-    /// database is opened. As the other overload, but for these arguments:
+    /// database is opened. All else is as in the other overload.
     ///
+    /// @param hostWindow       the host's window; null opens the dialog without an owner
+    /// @param title            text of the title bar
+    /// @param appColumns       the application columns, in the host's order
     /// @param fileSchema       the columns of the table, in its order
     /// @param fileName         name of the source; nothing reads it
     /// @param useSavedMatches  in: true shows the table's names, with `savedMatches` if they hold a
     ///                         name and otherwise with a proposal; false pairs the columns by
     ///                         position, and the matches come back as "Column1", "Column2" and so
     ///                         on
+    /// @param savedMatches     in and out, as in the other overload
+    /// @param width, height    size of the dialog's frame in pixels
+    /// @return true exactly if the user pressed OK
     bool showWindow(columnimport::HostWindow hostWindow, std::string title,
                     std::vector<std::string> appColumns, std::vector<std::string> fileSchema,
                     std::string fileName, bool *useSavedMatches,
