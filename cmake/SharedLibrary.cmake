@@ -23,9 +23,12 @@ add_subdirectory(names)
 
 add_library(columnimport SHARED
     delimited/dialogMembers.cpp
+    dialogs/${platform}/Scale.cpp
     dialogs/${platform}/SmallControls.cpp
     dialogs/HeaderSection.cpp
     dialogs/MatchingSection.cpp
+    dialogs/Scale.cpp
+    dialogs/arrowBitmap.cpp
     dialogs/matchTexts.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
@@ -58,6 +61,7 @@ else()
     target_sources(columnimport PRIVATE
         dragdrop/gtk/DragLabel.cpp
         dragdrop/gtk/IgnoredDrag.cpp
+        dragdrop/gtk/markColours.cpp
         host/gtk/QuietStart.cpp
         host/gtk/frameShadow.cpp)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)

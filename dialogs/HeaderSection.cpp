@@ -4,6 +4,7 @@
 #include "dialogs/wxImportCSVDialog.h"
 
 #include "delimited/readPreview.h"
+#include "dialogs/Scale.h"
 #include "dialogs/SmallControls.h"
 #include "dragdrop/controls.h"
 #include "names/nameText.h"
@@ -16,8 +17,6 @@
 #include <wx/textctrl.h>
 
 namespace {
-
-const wxSize previewSize(850, 125);
 
 /// Gives `text` the largest font, up to the usual size, at which `lines` lines fit into `height`.
 void fitLines(wxStaticText &text, int lines, int height) {
@@ -46,21 +45,22 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
         m_useSavedMatches = false;
     }
 
+    const columnimport::Scale scale(*this);
     auto *options = new wxStaticBoxSizer(wxVERTICAL, this, "Options");
     auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
     auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, "File Preview");
     initImageHandlersOnce();
-    sizer->Add(preview, wxSizerFlags(0).Border(wxALL, 10));
+    sizer->Add(preview, wxSizerFlags(0).Border(wxALL, scale(10)));
 
     auto *label = new wxStaticText(options->GetStaticBox(), wxID_ANY,
                                    "Field Delimiter ('S' for 'space' 'T' for 'tab')");
     auto *delimiter = new wxTextCtrl(options->GetStaticBox(), TXT_DELIMITER,
                                      columnimport::decoded(std::string(1, m_delimiter)),
-                                     wxDefaultPosition, wxSize(25, 20));
+                                     wxDefaultPosition, scale(wxSize(25, 20)));
     delimiter->SetMaxLength(1);
     columnimport::fitOneCharacter(*delimiter);
     delimiterRow->Add(label);
-    delimiterRow->AddSpacer(10);
+    delimiterRow->AddSpacer(scale(10));
     delimiterRow->Add(delimiter);
 
     auto *firstLine =
@@ -68,8 +68,9 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     firstLine->SetValue(m_firstLineHeader);
     options->Add(delimiterRow, wxSizerFlags(0).Align(wxALIGN_CENTER));
     options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
-    sizer->Add(options, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, 10));
+    sizer->Add(options, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(10)));
 
+    const wxSize previewSize = scale(wxSize(850, 125));
     auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW, wxEmptyString,
                                   wxDefaultPosition, previewSize);
     fitLines(*text, columnimport::previewLines, previewSize.y);

@@ -3,7 +3,8 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
-#include "dialogs/arrow.xpm"
+#include "dialogs/Scale.h"
+#include "dialogs/arrowBitmap.h"
 #include "dialogs/matchTexts.h"
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
@@ -16,7 +17,6 @@
 #include <wx/bitmap.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
-#include <wx/image.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
@@ -69,14 +69,6 @@ void showMatches(ListCtrlSource &list, const std::vector<std::string> &matchText
     }
 }
 
-/// The arrow with an alpha channel for its mask: of a bitmap that has a mask, the toolkit keeps one
-/// more picture for each control that ever showed it.
-wxBitmap arrowBitmap() {
-    wxImage arrow(arrow_xpm);
-    arrow.InitAlpha();
-    return wxBitmap(arrow);
-}
-
 std::vector<std::string> positionalNames(std::size_t count) {
     return columnimport::positionalMatchTexts(count, count);
 }
@@ -84,26 +76,29 @@ std::vector<std::string> positionalNames(std::size_t count) {
 } // namespace
 
 void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
+    const columnimport::Scale scale(*this);
     auto *rematch = new wxButton(this, BTN_REMATCH, "Reset to Default");
     auto *matching = new wxStaticBoxSizer(wxHORIZONTAL, this, "Column Matching");
-    auto *arrow = new wxStaticBitmap(matching->GetStaticBox(), wxID_ANY, arrowBitmap());
+    auto *arrow = new wxStaticBitmap(
+        matching->GetStaticBox(), wxID_ANY,
+        columnimport::arrowBitmap(*matching->GetStaticBox(), scale(wxSize(50, 50))));
     auto *buttons = CreateStdDialogButtonSizer(wxOK | wxCANCEL);
     auto *files = new ListBoxSource(matching->GetStaticBox(), LISTBOX_FILE, wxDefaultPosition,
-                                    wxSize(250, 450));
+                                    scale(wxSize(250, 450)));
     auto *matches = new ListCtrlSource(matching->GetStaticBox(), LISTBOX_MATCH, wxDefaultPosition,
-                                       wxSize(525, 450));
+                                       scale(wxSize(525, 450)));
 
-    sizer->Add(rematch, wxSizerFlags(0).Align(wxALIGN_RIGHT).Border(wxLEFT | wxRIGHT, 25));
+    sizer->Add(rematch, wxSizerFlags(0).Align(wxALIGN_RIGHT).Border(wxLEFT | wxRIGHT, scale(25)));
     matching->Add(files, wxSizerFlags(0).Align(wxALIGN_CENTER));
     matching->Add(arrow, wxSizerFlags(0).Align(wxALIGN_CENTER));
     matching->Add(matches, wxSizerFlags(0).Align(wxALIGN_CENTER));
-    matching->AddSpacer(20);
-    sizer->Add(matching, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, 10));
-    sizer->AddSpacer(20);
+    matching->AddSpacer(scale(20));
+    sizer->Add(matching, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(10)));
+    sizer->AddSpacer(scale(20));
     sizer->Add(buttons, wxSizerFlags(0).Align(wxALIGN_RIGHT));
 
-    matches->InsertColumn(COLUMN_MATCH, "Matching", wxLIST_FORMAT_LEFT, 245);
-    matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, 245);
+    matches->InsertColumn(COLUMN_MATCH, "Matching", wxLIST_FORMAT_LEFT, scale(245));
+    matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, scale(245));
 
     m_matchDropTarget = new TextDropTarget(*matches);
     matches->SetDropTarget(m_matchDropTarget);
@@ -113,7 +108,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
 
     SetSizerAndFit(sizer, true);
     // In a smaller frame the controls keep their sizes too, and are cut off by it.
-    SetVirtualSize(GetClientSize());
+    SetVirtualSize(sizer->GetMinSize());
     wxCommandEvent refresh(wxEVT_NULL, 0);
     onCheckHeader(refresh);
 }

@@ -1,16 +1,42 @@
 #include "host/runDialog.h"
 
+#include "dialogs/Scale.h"
 #include "dialogs/wxImportCSVDialog.h"
 #include "host/modalLoop.h"
 
+#include <wx/gdicmn.h>
+
 namespace columnimport {
+
+namespace {
+
+const wxPoint place(100, 100);
+constexpr int greatestSize = 32000; // no screen has as many pixels
+
+/// The size of the frame for a host that asks for `size`: that very size where the layout has its
+/// usual scale. Elsewhere a host can't know what to ask for, and the frame ends where the screen
+/// ends.
+wxSize frameSize(const wxWindow &dialog, wxSize size) {
+    const Scale scale(dialog);
+    if (scale.isUsual()) {
+        return size;
+    }
+    const wxRect screen = wxGetClientDisplayRect();
+    const wxSize room(screen.x + screen.width - place.x, screen.y + screen.height - place.y);
+    size.DecTo(wxSize(greatestSize, greatestSize));
+    size = scale(size);
+    size.DecTo(room);
+    return size;
+}
+
+} // namespace
 
 bool runDialog(wxImportCSVDialog &dialog, const wxSize &size) {
     dialog.create();
     // The fitted size is only a default: the host may ask for less.
     dialog.SetMinSize(wxDefaultSize);
-    resize(dialog, size);
-    dialog.SetPosition(wxPoint(100, 100));
+    resize(dialog, frameSize(dialog, size));
+    dialog.SetPosition(place);
     return showModal(dialog) == wxID_OK;
 }
 

@@ -6,12 +6,17 @@
 
 namespace columnimport {
 
-// The padding and the least height that themes give an entry leave nothing of 20 pixels.
+// The padding and the least height that themes give an entry leave nothing of a height that is less
+// than theirs. Two thirds of it are room for a character with its ascenders and descenders. The
+// entry is as wide as the control but for a gap on the right, where the frame around it stands.
 void fitOneCharacter(wxTextCtrl &control) {
+    const int height = control.GetMinSize().y;
+    const wxString rules =
+        wxString::Format("entry { margin-right: %dpx; padding: 0 %dpx; min-height: 0; "
+                         "min-width: 0; font-size: %dpx; }",
+                         height / 6, height / 8, height * 2 / 3);
     GtkCssProvider *style = gtk_css_provider_new();
-    gtk_css_provider_load_from_data(
-        style, "entry { padding: 0 4px; min-height: 0; min-width: 0; font-size: 13px; }", -1,
-        nullptr);
+    gtk_css_provider_load_from_data(style, rules.utf8_str(), -1, nullptr);
     gtk_style_context_add_provider(gtk_widget_get_style_context(control.GetHandle()),
                                    GTK_STYLE_PROVIDER(style),
                                    GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);

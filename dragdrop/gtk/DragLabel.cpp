@@ -1,7 +1,5 @@
 #include "DragLabel.h"
 
-#include <algorithm>
-
 #include <gtk/gtk.h>
 #include <wx/dnd.h>
 #include <wx/settings.h>
@@ -19,8 +17,7 @@ GtkWidget *makeLabel(const wxString &text) {
     GtkWidget *label = gtk_label_new(text.utf8_str());
     gtk_label_set_single_line_mode(GTK_LABEL(label), TRUE);
     gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
-    // It is given its width in characters: room for the name, and for no more than the window has.
-    gtk_label_set_width_chars(GTK_LABEL(label), std::min<int>(static_cast<int>(text.length()), 40));
+    gtk_label_set_max_width_chars(GTK_LABEL(label), 40);
     const wxString style = wxString::Format(
         "label { padding: 2px 6px; border: 1px solid %s; background-color: %s; color: %s; }",
         cssColour(wxSYS_COLOUR_LISTBOXTEXT), cssColour(wxSYS_COLOUR_LISTBOX),
@@ -32,6 +29,10 @@ GtkWidget *makeLabel(const wxString &text) {
                                    GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
     g_object_unref(provider);
     gtk_widget_show(label);
+    // Its window would give a text that can be cut no room but for an ellipsis.
+    int width = 0;
+    gtk_widget_get_preferred_width(label, nullptr, &width);
+    gtk_widget_set_size_request(label, width, -1);
     return GTK_WIDGET(g_object_ref_sink(label));
 }
 

@@ -1,27 +1,13 @@
 #include "RowMarks.h"
 
+#include "markColours.h"
+
 #include <algorithm>
 
 #include <wx/listctrl.h>
 #include <wx/settings.h>
 
 namespace columnimport {
-
-namespace {
-
-/// The list's background with some of the selection's colour in it: clearly another than the full
-/// selection colour of the row under the pointer, and the text keeps the contrast that the theme
-/// gives it, be the theme light or dark.
-wxColour markColour(const wxListCtrl &list) {
-    const wxColour selection = wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT);
-    const wxColour background = list.GetBackgroundColour();
-    constexpr double share = 0.35;
-    return wxColour(wxColour::AlphaBlend(selection.Red(), background.Red(), share),
-                    wxColour::AlphaBlend(selection.Green(), background.Green(), share),
-                    wxColour::AlphaBlend(selection.Blue(), background.Blue(), share));
-}
-
-} // namespace
 
 RowMarks::RowMarks(wxListCtrl &list) : m_list(list) {
     list.Bind(wxEVT_LIST_DELETE_ALL_ITEMS, [this](wxListEvent &event) {
@@ -37,8 +23,12 @@ void RowMarks::set(long row, bool marked) {
     }
     if (m_marked[index] != marked) {
         m_marked[index] = marked;
-        m_list.SetItemBackgroundColour(row,
-                                       marked ? markColour(m_list) : m_list.GetBackgroundColour());
+        const MarkColours colours =
+            marked ? markColours(m_list.GetBackgroundColour(),
+                                 wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT))
+                   : MarkColours{m_list.GetBackgroundColour(), m_list.GetForegroundColour()};
+        m_list.SetItemBackgroundColour(row, colours.ground);
+        m_list.SetItemTextColour(row, colours.text);
     }
 }
 

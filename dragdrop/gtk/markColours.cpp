@@ -1,0 +1,65 @@
+#include "markColours.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <wx/gdicmn.h>
+
+namespace columnimport {
+
+namespace {
+
+double linear(unsigned char part) {
+    const double share = part / 255.0;
+    return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+/// The relative luminance, as guidelines for accessible content define it.
+double luminance(const wxColour &colour) {
+    return 0.2126 * linear(colour.Red()) + 0.7152 * linear(colour.Green()) +
+           0.0722 * linear(colour.Blue());
+}
+
+wxColour mixed(const wxColour &colour, const wxColour &into, double share) {
+    return {wxColour::AlphaBlend(into.Red(), colour.Red(), share),
+            wxColour::AlphaBlend(into.Green(), colour.Green(), share),
+            wxColour::AlphaBlend(into.Blue(), colour.Blue(), share)};
+}
+
+wxColour textOn(const wxColour &ground) {
+    return contrast(*wxBLACK, ground) > contrast(*wxWHITE, ground) ? *wxBLACK : *wxWHITE;
+}
+
+/// How well `ground` serves: what is beyond the wanted contrasts is no gain.
+double worth(const wxColour &ground, const wxColour &background, const wxColour &hover) {
+    constexpr double told = 3.2;
+    constexpr double read = 4.6;
+    return std::min({contrast(ground, background) / told, contrast(ground, hover) / told,
+                     contrast(ground, textOn(ground)) / read, 1.0});
+}
+
+} // namespace
+
+double contrast(const wxColour &one, const wxColour &other) {
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+// The tones of the hover's colour from itself to black and to white, in steps that can hardly be
+// told apart; the one nearest to it that serves, and if none does, the one that serves best.
+MarkColours markColours(const wxColour &background, const wxColour &hover) {
+    wxColour best = hover;
+    constexpr int steps = 50;
+    for (int step = 1; step <= steps; ++step) {
+        for (const wxColour &end : {*wxBLACK, *wxWHITE}) {
+            const wxColour tone = mixed(hover, end, static_cast<double>(step) / steps);
+            if (worth(tone, background, hover) > worth(best, background, hover)) {
+                best = tone;
+            }
+        }
+    }
+    return {best, textOn(best)};
+}
+
+} // namespace columnimport

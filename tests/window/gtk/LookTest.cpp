@@ -1,0 +1,112 @@
+// How the dialog looks, with whatever theme and size of fonts the test runs: the places and sizes
+// of its controls, and whether what carries a meaning can be told apart.
+
+#include "person/DialogRun.h"
+#include "person/openDialog.h"
+#include "tests/ScratchFile.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+#include <wx/image.h>
+#include <wx/settings.h>
+#include <wx/statbmp.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+class Look : public testing::Test {
+protected:
+    Look() : file("HOLE,FROM,TO\n") {
+        run.fileName = file.path();
+        run.appColumns = {"hole", "from", "to"};
+    }
+
+    ScratchFile file;
+    DialogRun run;
+};
+
+/// How much larger than usual fonts are, as the environment of the test says.
+double scale() {
+    const char *given = std::getenv("GDK_DPI_SCALE");
+    return given != nullptr ? std::atof(given) : 1;
+}
+
+wxSize sizeOf(int controlId) {
+    return control(controlId).GetSize();
+}
+
+wxSize scaled(int width, int height) {
+    return {static_cast<int>(std::lround(width * scale())),
+            static_cast<int>(std::lround(height * scale()))};
+}
+
+const wxStaticBitmap &arrow() {
+    for (const wxWindow *sibling : fileList().GetParent()->GetChildren()) {
+        if (const auto *picture = dynamic_cast<const wxStaticBitmap *>(sibling)) {
+            return *picture;
+        }
+    }
+    throw GivenUp("there is no arrow");
+}
+
+double luminance(const wxColour &colour) {
+    const auto linear = [](unsigned char part) {
+        const double share = part / 255.0;
+        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.Red()) + 0.7152 * linear(colour.Green()) +
+           0.0722 * linear(colour.Blue());
+}
+
+double contrast(const wxColour &one, const wxColour &other) {
+    const double a = luminance(one) + 0.05;
+    const double b = luminance(other) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+} // namespace
+
+TEST_F(Look, ControlsHaveTheirSizesAtAnySizeOfFonts) {
+    run.show([](Person &person) {
+        onUserInterface([] {
+            EXPECT_EQ(sizeOf(wxImportCSVDialog::TEXT_FILE_PREVIEW), scaled(850, 125));
+            EXPECT_EQ(sizeOf(wxImportCSVDialog::TXT_DELIMITER), scaled(25, 20));
+            EXPECT_EQ(sizeOf(wxImportCSVDialog::LISTBOX_FILE), scaled(250, 450));
+            EXPECT_EQ(sizeOf(wxImportCSVDialog::LISTBOX_MATCH), scaled(525, 450));
+            EXPECT_EQ(arrow().GetSize(), scaled(50, 50));
+            EXPECT_EQ(matchList().GetColumnWidth(1), scaled(245, 0).x);
+            const wxSize room(1500, 1100); // from the frame's place to the end of the screen
+            wxSize frame = scaled(900, 900);
+            frame.DecTo(room);
+            EXPECT_EQ(frameOfDialog().GetSize(), frame);
+        });
+        person.strike(WXK_ESCAPE);
+    });
+}
+
+TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
+    run.show([](Person &person) {
+        person.click(Person::matchRow(1));
+        poll("row 1 is marked", [] { return markedRows() == std::vector<int>{1}; });
+        onUserInterface([] {
+            const wxColour mark = matchList().GetItemBackgroundColour(1);
+            EXPECT_GE(contrast(mark, matchList().GetBackgroundColour()), 3);
+            EXPECT_GE(contrast(mark, wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT)), 3);
+            EXPECT_GE(contrast(mark, matchList().GetItemTextColour(1)), 4.5);
+            const wxImage picture = arrow().GetBitmap().ConvertToImage();
+            const wxSize middle = picture.GetSize() / 2;
+            const wxColour shape(picture.GetRed(middle.x, middle.y),
+                                 picture.GetGreen(middle.x, middle.y),
+                                 picture.GetBlue(middle.x, middle.y));
+            EXPECT_GE(contrast(shape, openDialog().GetBackgroundColour()), 4.5);
+        });
+        person.click(Person::matchRow(0));
+        poll("row 1 is marked no more", [] { return markedRows() == std::vector<int>{0}; });
+        EXPECT_EQ(read([] { return matchList().GetItemTextColour(1); }),
+                  read([] { return matchList().GetForegroundColour(); }));
+        person.strike(WXK_ESCAPE);
+    });
+}
