@@ -1,39 +1,39 @@
 #include "examples/drillhole/database/TableRows.h"
 
+#include "examples/drillhole/database/connection.h"
 #include "examples/drillhole/database/sourceTables.h"
 #include "examples/drillhole/rows/Fault.h"
 
 namespace drillhole {
 
-namespace {
-
-double countRows(soci::session &source, const std::string &table) {
-    double count = 0;
-    source << "select count(*) from " + quotedName(table), soci::into(count);
-    return count;
-}
-
-} // namespace
-
-TableRows::TableRows(soci::session &source, const std::string &table,
+TableRows::TableRows(const std::string &connection, const std::string &table,
                      const std::vector<std::string> &columns)
-    : m_count(countRows(source, table)), m_fields(columns.size()), m_indicators(columns.size()),
-      m_statement(source) {
-    if (columnNames(source, table) != columns) {
+    : m_fields(columns.size()), m_indicators(columns.size()) {
+    openSource(m_source, connection);
+    if (columnNames(m_source, table) != columns) {
         throw Fault("The columns of table " + table +
                     " were changed meanwhile. Import it again to match the present ones.");
     }
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        m_statement.exchange(soci::into(m_fields[i], m_indicators[i]));
+    m_source << "select count(*) from " + quotedName(table), soci::into(m_count);
+    std::string query = "select * from " + quotedName(table);
+    m_isCursor = m_source.get_backend_name() == "postgresql";
+    if (m_isCursor) {
+        m_source.begin();
+        m_source << "declare all_rows no scroll cursor for " + query;
+        query = "fetch 1000 from all_rows";
     }
-    m_statement.alloc();
-    m_statement.prepare("select * from " + quotedName(table));
-    m_statement.define_and_bind();
-    m_statement.execute();
+    m_statement.emplace(m_source);
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        m_statement->exchange(soci::into(m_fields[i], m_indicators[i]));
+    }
+    m_statement->alloc();
+    m_statement->prepare(query);
+    m_statement->define_and_bind();
+    m_statement->execute();
 }
 
 bool TableRows::next(Row &row) {
-    if (!m_statement.fetch()) {
+    if (!fetch()) {
         return false;
     }
     row.firstLine = row.lastLine = ++m_read;
@@ -42,6 +42,19 @@ bool TableRows::next(Row &row) {
         row.fields.push_back(m_indicators[i] == soci::i_null ? std::string_view() : m_fields[i]);
     }
     return true;
+}
+
+// The client of PostgreSQL takes the whole answer to a query into memory, so the rows come from a
+// cursor, some at a time.
+bool TableRows::fetch() {
+    bool hasRow = m_statement->fetch();
+    if (!hasRow && m_isCursor && m_readOfBatch > 0) {
+        m_readOfBatch = 0;
+        m_statement->execute();
+        hasRow = m_statement->fetch();
+    }
+    ++m_readOfBatch;
+    return hasRow;
 }
 
 double TableRows::share() const {

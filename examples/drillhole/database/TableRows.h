@@ -2,6 +2,7 @@
 
 #include "examples/drillhole/rows/RowSource.h"
 
+#include <optional>
 #include <string>
 
 #include <soci/soci.h>
@@ -12,18 +13,23 @@ namespace drillhole {
 class TableRows : public RowSource {
 public:
     /// Throws a Fault if the table has other columns than it had when the user matched them.
-    TableRows(soci::session &source, const std::string &table,
+    TableRows(const std::string &connection, const std::string &table,
               const std::vector<std::string> &columns);
 
     bool next(Row &row) override;
     double share() const override;
 
 private:
-    double m_count;
+    bool fetch();
+
+    soci::session m_source;
+    double m_count = 0;
     std::size_t m_read = 0;
+    bool m_isCursor = false;
+    std::size_t m_readOfBatch = 0;
     std::vector<std::string> m_fields;
     std::vector<soci::indicator> m_indicators;
-    soci::statement m_statement;
+    std::optional<soci::statement> m_statement; // of the open session
 };
 
 } // namespace drillhole

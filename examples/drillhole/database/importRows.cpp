@@ -98,9 +98,7 @@ ImportOutcome importFile(const Destination &destination, const std::string &path
 ImportOutcome importTable(const Destination &destination, const std::string &connection,
                           const std::string &table, const std::vector<std::string> &columns,
                           const std::vector<std::string> &matches, ImportProgress &progress) {
-    soci::session source;
-    openSource(source, connection);
-    TableRows rows(source, table, columns);
+    TableRows rows(connection, table, columns);
     return importRows(destination, rows, {findColumns(matches, columns), columns.size(), false},
                       progress);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <gtk/gtk.h>
+#include <gtkmm/window.h>
 
 namespace drillhole {
 
@@ -8,7 +8,8 @@ namespace drillhole {
 /// dialog, which the library opens and closes within a single call.
 class DialogSize {
 public:
-    DialogSize(GtkWindow *ownWindow, int width, int height);
+    /// @param width, height  of the frame, until the dialog shows another size
+    DialogSize(Gtk::Window &ownWindow, int width, int height);
     ~DialogSize();
     DialogSize(const DialogSize &) = delete;
     DialogSize &operator=(const DialogSize &) = delete;
@@ -18,14 +19,12 @@ public:
     int height() const { return m_height; }
 
 private:
-    static gboolean onConfigured(GSignalInvocationHint *, guint, const GValue *arguments,
-                                 void *self);
+    bool look();
 
     GtkWindow *m_ownWindow;
     int m_width;
     int m_height;
-    guint m_signal;
-    gulong m_hook;
+    sigc::connection m_timer;
 };
 
 } // namespace drillhole

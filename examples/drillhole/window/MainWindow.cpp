@@ -170,7 +170,7 @@ void MainWindow::end(const ImportStory &story) {
     }
     if (story.isDone()) {
         m_replace.set_active(false);
-        load(0);
+        load(story.outcome.replaces ? 0 : m_rowCount); // the new rows stand behind the others
     }
     m_signalEnded.emit(story);
 }
@@ -199,6 +199,7 @@ void MainWindow::load(std::size_t firstRow) {
                          m_tableButtons[i]->set_label(holeTables()[i].title + " (" +
                                                       std::to_string(content->counts[i]) + ')');
                          if (&holeTables()[i] == table) {
+                             m_rowCount = content->counts[i];
                              m_grid.show(*table, content->rows, firstRow, content->counts[i]);
                          }
                      }

@@ -60,6 +60,7 @@ private:
     MatchDialog m_dialog;
     std::string m_reportFolder;
     const Table *m_table;
+    std::size_t m_rowCount = 0; ///< of the table
     bool m_isBusy = false;
     std::shared_ptr<ImportProgress> m_progress;
     sigc::connection m_progressTimer;

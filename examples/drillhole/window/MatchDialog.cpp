@@ -60,7 +60,7 @@ std::optional<FileMatch> MatchDialog::matchFile(Gtk::Window &owner, const Table 
         matchesThatFit(kept.matches, table, namesShown(firstLineOf(path), match.delimiter));
 
     bool useSavedMatches = true;
-    DialogSize size(owner.gobj(), kept.width > 0 ? kept.width : usualWidth,
+    DialogSize size(owner, kept.width > 0 ? kept.width : usualWidth,
                     kept.height > 0 ? kept.height : usualFileHeight);
     if (!m_peer.showWindow(GTK_WIDGET(owner.gobj()),
                            titleFor(table, Glib::filename_display_basename(path)), columnsOf(table),
@@ -82,7 +82,7 @@ MatchDialog::matchTable(Gtk::Window &owner, const Table &table, const std::strin
     const KeptMatch kept = m_settings.match(name);
     std::vector<std::string> matches = matchesThatFit(kept.matches, table, sourceColumns);
     bool useSavedMatches = true;
-    DialogSize size(owner.gobj(), kept.width > 0 ? kept.width : usualWidth,
+    DialogSize size(owner, kept.width > 0 ? kept.width : usualWidth,
                     kept.height > 0 ? kept.height : usualTableHeight);
     if (!m_peer.showWindow(GTK_WIDGET(owner.gobj()), titleFor(table, "table " + sourceTable),
                            columnsOf(table), sourceColumns, sourceTable, &useSavedMatches, &matches,
