@@ -1,12 +1,16 @@
 #include "person/wayland/MutterHand.h"
 
+#include "person/Screen.h"
 #include "person/UserInterface.h"
 #include "person/gtk/keysymOf.h"
 #include "person/openDialog.h"
 
 #include <algorithm>
+#include <chrono>
+#include <functional>
 #include <map>
 #include <optional>
+#include <thread>
 
 #include <gtk/gtk.h>
 #include <linux/input-event-codes.h>
@@ -58,6 +62,23 @@ std::optional<wxPoint> pointerInDialog() {
     return openDialog().ScreenToClient(wxGetMousePosition());
 }
 
+bool isButtonDown(int button) {
+    const wxMouseState state = wxGetMouseState();
+    return button == 1   ? state.LeftIsDown()
+           : button == 2 ? state.MiddleIsDown()
+                         : state.RightIsDown();
+}
+
+/// Waits until the program has seen what the hand did; the compositor does not say when it has
+/// passed it on. What a drag or a closed window takes away is never seen, hence not for long.
+void waitUntilSeen(const std::function<bool()> &isSeen) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
+    const auto isNoMatter = [&] { return !isDialogOpen() || isDragRunning() || isSeen(); };
+    while (!read(isNoMatter) && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
 } // namespace
 
 MutterHand::MutterHand() {
@@ -107,6 +128,7 @@ void MutterHand::findDialog() {
 
 void MutterHand::moveTo(wxPoint point) {
     moveOnScreen(m_dialog + point);
+    waitUntilSeen([point] { return pointerInDialog() == point; });
 }
 
 // The edges of the screen stop the pointer.
@@ -129,8 +151,12 @@ void MutterHand::setButton(int button, bool isDown) {
     }
     static const std::map<int, int> codes = {{1, BTN_LEFT}, {2, BTN_MIDDLE}, {3, BTN_RIGHT}};
     tell(m_session, "NotifyPointerButton", g_variant_new("(ib)", codes.at(button), isDown));
+    waitUntilSeen([=] { return isButtonDown(button) == isDown; });
 }
 
 void MutterHand::setKey(int key, bool isDown) {
     tell(m_session, "NotifyKeyboardKeysym", g_variant_new("(ub)", keysymOf(key), isDown));
+    if (key == WXK_SHIFT || key == WXK_CONTROL) {
+        waitUntilSeen([=] { return wxGetKeyState(static_cast<wxKeyCode>(key)) == isDown; });
+    }
 }
