@@ -46,7 +46,12 @@ install(FILES README.md CHANGELOG.md LICENSE
 install(DIRECTORY docs
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
     FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg)
-install(FILES examples/minimal_host.cpp
+if(WIN32)
+    set(example examples/msw/minimal_host.cpp)
+else()
+    set(example examples/minimal_host.cpp)
+endif()
+install(FILES ${example}
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
 
 if(PROJECT_IS_TOP_LEVEL)
