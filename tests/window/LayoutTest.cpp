@@ -147,8 +147,10 @@ TEST_F(Layout, EverythingReadsAsItShould) {
             EXPECT_EQ(openDialog().GetTitle(), "Import collars");
             EXPECT_EQ(control(D::CHECK_HEADER).GetLabel(), "First Line contain title");
             EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), "Reset to Default");
-            EXPECT_EQ(control<wxStaticText>(D::TEXT_FILE_PREVIEW).GetLabelText(),
-                      "BHID,UTM X,Depth\nDH-1,500,20\n\n");
+            const auto &preview = control<wxStaticText>(D::TEXT_FILE_PREVIEW);
+            EXPECT_EQ(preview.GetLabelText(), "BHID,UTM X,Depth\nDH-1,500,20\n\n");
+            EXPECT_TRUE(preview.GetFont().IsFixedWidth());
+            EXPECT_LE(10 * preview.GetCharHeight(), preview.GetSize().y);
             const char *const headings[] = {"Matching", "Application"};
             for (const int column : {0, 1}) {
                 wxListItem heading;

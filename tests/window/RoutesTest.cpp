@@ -15,17 +15,28 @@ namespace {
 
 const char *const content = "BHID,UTM X,Depth (m)\nDH-1,500,20\n";
 const Names titles = {"BHID", "UTM X", "Depth (m)"};
-const Names numbers = {"Column1", "Column2", "Column3"};
-
 const Names collar = {"holename", "easting", "dip", "length"};
-const Names proposal = {"BHID", "UTM X", "Not used", "Not used"};
-const Names positions = {"Column1", "Column2", "Column3", "Not used"};
-const Names onlyDepth = {"Depth (m)", "Not used", "Not used", "Not used"};
-const Names noMatch(4, "Not used");
+
+/// What both lists show.
+struct Lists {
+    Names matches;
+    Names fileColumns;
+};
+
+const Lists proposed = {{"BHID", "UTM X", "Not used", "Not used"}, titles};
+const Lists numbered = {{"Column1", "Column2", "Column3", "Not used"},
+                        {"Column1", "Column2", "Column3"}};
+const Lists onlyDepth = {{"Depth (m)", "Not used", "Not used", "Not used"}, titles};
+const Lists withDepth = {{"BHID", "UTM X", "Not used", "Depth (m)"}, titles};
+const Lists empty = {Names(4, "Not used"), {}};
+
+Lists unmatched(const Names &fileColumns) {
+    return {Names(4, "Not used"), fileColumns};
+}
 
 void look(Person &) {}
 
-void clickBox(Person &person) {
+void tick(Person &person) {
     person.click(wxImportCSVDialog::CHECK_HEADER);
 }
 
@@ -33,7 +44,7 @@ void reset(Person &person) {
     person.click(wxImportCSVDialog::BTN_REMATCH);
 }
 
-void dragLast(Person &person) {
+void drag(Person &person) {
     person.drag(Person::fileRow(2), Person::matchRow(3));
 }
 
@@ -44,168 +55,103 @@ Act type(char character) {
 /// One thing that a person does, and what both lists show afterwards.
 struct Step {
     Act act;
-    Names matches;
-    Names fileColumns;
+    Lists shown;
 };
+
+enum Source : unsigned char { aFile, noFile, aTable, emptyTable };
 
 struct Route {
     const char *name;
-    bool useSaved;
     Names saved;
+    bool useSaved;
     bool firstLineHeader;
+    Source source;
     std::vector<Step> steps;
 };
 
-void expectShown(const Step &step, const std::string &where) {
-    poll(where + " shows " + testing::PrintToString(step.matches),
-         [&step] { return matchTexts() == step.matches && fileTexts() == step.fileColumns; });
+void expectShown(const Lists &lists, const std::string &where) {
+    poll(where + " shows " + testing::PrintToString(lists.matches),
+         [&lists] { return matchTexts() == lists.matches && fileTexts() == lists.fileColumns; });
     std::vector<int> unused;
-    for (std::size_t row = 0; row < step.matches.size(); ++row) {
-        if (step.matches[row] == "Not used") {
+    for (std::size_t row = 0; row < lists.matches.size(); ++row) {
+        if (lists.matches[row] == "Not used") {
             unused.push_back(static_cast<int>(row));
         }
-        EXPECT_EQ(read([row] {
-                      return matchList().GetItemText(static_cast<long>(row),
-                                                     wxImportCSVDialog::COLUMN_APP);
-                  }),
-                  collar[row]);
+        const auto application = [row] {
+            return matchList().GetItemText(static_cast<long>(row), wxImportCSVDialog::COLUMN_APP);
+        };
+        EXPECT_EQ(read(application), collar[row]);
     }
     EXPECT_EQ(boldRows(), unused) << where;
 }
 
-Act taking(const Route &route) {
-    return [&route](Person &person) {
-        for (std::size_t number = 0; number < route.steps.size(); ++number) {
-            route.steps[number].act(person);
-            expectShown(route.steps[number], route.name + (", step " + std::to_string(number)));
-        }
-        pressOk(person);
-    };
-}
-
-/// What the host gets for the rows that the last step shows.
-Names resultOf(const Route &route) {
-    Names result = route.steps.back().matches;
-    std::replace(result.begin(), result.end(), std::string("Not used"), std::string());
-    return result;
-}
-
-DialogRun startOf(const Route &route) {
+void expectToTake(const Route &route, const std::string &path) {
     DialogRun run;
     run.appColumns = collar;
+    run.fileName = route.source == noFile ? "/nowhere/collar.csv" : path;
     run.useSavedMatches = route.useSaved;
     run.matches = route.saved;
     run.firstLineHeader = route.firstLineHeader;
-    return run;
+    const auto act = [&route](Person &person) {
+        for (const Step &step : route.steps) {
+            step.act(person);
+            expectShown(step.shown, route.name);
+        }
+        pressOk(person);
+    };
+    const bool isTable = route.source == aTable || route.source == emptyTable;
+    EXPECT_TRUE(isTable ? run.showTable(route.source == aTable ? titles : Names(), act)
+                        : run.show(act));
+    const Lists &last = route.steps.back().shown;
+    Names result = last.matches;
+    std::replace(result.begin(), result.end(), std::string("Not used"), std::string());
+    EXPECT_EQ(run.matches, result) << route.name;
+    EXPECT_TRUE(isTable || run.firstLineHeader == (last.fileColumns != numbered.fileColumns));
+    EXPECT_EQ(run.useSavedMatches, route.useSaved) << route.name;
 }
 
 } // namespace
 
-TEST(Routes, OfAFileFollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
+// clang-format off
+TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
     const Names depth = {"Depth (m)", "", "", ""};
+    const Names partly = {"Depth (m)", "utm x", "", "gone"};
+    const Names tooMany = {"Depth (m)", "", "", "", "BHID", "BHID"};
+    const Names both = {"BHID", "UTM X", "", ""};
     const Route routes[] = {
-        {"a first run",
-         false,
-         depth,
-         true,
-         {{look, proposal, titles},
-          {clickBox, positions, numbers},
-          {clickBox, proposal, titles},
-          {clickBox, positions, numbers}}},
-        {"saved matches",
-         true,
-         {"Depth (m)", "utm x", "", "gone"},
-         true,
-         {{look, onlyDepth, titles},
-          {clickBox, positions, numbers},
-          {clickBox, onlyDepth, titles}}},
-        {"a reset",
-         true,
-         depth,
-         true,
-         {{look, onlyDepth, titles},
-          {clickBox, positions, numbers},
-          {reset, proposal, titles},
-          {clickBox, positions, numbers},
-          {clickBox, proposal, titles}}},
-        {"no titles at the start",
-         true,
-         depth,
-         false,
-         {{look, positions, numbers}, {clickBox, proposal, titles}}},
-        {"no saved matches", true, {}, true, {{look, proposal, titles}}},
-        {"saved matches without a name", true, Names(4), true, {{look, proposal, titles}}},
-        {"one saved match alone", true, {"Depth (m)"}, true, {{look, {"Depth (m)"}, titles}}},
-        {"more saved matches than rows",
-         true,
-         {"Depth (m)", "", "", "", "BHID", "BHID"},
-         true,
-         {{look, onlyDepth, titles}}},
-        {"another delimiter",
-         true,
-         {"BHID", "UTM X", "", ""},
-         true,
-         {{type('X'), noMatch, {"BHID,UTM", ",Depth (m)"}},
-          {type(','), noMatch, titles},
-          {type(';'), noMatch, {"BHID,UTM X,Depth (m)"}}}},
-        {"a drag, and what keeps and drops it",
-         false,
-         {},
-         true,
-         {{dragLast, {"BHID", "UTM X", "Not used", "Depth (m)"}, titles},
-          {type(','), {"BHID", "UTM X", "Not used", "Depth (m)"}, titles},
-          {reset, proposal, titles}}},
+        {"a first run", depth, false, true, aFile,
+         {{look, proposed}, {tick, numbered}, {tick, proposed}, {tick, numbered}}},
+        {"saved matches", partly, true, true, aFile,
+         {{look, onlyDepth}, {tick, numbered}, {tick, onlyDepth}}},
+        {"a reset", depth, true, true, aFile,
+         {{look, onlyDepth}, {tick, numbered}, {reset, proposed}, {tick, numbered}, {tick, proposed}}},
+        {"no titles at the start", depth, true, false, aFile, {{look, numbered}, {tick, proposed}}},
+        {"no saved matches", {}, true, true, aFile, {{look, proposed}}},
+        {"saved matches without a name", Names(4), true, true, aFile, {{look, proposed}}},
+        {"one saved match alone", {"Depth (m)"}, true, true, aFile, {{look, {{"Depth (m)"}, titles}}}},
+        {"more saved matches than rows", tooMany, true, true, aFile, {{look, onlyDepth}}},
+        {"another delimiter", both, true, true, aFile,
+         {{type('X'), unmatched({"BHID,UTM", ",Depth (m)"})}, {type(','), unmatched(titles)},
+          {type(';'), unmatched({"BHID,UTM X,Depth (m)"})}}},
+        {"a drag, and what keeps and drops it", {}, false, true, aFile,
+         {{drag, withDepth}, {type(','), withDepth}, {reset, proposed}}},
+        {"a missing file", {}, false, true, noFile,
+         {{look, empty}, {type(';'), empty}, {tick, empty}, {reset, empty}}},
+        {"a table by position", depth, false, true, aTable,
+         {{look, numbered}, {reset, numbered}}},
+        {"a table's proposal", {"", ""}, true, true, aTable,
+         {{look, proposed}, {drag, withDepth}, {reset, proposed}}},
+        {"a table's saved matches", partly, true, false, aTable,
+         {{look, onlyDepth}, {reset, proposed}}},
+        {"an empty table", {}, true, true, emptyTable, {{look, empty}}},
+        {"an empty table by position", {}, false, true, emptyTable, {{look, empty}}},
     };
     const ScratchFile file(content);
     for (const Route &route : routes) {
-        DialogRun run = startOf(route);
-        run.fileName = file.path();
-        EXPECT_TRUE(run.show(taking(route)));
-        EXPECT_EQ(run.matches, resultOf(route)) << route.name;
-        EXPECT_EQ(run.firstLineHeader, route.steps.back().fileColumns != numbers) << route.name;
-        EXPECT_EQ(run.useSavedMatches, route.useSaved) << route.name;
+        expectToTake(route, file.path());
     }
 }
-
-TEST(Routes, OfATableFollowTheSavedMatchesAndTheButton) {
-    const Route routes[] = {
-        {"by position",
-         false,
-         {"UTM X"},
-         true,
-         {{look, positions, numbers}, {reset, positions, numbers}}},
-        {"proposed", true, {"", ""}, false, {{look, proposal, titles}, {reset, proposal, titles}}},
-        {"saved",
-         true,
-         {"Depth (m)", "gone", "", ""},
-         false,
-         {{look, onlyDepth, titles}, {reset, proposal, titles}}},
-        {"without columns", true, {}, true, {{look, noMatch, {}}}},
-        {"without columns, by position", false, {}, true, {{look, noMatch, {}}}},
-    };
-    for (const Route &route : routes) {
-        DialogRun run = startOf(route);
-        EXPECT_TRUE(
-            run.showTable(route.steps[0].fileColumns.empty() ? Names() : titles, taking(route)));
-        EXPECT_EQ(run.matches, resultOf(route)) << route.name;
-        EXPECT_EQ(run.useSavedMatches, route.useSaved) << route.name;
-    }
-}
-
-TEST(Routes, OfAFileThatCannotBeReadLeaveEveryRowUnused) {
-    const Route route = {"a missing file",
-                         false,
-                         {},
-                         true,
-                         {{look, noMatch, {}},
-                          {type(';'), noMatch, {}},
-                          {clickBox, noMatch, {}},
-                          {reset, noMatch, {}}}};
-    DialogRun run = startOf(route);
-    run.fileName = "/nowhere/collar.csv";
-    EXPECT_TRUE(run.show(taking(route)));
-    EXPECT_EQ(run.matches, Names(4));
-}
+// clang-format on
 
 TEST(Routes, TheFileIsReadAgainForAnotherDelimiterAlone) {
     const ScratchFile file(content);
@@ -214,7 +160,7 @@ TEST(Routes, TheFileIsReadAgainForAnotherDelimiterAlone) {
     run.fileName = file.path();
     EXPECT_TRUE(run.show([&file](Person &person) {
         file.write("changed;meanwhile\n");
-        for (const Act &act : {type(','), Act(clickBox), Act(clickBox), Act(reset)}) {
+        for (const Act &act : {type(','), Act(tick), Act(tick), Act(reset)}) {
             act(person);
         }
         EXPECT_EQ(fileTexts(), titles);

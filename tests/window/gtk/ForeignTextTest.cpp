@@ -17,7 +17,7 @@ public:
         std::string command = OTHER_PROGRAM;
         for (const std::string &text : texts) {
             char *quoted = g_shell_quote(text.c_str());
-            command = command + ' ' + quoted;
+            command.append(" ").append(quoted);
             g_free(quoted);
         }
         m_output = popen(command.c_str(), "r");

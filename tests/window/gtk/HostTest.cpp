@@ -109,6 +109,16 @@ void meetMishap(Person &person) {
 
 } // namespace
 
+TEST_F(Host, GtkDoesNotComplainOfAPeerThatComesAfterIt) {
+    const GLogLevelFlags all =
+        static_cast<GLogLevelFlags>(G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING);
+    const GLogLevelFlags before = g_log_set_always_fatal(all);
+    testing::internal::CaptureStderr();
+    { const wxImportCSVDialogPeer peer; }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(g_log_set_always_fatal(before) & all, all);
+}
+
 TEST_F(Host, TheDialogStaysAboveTheHostsWindowAndLeavesItAlone) {
     GtkWidget *window = newHostWindow();
     for (GtkWidget *handle : {window, gtk_bin_get_child(GTK_BIN(window))}) {

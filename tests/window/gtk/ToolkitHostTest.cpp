@@ -5,6 +5,7 @@
 #include "tests/ScratchFile.h"
 
 #include <functional>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <wx/app.h>
@@ -26,11 +27,17 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     for (int id = 1; id <= 10; ++id) {
         new wxButton(frame, id, "Import");
     }
-    frame->Show();
-    frame->CallAfter([&work, frame] {
-        work(*frame);
-        frame->Close();
+    // As soon as somebody could have asked for it.
+    frame->Bind(wxEVT_ACTIVATE, [&work, frame, isDone = false](wxActivateEvent &event) mutable {
+        event.Skip();
+        if (event.GetActive() && !std::exchange(isDone, true)) {
+            frame->CallAfter([&work, frame] {
+                work(*frame);
+                frame->Close();
+            });
+        }
     });
+    frame->Show();
     EXPECT_EQ(application->OnRun(), 0);
     EXPECT_EQ(wxApp::GetInstance(), application);
 }
