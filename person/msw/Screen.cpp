@@ -96,6 +96,10 @@ bool dialogStands() {
     return isDialogOpen() && openDialog().IsActive();
 }
 
+bool placesWindows() {
+    return true;
+}
+
 wxRect frameOfDialog() {
     RECT frame = {};
     GetWindowRect(openDialog().GetHWND(), &frame);

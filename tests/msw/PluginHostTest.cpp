@@ -13,7 +13,7 @@
 namespace {
 
 using Names = std::vector<std::string>;
-using ImportNames = void(HWND, const std::string &, Names &);
+using ImportNames = void(const std::string &, Names &);
 
 void leaveDialog() {
     Xdotool hand;
@@ -34,7 +34,7 @@ TEST(PluginHost, MayTakeItsPluginOutAndBringItInAgain) {
             reinterpret_cast<void *>(GetProcAddress(plugin, "importNames")));
         std::thread person(leaveDialog);
         Names matches;
-        importNames(nullptr, file.path(), matches);
+        importNames(file.path(), matches);
         person.join();
         EXPECT_EQ(matches, (Names{"BHID", "Dip"}));
         FreeLibrary(plugin);
