@@ -6,6 +6,12 @@ if(library MATCHES "dll")
     execute_process(COMMAND nm --format=posix ${library} COMMAND sed -n "s/^__imp_//p"
                     COMMAND c++filt OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
     string(REPLACE "HWND__*" "_GtkWidget*" symbols "${symbols}")
+    # Names of types are compared letter by letter there, and each module has its own.
+    file(STRINGS ${list} wanted)
+    list(FILTER wanted EXCLUDE REGEX "^typeinfo name")
+    list(JOIN wanted "\n" wanted)
+    set(list ${found}.wanted)
+    file(WRITE ${list} "${wanted}\n")
 else()
     execute_process(COMMAND nm --dynamic --demangle --defined-only --format=posix ${library}
                     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)

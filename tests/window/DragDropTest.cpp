@@ -358,7 +358,8 @@ TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
         EXPECT_EQ(read(topRow), top) << "a drag away from the edges does not scroll";
 
         const wxPoint bottom = read([] {
-            return openDialog().ScreenToClient(matchList().GetScreenRect().GetBottomLeft());
+            return openDialog().ScreenToClient(
+                matchList().ClientToScreen(wxPoint(0, matchList().GetClientSize().y)));
         });
         const auto scrollTo = [&person, top, bottom](int row) {
             person.dragTo(Person::fileRow(9), Person::matchRow(top + 4));

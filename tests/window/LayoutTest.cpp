@@ -27,9 +27,8 @@ protected:
 
 /// The place of a control in the client area of the dialog.
 wxRect place(const wxWindow &window) {
-    return window.GetParent() == &openDialog()
-               ? window.GetRect()
-               : wxRect(openDialog().ScreenToClient(window.GetScreenPosition()), window.GetSize());
+    return {openDialog().ScreenToClient(window.GetParent()->ClientToScreen(window.GetPosition())),
+            window.GetSize()};
 }
 
 wxWindow &labelled(const char *label) {

@@ -192,6 +192,6 @@ TEST(Routes, OneCharacterFitsIntoTheDelimiterFieldAndItsFirstByteCounts) {
         EXPECT_TRUE(read(holdsOne));
         pressOk(person);
     }));
-    EXPECT_EQ(run.delimiter, '\xC3');
+    EXPECT_EQ(run.delimiter, wxString::FromUTF8("\xC3\xA9").mb_str(wxConvLibc).data()[0]);
     EXPECT_EQ(run.matches, Names());
 }
