@@ -358,12 +358,11 @@ TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
         EXPECT_EQ(read(topRow), top) << "a drag away from the edges does not scroll";
 
         const wxPoint bottom = read([] {
-            return openDialog().ScreenToClient(
-                matchList().ClientToScreen(wxPoint(0, matchList().GetClientSize().y)));
+            return openDialog().ScreenToClient(matchList().GetScreenRect().GetBottomLeft());
         });
         const auto scrollTo = [&person, top, bottom](int row) {
             person.dragTo(Person::fileRow(9), Person::matchRow(top + 4));
-            person.hoverAt(bottom + wxSize(60, -2), "the row is in view", [row] {
+            person.hoverAt(bottom + wxSize(60, -4), "the row is in view", [row] {
                 return matchList().GetTopItem() + matchList().GetCountPerPage() > row;
             });
         };
