@@ -41,18 +41,16 @@ configure_file(${CMAKE_CURRENT_LIST_DIR}/columnimport.pc.in columnimport.pc @ONL
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/columnimport.pc
     DESTINATION ${pkgconfig_folder} COMPONENT development)
 
-install(FILES README.md CHANGELOG.md LICENSE
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY docs
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
-    FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg)
-if(WIN32)
-    set(example examples/msw/minimal_host.cpp)
-else()
-    set(example examples/minimal_host.cpp)
-endif()
-install(FILES ${example}
+    FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg PATTERN exported-symbols.txt
+    PATTERN code EXCLUDE PATTERN tables EXCLUDE)
+install(FILES examples/minimal_host.cpp
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
+install(FILES examples/msw/minimal_host.cpp
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/msw COMPONENT development)
 
 if(PROJECT_IS_TOP_LEVEL)
     add_custom_target(uninstall
