@@ -65,7 +65,11 @@ private:
             m_window.choose(*findTable(m_options.table.empty() ? "collar" : m_options.table));
             const std::string source = std::exchange(m_options.source, {});
             m_isRunning = true;
-            m_window.importTable(source, m_options.sourceTable);
+            if (m_options.sourceTable.empty()) {
+                m_window.chooseSourceTable(source);
+            } else {
+                m_window.importTable(source, m_options.sourceTable);
+            }
         } else if (m_options.thenQuits) {
             m_window.hide();
         }

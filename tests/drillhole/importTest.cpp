@@ -105,6 +105,7 @@ TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
     EXPECT_TRUE(importFile(into("survey", true), path("collars.csv"),
                            {{"hole", "x", "y", "x"}, ',', true}, cancelled)
                     .isCancelled);
+    EXPECT_EQ(cancelled.rows, 0U) << "it ends at once";
     EXPECT_THROW(importFrom("collar", "nothing.csv", m_surveyMatch), Fault);
     EXPECT_THROW(importFrom("collar", ".", m_surveyMatch), Fault);
     EXPECT_EQ(ask("select * from survey"), "LR-1|5.0|5.0|5.0");

@@ -215,15 +215,20 @@ void MainWindow::chooseFile() {
     }
 }
 
-void MainWindow::chooseSourceTable() {
+void MainWindow::chooseSourceTable(const std::string &connection) {
     std::optional<SourceTable> chosen;
     {
-        SourceDialog dialog(*this, m_thread, m_settings.source());
+        SourceDialog dialog(*this, m_thread, connection.empty() ? m_settings.source() : connection);
         chosen = dialog.choose();
     }
     if (chosen) {
         m_settings.keepSource(chosen->connection);
         importTable(chosen->connection, chosen->name);
+    } else {
+        ImportStory story;
+        story.table = m_table;
+        story.source = "nothing";
+        end(story);
     }
 }
 
@@ -261,7 +266,7 @@ Gtk::Widget &MainWindow::createToolbar() {
     file->get_style_context()->add_class("suggested-action");
     file->signal_clicked().connect([this] { chooseFile(); });
     auto *source = Gtk::make_managed<Gtk::Button>("Import _Table...", true);
-    source->signal_clicked().connect([this] { chooseSourceTable(); });
+    source->signal_clicked().connect([this] { chooseSourceTable({}); });
     m_toolbar.pack_end(*file, Gtk::PACK_SHRINK);
     m_toolbar.pack_end(*source, Gtk::PACK_SHRINK);
     m_toolbar.pack_end(m_replace, Gtk::PACK_SHRINK);

@@ -32,6 +32,11 @@ public:
     /// The same for a table in another database.
     void importTable(const std::string &connection, const std::string &sourceTable);
 
+    /// Lets the user choose a table in another database and then imports it.
+    ///
+    /// @param connection  where the choice begins; empty for the last source
+    void chooseSourceTable(const std::string &connection);
+
     /// Every import's end, however it came.
     sigc::signal<void, const ImportStory &> &signalEnded() { return m_signalEnded; }
 
@@ -44,7 +49,6 @@ private:
     Gtk::Widget &createProgressLine();
 
     void chooseFile();
-    void chooseSourceTable();
     void matchTable(ImportStory story, const std::string &connection,
                     const std::vector<std::string> &columns);
     void start(ImportStory story, Import import);

@@ -16,7 +16,7 @@ constexpr int spacing = 8;
 
 SourceDialog::SourceDialog(Gtk::Window &owner, DatabaseThread &thread,
                            const std::string &connection)
-    : Gtk::Dialog("Choose a Table to Import", owner, true), m_thread(thread),
+    : Gtk::Dialog("Choose a Table to Import", owner, true), m_thread(thread), m_given(connection),
       m_grid(Gtk::make_managed<Gtk::Grid>()), m_file("SQLite _File...", true),
       m_connect("C_onnect", true) {
     set_default_size(640, 420);
@@ -31,7 +31,7 @@ SourceDialog::SourceDialog(Gtk::Window &owner, DatabaseThread &thread,
     m_grid->set_row_spacing(spacing);
     m_grid->set_column_spacing(spacing);
     m_grid->property_margin() = 12;
-    m_connection.set_text(connection);
+    m_connection.set_text(withoutPassword(connection));
     m_connection.set_hexpand();
     m_connection.set_placeholder_text("postgresql://host=... dbname=... user=...   odbc://DSN=...");
     m_connection.signal_activate().connect([this] { listTables(); });
@@ -102,7 +102,9 @@ void SourceDialog::listTables() {
         m_message.set_text("Type a connection string, or choose an SQLite file.");
         return;
     }
-    const std::string connection = withPassword(connectionFor(typed), m_password.get_text());
+    const bool isAsGiven = typed == withoutPassword(m_given) && m_password.get_text_length() == 0;
+    const std::string connection =
+        isAsGiven ? m_given : withPassword(connectionFor(typed), m_password.get_text());
     const auto names = std::make_shared<std::vector<std::string>>();
     showTables({});
     m_connect.set_sensitive(false);
@@ -136,6 +138,10 @@ void SourceDialog::showTables(const std::vector<std::string> &names) {
         label->show_all();
     }
     m_tables.show_all();
+    if (Gtk::ListBoxRow *first = m_tables.get_row_at_index(0)) {
+        m_tables.select_row(*first);
+        first->grab_focus();
+    }
 }
 
 } // namespace drillhole

@@ -23,7 +23,7 @@ struct SourceTable {
 /// Lets the user connect to a database and choose a table of it.
 class SourceDialog : public Gtk::Dialog {
 public:
-    /// @param connection  what to begin with
+    /// @param connection  what to begin with, perhaps with a password
     SourceDialog(Gtk::Window &owner, DatabaseThread &thread, const std::string &connection);
     ~SourceDialog() override;
 
@@ -38,6 +38,7 @@ private:
 
     DatabaseThread &m_thread;
     std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true);
+    std::string m_given;  ///< the connection to begin with; its password is not shown
     std::string m_listed; ///< the connection whose tables are shown
     Gtk::Grid *m_grid;
     Gtk::Entry m_connection;

@@ -49,7 +49,9 @@ Options readOptions(int &argc, char **&argv) {
         database);
     group.add_entry(entry("table", "Import into collar, survey or assay", "TABLE"), table);
     group.add_entry(entry("from", "Import a table of another database", "DATABASE"), source);
-    group.add_entry(entry("from-table", "The table to import", "NAME"), sourceTable);
+    group.add_entry(
+        entry("from-table", "The table to import; without it you can choose one", "NAME"),
+        sourceTable);
     group.add_entry(entry("then-quit", "End when what the command line names is imported"),
                     options.thenQuits);
     Glib::OptionEntry remaining = entry(G_OPTION_REMAINING, "Files to import");
@@ -68,8 +70,8 @@ Options readOptions(int &argc, char **&argv) {
         throw Fault("There is no table " + options.table +
                     "; give --table=collar, survey or assay.");
     }
-    if (options.source.empty() != options.sourceTable.empty()) {
-        throw Fault("Give --from and --from-table together.");
+    if (options.source.empty() && !options.sourceTable.empty()) {
+        throw Fault("Give the database of that table too, with --from.");
     }
     return options;
 }

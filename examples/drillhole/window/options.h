@@ -11,8 +11,8 @@ struct Options {
     std::string table;             ///< where to import to; empty if the file's name tells it
     std::deque<std::string> files; ///< to import at once, one after the other
     std::string source;            ///< the connection to import a table from, or empty
-    std::string sourceTable;
-    bool thenQuits = false; ///< when all that was asked for is imported
+    std::string sourceTable;       ///< empty to let the user choose
+    bool thenQuits = false;        ///< when all that was asked for is imported
 };
 
 /// Reads the command line. Throws a Fault, or Glib::OptionError, if it makes no sense; ends the
