@@ -17,8 +17,7 @@ class TextDropTarget;
 /// columns of the host.
 ///
 /// A host without the toolkit runs it through `wxImportCSVDialogPeer`. A host that has its own
-/// `wxWindow` may run it itself, on its user-interface thread and one dialog at a time, since
-/// controls are found by their identifiers among all top-level windows:
+/// `wxWindow` may run it itself, on its user-interface thread and one dialog at a time:
 ///
 ///     wxImportCSVDialog dialog(frame, "Import assays", {"holename", "from", "to", "Au"},
 ///                              "assays.csv", false, {}, ',', true);
