@@ -25,6 +25,7 @@ add_library(columnimport SHARED
     delimited/dialogMembers.cpp
     dialogs/${platform}/Scale.cpp
     dialogs/${platform}/SmallControls.cpp
+    dialogs/${platform}/accessibleName.cpp
     dialogs/HeaderSection.cpp
     dialogs/MatchingSection.cpp
     dialogs/Scale.cpp
@@ -36,7 +37,9 @@ add_library(columnimport SHARED
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp
+    dragdrop/clipboard.cpp
     dragdrop/dragText.cpp
+    dragdrop/tipWhereCut.cpp
     host/${platform}/modalLoop.cpp
     host/${platform}/nativeWindow.cpp
     host/${platform}/toolkit.cpp

@@ -6,6 +6,7 @@
 #include "delimited/readPreview.h"
 #include "dialogs/Scale.h"
 #include "dialogs/SmallControls.h"
+#include "dialogs/accessibleName.h"
 #include "dragdrop/controls.h"
 #include "names/nameText.h"
 
@@ -59,6 +60,9 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
                                      wxDefaultPosition, scale(wxSize(25, 20)));
     delimiter->SetMaxLength(1);
     columnimport::fitOneCharacter(*delimiter);
+    columnimport::setAccessibleName(*delimiter, "Field delimiter");
+    delimiter->SetToolTip("One character, taken as it stands; a tab can be pasted.\n"
+                          "Another one cuts the first line anew and matches its columns afresh.");
     delimiterRow->Add(label);
     delimiterRow->AddSpacer(scale(10));
     delimiterRow->Add(delimiter);
@@ -79,6 +83,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     // text as large as itself, and the box around it would be fitted to that.
     text->SetLabelText(columnimport::previewText(getFilePreview()));
     text->SetSize(previewSize);
+    columnimport::setAccessibleName(*text, "File preview");
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
 
     loadHeader();

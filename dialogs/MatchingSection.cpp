@@ -4,6 +4,7 @@
 #include "dialogs/wxImportCSVDialog.h"
 
 #include "dialogs/Scale.h"
+#include "dialogs/accessibleName.h"
 #include "dialogs/arrowBitmap.h"
 #include "dialogs/matchTexts.h"
 #include "dragdrop/ListBoxSource.h"
@@ -69,6 +70,13 @@ void showMatches(ListCtrlSource &list, const std::vector<std::string> &matchText
     }
 }
 
+/// Has Tab come to two buttons in the order in which they stand, which each platform has its own
+/// of.
+void followReadingOrder(wxWindow &one, wxWindow &other) {
+    wxWindow &first = one.GetPosition().x < other.GetPosition().x ? one : other;
+    (&first == &one ? other : one).MoveAfterInTabOrder(&first);
+}
+
 std::vector<std::string> positionalNames(std::size_t count) {
     return columnimport::positionalMatchTexts(count, count);
 }
@@ -100,6 +108,9 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     matches->InsertColumn(COLUMN_MATCH, "Matching", wxLIST_FORMAT_LEFT, scale(245));
     matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, scale(245));
 
+    columnimport::setAccessibleName(*files, "File columns");
+    columnimport::setAccessibleName(*matches, "Column matching");
+
     m_matchDropTarget = new TextDropTarget(*matches);
     matches->SetDropTarget(m_matchDropTarget);
     m_fileDropTarget = new TextDropTarget(*files);
@@ -109,6 +120,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     SetSizerAndFit(sizer, true);
     // In a smaller frame the controls keep their sizes too, and are cut off by it.
     SetVirtualSize(sizer->GetMinSize());
+    followReadingOrder(*FindWindow(wxID_OK), *FindWindow(wxID_CANCEL));
     wxCommandEvent refresh(wxEVT_NULL, 0);
     onCheckHeader(refresh);
 }

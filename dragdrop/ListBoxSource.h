@@ -16,6 +16,7 @@ public:
 private:
     void onLeftDown(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
+    void onKeyDown(wxKeyEvent &event);
 };
 
 } // namespace columnimport

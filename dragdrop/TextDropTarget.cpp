@@ -31,10 +31,7 @@ wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult sugge
 
 bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     if (m_matchList != nullptr) {
-        for (long row = m_matchList->nextMarkedRow(-1); row != -1;
-             row = m_matchList->nextMarkedRow(row)) {
-            m_matchList->setMatchText(row, notUsed);
-        }
+        m_matchList->setMarkedMatchTexts(notUsed);
         return true;
     }
     auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);

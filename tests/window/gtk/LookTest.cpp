@@ -8,8 +8,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <string>
 
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
 #include <wx/image.h>
 #include <wx/settings.h>
 #include <wx/statbmp.h>
@@ -107,6 +109,34 @@ TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
         poll("row 1 is marked no more", [] { return markedRows() == std::vector<int>{0}; });
         EXPECT_EQ(read([] { return matchList().GetItemTextColour(1); }),
                   read([] { return matchList().GetForegroundColour(); }));
+        person.strike(WXK_ESCAPE);
+    });
+}
+
+TEST_F(Look, WhatCannotBeSeenIsTold) {
+    const std::string cut(60, 'W');
+    const ScratchFile wide("HOLE," + cut + "\n");
+    run.fileName = wide.path();
+    run.show([&cut](Person &person) {
+        const auto tipIs = [](const wxWindow &list, const std::string &tip) {
+            return [&list, tip] { return list.GetToolTipText() == tip; };
+        };
+        wxListBox &files = fileList();
+        person.hoverAt(Person::fileRow(1), "the whole name is told", tipIs(files, cut));
+        person.hoverAt(Person::fileRow(0), "nothing is told", tipIs(files, ""));
+        person.drag(Person::fileRow(1), Person::matchRow(2));
+        wxListCtrl &matches = matchList();
+        person.hoverAt(Person::matchRow(2), "the whole name is told", tipIs(matches, cut));
+        person.hoverAt(Person::matchRow(0), "nothing is told", tipIs(matches, ""));
+        onUserInterface([] {
+            for (const int id :
+                 {wxImportCSVDialog::TXT_DELIMITER, wxImportCSVDialog::LISTBOX_FILE,
+                  wxImportCSVDialog::LISTBOX_MATCH, wxImportCSVDialog::TEXT_FILE_PREVIEW}) {
+                EXPECT_NE(atk_object_get_name(gtk_widget_get_accessible(control(id).GetHandle())),
+                          nullptr)
+                    << "a screen reader has no name for " << id;
+            }
+        });
         person.strike(WXK_ESCAPE);
     });
 }

@@ -1,0 +1,12 @@
+#pragma once
+
+class wxString;
+class wxWindow;
+
+namespace columnimport {
+
+/// Gives `control` the name by which a screen reader tells it from others. Each platform has a file
+/// of its own for it.
+void setAccessibleName(wxWindow &control, const wxString &name);
+
+} // namespace columnimport

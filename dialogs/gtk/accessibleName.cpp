@@ -1,0 +1,27 @@
+#include "dialogs/accessibleName.h"
+
+#include <gtk/gtk.h>
+#include <wx/window.h>
+
+namespace columnimport {
+
+namespace {
+
+void setName(GtkWidget *widget, const wxString &name) {
+    atk_object_set_name(gtk_widget_get_accessible(widget), name.utf8_str());
+}
+
+} // namespace
+
+// A list is several widgets, and the reader stops at the one that takes the keys.
+void setAccessibleName(wxWindow &control, const wxString &name) {
+    setName(control.GetHandle(), name);
+    if (control.m_focusWidget != nullptr) {
+        setName(control.m_focusWidget, name);
+    }
+    for (wxWindow *part : control.GetChildren()) {
+        setAccessibleName(*part, name);
+    }
+}
+
+} // namespace columnimport

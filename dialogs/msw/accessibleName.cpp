@@ -1,0 +1,41 @@
+#include "dialogs/accessibleName.h"
+
+#include <wx/access.h>
+#include <wx/window.h>
+
+namespace columnimport {
+
+#if wxUSE_ACCESSIBILITY
+
+namespace {
+
+class Named : public wxAccessible {
+public:
+    Named(wxWindow &window, const wxString &name) : wxAccessible(&window), m_name(name) {}
+
+    wxAccStatus GetName(int child, wxString *name) override {
+        if (child != wxACC_SELF) {
+            return wxACC_NOT_IMPLEMENTED;
+        }
+        *name = m_name;
+        return wxACC_OK;
+    }
+
+private:
+    wxString m_name;
+};
+
+} // namespace
+
+void setAccessibleName(wxWindow &control, const wxString &name) {
+    control.SetAccessible(new Named(control, name));
+}
+
+#else
+
+// A toolkit that is built without it leaves the readers to the native controls.
+void setAccessibleName(wxWindow &, const wxString &) {}
+
+#endif
+
+} // namespace columnimport

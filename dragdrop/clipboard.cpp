@@ -1,0 +1,26 @@
+#include "dragdrop/clipboard.h"
+
+#include "dragdrop/UnicodeText.h"
+
+#include <wx/clipbrd.h>
+
+namespace columnimport {
+
+void copyText(const wxString &text) {
+    const wxClipboardLocker open;
+    if (!!open) {
+        wxTheClipboard->SetData(new UnicodeText(text));
+    }
+}
+
+bool pasteText(wxString &text) {
+    const wxClipboardLocker open;
+    UnicodeText data;
+    if (!open || !wxTheClipboard->GetData(data)) {
+        return false;
+    }
+    text = data.GetText();
+    return true;
+}
+
+} // namespace columnimport

@@ -1,0 +1,157 @@
+// A dialog without a mouse: the current row, marks, the clipboard, and the way through the
+// controls.
+
+#include "person/DialogRun.h"
+#include "person/openDialog.h"
+#include "tests/ScratchFile.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+using Rows = std::vector<int>;
+
+class Keyboard : public testing::Test {
+protected:
+    Keyboard() : file("HOLE,FROM,TO,AU,CU\n") {
+        run.fileName = file.path();
+        run.appColumns = {"hole", "from", "to", "gold", "copper"};
+        run.useSavedMatches = true;
+        run.matches = {"HOLE", "FROM", "TO", "AU", "CU"};
+    }
+
+    /// The control that has the keys: the match list has them in a part of itself.
+    static int focus() {
+        const wxWindow *window = wxWindow::FindFocus();
+        while (window != nullptr && window->GetId() < 0) {
+            window = window->GetParent();
+        }
+        return window == nullptr ? wxID_NONE : window->GetId();
+    }
+
+    static void tabTo(Person &person, int controlId) {
+        for (int steps = 0; steps < 10 && read(focus) != controlId; ++steps) {
+            const int before = read(focus);
+            person.strike(WXK_TAB);
+            poll("Tab goes on", [before] { return read(focus) != before; });
+        }
+        ASSERT_EQ(read(focus), controlId);
+    }
+
+    static void strike(Person &person, int modifier, int key) {
+        person.keyDown(modifier);
+        person.strike(key);
+        person.keyUp(modifier);
+    }
+
+    static void expectRows(const Rows &marked, const Rows &hover) {
+        poll("marked are " + testing::PrintToString(marked) + " and in hover is " +
+                 testing::PrintToString(hover),
+             [&] { return markedRows() == marked && hoverRows() == hover; });
+    }
+
+    static void expectTexts(const Names &texts) {
+        poll("the rows read " + testing::PrintToString(texts),
+             [&texts] { return matchTexts() == texts; });
+    }
+
+    ScratchFile file;
+    DialogRun run;
+};
+
+} // namespace
+
+TEST_F(Keyboard, TabGoesInTheOrderOfReading) {
+    run.show([](Person &person) {
+        tabTo(person, wxImportCSVDialog::TXT_DELIMITER);
+        for (const int next : {wxImportCSVDialog::CHECK_HEADER, wxImportCSVDialog::BTN_REMATCH,
+                               wxImportCSVDialog::LISTBOX_FILE, wxImportCSVDialog::LISTBOX_MATCH}) {
+            person.strike(WXK_TAB);
+            poll("the focus is on " + std::to_string(next), [next] { return read(focus) == next; });
+        }
+        const auto x = [](int id) { return read([id] { return control(id).GetPosition().x; }); };
+        const bool isOkFirst = x(wxID_OK) < x(wxID_CANCEL);
+        person.strike(WXK_TAB);
+        poll("the focus is on the first button",
+             [=] { return read(focus) == (isOkFirst ? wxID_OK : wxID_CANCEL); });
+        person.strike(WXK_ESCAPE);
+    });
+}
+
+TEST_F(Keyboard, ArrowsMoveTheCurrentRowAndSpaceMarks) {
+    run.show([](Person &person) {
+        tabTo(person, wxImportCSVDialog::LISTBOX_MATCH);
+        person.strike(WXK_END);
+        expectRows({}, {4});
+        person.strike(WXK_HOME);
+        expectRows({}, {0});
+        person.strike(WXK_DOWN);
+        expectRows({}, {1});
+        person.strike(WXK_SPACE);
+        expectRows({1}, {});
+        strike(person, WXK_CONTROL, WXK_DOWN);
+        strike(person, WXK_CONTROL, WXK_DOWN);
+        strike(person, WXK_CONTROL, WXK_SPACE);
+        expectRows({1, 3}, {});
+        strike(person, WXK_SHIFT, WXK_UP);
+        expectRows({2, 3}, {});
+        strike(person, WXK_SHIFT, WXK_DOWN);
+        strike(person, WXK_SHIFT, WXK_DOWN);
+        expectRows({3, 4}, {});
+        person.strike(WXK_UP);
+        expectRows({}, {3});
+        person.strike('h');
+        person.strike(WXK_UP);
+        expectRows({}, {2});
+        person.strike(WXK_ESCAPE);
+    });
+}
+
+TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
+    EXPECT_TRUE(run.show([](Person &person) {
+        tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
+        person.strike(WXK_HOME);
+        waitUntil("an entry is selected", [] { return fileList().GetSelection() == 0; });
+        strike(person, WXK_CONTROL, 'c');
+        person.strike(WXK_TAB);
+        poll("the match list has the focus",
+             [] { return read(focus) == wxImportCSVDialog::LISTBOX_MATCH; });
+        person.strike(WXK_END);
+        expectRows({}, {4});
+        strike(person, WXK_CONTROL, 'v');
+        expectTexts({"HOLE", "FROM", "TO", "AU", "HOLE"});
+        person.strike(WXK_UP);
+        strike(person, WXK_SHIFT, WXK_UP);
+        expectRows({2, 3}, {});
+        person.strike(WXK_DELETE);
+        expectTexts({"HOLE", "FROM", "Not used", "Not used", "HOLE"});
+        EXPECT_EQ(boldRows(), (Rows{2, 3}));
+        person.strike(WXK_HOME);
+        person.strike(WXK_DOWN);
+        expectRows({}, {1});
+        strike(person, WXK_CONTROL, 'c');
+        person.strike(WXK_DELETE);
+        expectTexts({"HOLE", "Not used", "Not used", "Not used", "HOLE"});
+        person.strike(WXK_HOME);
+        strike(person, WXK_CONTROL, 'v');
+        expectTexts({"FROM", "Not used", "Not used", "Not used", "HOLE"});
+        person.strike(WXK_RETURN);
+    }));
+    EXPECT_EQ(run.matches, (Names{"FROM", "", "", "", "HOLE"}));
+}
+
+TEST_F(Keyboard, ReturnIsOkAndEscapeCancelInBothLists) {
+    for (const int list : {wxImportCSVDialog::LISTBOX_FILE, wxImportCSVDialog::LISTBOX_MATCH}) {
+        for (const int key : {static_cast<int>(WXK_RETURN), static_cast<int>(WXK_ESCAPE)}) {
+            EXPECT_EQ(run.show([=](Person &person) {
+                tabTo(person, list);
+                person.strike(WXK_DOWN);
+                person.strike(key);
+            }),
+                      key == WXK_RETURN);
+        }
+    }
+}
