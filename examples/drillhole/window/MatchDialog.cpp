@@ -14,8 +14,8 @@ namespace drillhole {
 namespace {
 
 constexpr int usualWidth = 900;
-constexpr int usualFileHeight = 810;
-constexpr int usualTableHeight = 590;
+constexpr int usualFileHeight = 840;
+constexpr int usualTableHeight = 620;
 
 std::vector<std::string> columnsOf(const Table &table) {
     std::vector<std::string> names;
