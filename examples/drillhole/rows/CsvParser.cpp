@@ -52,12 +52,8 @@ CsvParser::~CsvParser() {
 
 void CsvParser::parse(std::string_view bytes) {
     dropTakenRows();
-    const std::size_t parsed = csv_parse(
-        &m_parser, bytes.data(), bytes.size(),
-        [](void *field, std::size_t length, void *self) {
-            static_cast<CsvParser *>(self)->addField(static_cast<const char *>(field), length);
-        },
-        [](int, void *self) { static_cast<CsvParser *>(self)->endRow(); }, this);
+    const std::size_t parsed =
+        csv_parse(&m_parser, bytes.data(), bytes.size(), onField, onRowEnd, this);
     if (parsed != bytes.size()) {
         throw std::bad_alloc();
     }
@@ -69,13 +65,7 @@ void CsvParser::parse(std::string_view bytes) {
 void CsvParser::finish() {
     dropTakenRows();
     csv_set_opts(&m_parser, CSV_STRICT | CSV_STRICT_FINI | CSV_EMPTY_IS_NULL);
-    const int failure = csv_fini(
-        &m_parser,
-        [](void *field, std::size_t length, void *self) {
-            static_cast<CsvParser *>(self)->addField(static_cast<const char *>(field), length);
-        },
-        [](int, void *self) { static_cast<CsvParser *>(self)->endRow(); }, this);
-    if (failure != 0) {
+    if (csv_fini(&m_parser, onField, onRowEnd, this) != 0) {
         throw openQuote(m_firstLine);
     }
 }
@@ -95,6 +85,14 @@ bool CsvParser::next(Row &row) {
                                  : std::string_view(m_text).substr(field.begin, field.length));
     }
     return true;
+}
+
+void CsvParser::onField(void *bytes, std::size_t length, void *self) {
+    static_cast<CsvParser *>(self)->addField(static_cast<const char *>(bytes), length);
+}
+
+void CsvParser::onRowEnd(int, void *self) {
+    static_cast<CsvParser *>(self)->endRow();
 }
 
 void CsvParser::addField(const char *bytes, std::size_t length) {

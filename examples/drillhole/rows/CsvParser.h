@@ -44,6 +44,8 @@ private:
         std::size_t lastLine;
     };
 
+    static void onField(void *bytes, std::size_t length, void *self);
+    static void onRowEnd(int, void *self);
     void addField(const char *bytes, std::size_t length);
     void endRow();
     void dropTakenRows();
