@@ -1,0 +1,10 @@
+#pragma once
+
+#include <string>
+
+/// The locales that names are looked at in.
+inline constexpr const char *locales[] = {"C", "C.UTF-8", "fr_FR"};
+
+inline bool isLatin1(const std::string &locale) {
+    return locale == "fr_FR";
+}
