@@ -1,7 +1,7 @@
 #include "dragdrop/TextDropTarget.h"
 
+#include "UnicodeText.h" // of the platform
 #include "dragdrop/ListCtrlSource.h"
-#include "dragdrop/UnicodeText.h"
 #include "dragdrop/controls.h"
 #include "names/notUsed.h"
 

@@ -1,6 +1,6 @@
 #include "dragdrop/clipboard.h"
 
-#include "dragdrop/UnicodeText.h"
+#include "UnicodeText.h" // of the platform
 
 #include <wx/clipbrd.h>
 

@@ -2,7 +2,7 @@
 
 #include "DragLabel.h"   // of the platform
 #include "IgnoredDrag.h" // of the platform
-#include "dragdrop/UnicodeText.h"
+#include "UnicodeText.h" // of the platform
 
 #include <wx/dnd.h>
 #include <wx/event.h>

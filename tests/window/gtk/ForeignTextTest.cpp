@@ -7,6 +7,7 @@
 
 #include <glib.h>
 #include <gtest/gtest.h>
+#include <gtk/gtk.h>
 
 namespace {
 
@@ -86,4 +87,33 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndOnTheFileListClearsTheMarkedRows) {
     expected[5] = "HOLE"; // the toolkit hands no empty text over
     expected.push_back("");
     EXPECT_TRUE(run.matches == expected);
+}
+
+TEST(ForeignText, IsPastedUnderEitherNameOfItsEncoding) {
+    const ScratchFile file("HOLE\n");
+    for (const char *name : {"UTF8_STRING", "text/plain;charset=utf-8"}) {
+        DialogRun run;
+        run.fileName = file.path();
+        run.appColumns = {"a"};
+        run.show([name](Person &person) {
+            onUserInterface([name] {
+                const std::string format = name;
+                const GtkTargetEntry offered{const_cast<char *>(format.c_str()), 0, 0};
+                gtk_clipboard_set_with_data(
+                    gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &offered, 1,
+                    [](GtkClipboard *, GtkSelectionData *data, unsigned, void *) {
+                        gtk_selection_data_set(data, gtk_selection_data_get_target(data), 8,
+                                               reinterpret_cast<const guchar *>("\xCE\xA9"), 2);
+                    },
+                    [](GtkClipboard *, void *) {}, nullptr);
+            });
+            person.click(Person::matchRow(0));
+            person.keyDown(WXK_CONTROL);
+            person.strike('v');
+            person.keyUp(WXK_CONTROL);
+            poll("the row reads the text", [] { return matchTexts() == Names{"\xCE\xA9"}; });
+            pressOk(person);
+        });
+        EXPECT_EQ(run.matches, Names{"\xCE\xA9"}) << name;
+    }
 }

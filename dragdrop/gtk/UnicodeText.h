@@ -1,0 +1,34 @@
+#pragma once
+
+#include <wx/dataobj.h>
+
+namespace columnimport {
+
+/// Text as UTF-8 and in no other encoding, under both names that programs have for it: those of
+/// some toolkits offer only the second one under Wayland. The toolkit's own object has the locale's
+/// encoding in its place, which does not hold every text and may be taken first.
+class UnicodeText : public wxTextDataObject {
+public:
+    using wxTextDataObject::wxTextDataObject;
+
+    std::size_t GetFormatCount(Direction) const override { return 2; }
+    void GetAllFormats(wxDataFormat *formats, Direction) const override {
+        formats[0] = GetPreferredFormat();
+        formats[1] = wxDataFormat("text/plain;charset=utf-8");
+    }
+
+    using wxTextDataObject::GetDataHere;
+    using wxTextDataObject::GetDataSize;
+    using wxTextDataObject::SetData;
+    std::size_t GetDataSize(const wxDataFormat &) const override {
+        return wxTextDataObject::GetDataSize(GetPreferredFormat());
+    }
+    bool GetDataHere(const wxDataFormat &, void *data) const override {
+        return wxTextDataObject::GetDataHere(GetPreferredFormat(), data);
+    }
+    bool SetData(const wxDataFormat &, std::size_t size, const void *data) override {
+        return wxTextDataObject::SetData(GetPreferredFormat(), size, data);
+    }
+};
+
+} // namespace columnimport
