@@ -70,13 +70,6 @@ void showMatches(ListCtrlSource &list, const std::vector<std::string> &matchText
     }
 }
 
-/// Has Tab come to two buttons in the order in which they stand, which each platform has its own
-/// of.
-void followReadingOrder(wxWindow &one, wxWindow &other) {
-    wxWindow &first = one.GetPosition().x < other.GetPosition().x ? one : other;
-    (&first == &one ? other : one).MoveAfterInTabOrder(&first);
-}
-
 std::vector<std::string> positionalNames(std::size_t count) {
     return columnimport::positionalMatchTexts(count, count);
 }
@@ -120,7 +113,6 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     SetSizerAndFit(sizer, true);
     // In a smaller frame the controls keep their sizes too, and are cut off by it.
     SetVirtualSize(sizer->GetMinSize());
-    followReadingOrder(*FindWindow(wxID_OK), *FindWindow(wxID_CANCEL));
     wxCommandEvent refresh(wxEVT_NULL, 0);
     onCheckHeader(refresh);
 }
