@@ -1,5 +1,8 @@
 #include "DragLabel.h"
 
+#include <utility>
+
+#include <gdk/gdkwayland.h>
 #include <gtk/gtk.h>
 #include <wx/dnd.h>
 #include <wx/settings.h>
@@ -44,12 +47,18 @@ gboolean letItVanish(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
 
 } // namespace
 
-// Two lines of text are higher than a row.
+// Two lines of text are higher than a row. Not every Wayland compositor heeds a place beside the
+// pointer, but there what is not drawn of a label can be seen through.
 DragLabel::DragLabel(wxDropSource &drag, const wxWindow &source, const wxString &text)
     : m_drag(drag), m_label(makeLabel(text)), m_right(source.GetCharWidth()),
       m_below(2 * source.GetCharHeight()),
       m_showing(g_idle_add_full(G_PRIORITY_HIGH, show, this, nullptr)),
-      m_failing(g_signal_connect(drag.m_widget, "drag-failed", G_CALLBACK(letItVanish), nullptr)) {}
+      m_failing(g_signal_connect(drag.m_widget, "drag-failed", G_CALLBACK(letItVanish), nullptr)) {
+    if (GDK_IS_WAYLAND_DISPLAY(gtk_widget_get_display(drag.m_widget))) {
+        gtk_widget_set_margin_start(m_label, std::exchange(m_right, 0));
+        gtk_widget_set_margin_top(m_label, std::exchange(m_below, 0));
+    }
+}
 
 DragLabel::~DragLabel() {
     if (m_showing != 0) {
