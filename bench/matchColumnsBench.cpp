@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What a proposal costs, copies of the two lists and normalisation included.
 
 #include <benchmark/benchmark.h>

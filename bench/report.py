@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 """Makes of a benchmark run's results.json a table, results.md, and a plot, results.svg, beside it."""
 
 import json

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What one pair costs when it is scored alone, copies of the names included.
 
 #include <benchmark/benchmark.h>

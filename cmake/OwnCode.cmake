@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # What every target of our own code is compiled with.
 
 set(CMAKE_CXX_STANDARD 17)

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # The library that a host loads: the dialogs, their drag and drop and the door to them, with the
 # matcher and the text tools linked in.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The two members of the dialog that read its file.
 
 #include "dialogs/wxImportCSVDialog.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "delimited/readPreview.h"
 
 #include "delimited/SourceFile.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The half of the dialog that only a delimited file needs: the preview of the file, and the options
 // that say how it is cut.
 

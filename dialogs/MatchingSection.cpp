@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The half of a dialog that both kinds of source share: the list of file columns, the match list
 // and what refreshes them.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dialogs/arrowBitmap.h"
 
 #include "dialogs/arrow.xpm"

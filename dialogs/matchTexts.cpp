@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dialogs/matchTexts.h"
 
 #include "matching/matchColumns.h"

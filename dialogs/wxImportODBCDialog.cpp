@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dialogs/wxImportODBCDialog.h"
 
 #include <utility>

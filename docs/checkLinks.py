@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 """Fails if a link in a document leads nowhere, or if a page of docs/ is not linked in docs/README.md."""
 
 import pathlib

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # Fails unless each block of C++ in a document stands, word for word, in a source that is compiled.
 #   cmake -D document=FILE -D sources=FILE[;FILE...] -P codeIsCompiled.cmake
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dragdrop/ListBoxSource.h"
 
 #include "dragdrop/ListCtrlSource.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dragdrop/ListCtrlSource.h"
 
 #include "dragdrop/clipboard.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dragdrop/clipboard.h"
 
 #include "UnicodeText.h" // of the platform

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dragdrop/dragText.h"
 
 #include "DragLabel.h"   // of the platform

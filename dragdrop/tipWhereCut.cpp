@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dragdrop/tipWhereCut.h"
 
 #include <wx/window.h>

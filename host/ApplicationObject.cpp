@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/ApplicationObject.h"
 
 #include <wx/app.h>

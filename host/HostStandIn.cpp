@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/HostStandIn.h"
 
 #include "host/nativeWindow.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/OpenRun.h"
 
 #include "host/toolkit.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/runDialog.h"
 
 #include "dialogs/Scale.h"

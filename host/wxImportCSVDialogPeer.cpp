@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/wxImportCSVDialogPeer.h"
 
 #include "dialogs/wxImportODBCDialog.h"

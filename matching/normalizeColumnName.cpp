@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "matching/normalizeColumnName.h"
 
 #include <cassert>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "names/NameBook.h"
 
 #include "names/nameText.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "person/UserInterface.h"
 
 #include <chrono>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "person/openDialog.h"
 
 #include "person/UserInterface.h"

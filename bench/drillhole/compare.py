@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 """Times an import of assays by a program and by the shell of SQLite, alternately, and prints the
 medians as a table. Both put the same columns of the same file into a table of the same kind."""
 

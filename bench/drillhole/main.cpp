@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Imports a file of assays as the program does, on the thread of the database beside a main loop.
 //   drillhole_bench ASSAYS.csv HOLES.sqlite
 // Prints the rows taken, the peak of the memory in kB, and the longest time in milliseconds that

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "bench/window/Import.h"
 
 #include "bench/columnNames.h"

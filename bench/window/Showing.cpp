@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "bench/window/Showing.h"
 
 #include "bench/window/FrameWatch.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Measures the window and prints a table in Markdown. Arguments such as 100x2000 (application
 // columns by file columns) or 100xline (a file of 64 MB that is one line) replace its rows.
 

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # Two Debian packages: the library for the machine that a host runs on, and what one is built with.
 # `cpack` in a build of the preset "package" makes them.
 

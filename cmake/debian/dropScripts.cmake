@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # cpack gives a package with a library two scripts that call ldconfig. The package's trigger does
 # that, and Debian wants no scripts for it: so each package is packed again without them.
 foreach(package IN LISTS CPACK_PACKAGE_FILES)

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # What a host gets: the library, its public headers, and what CMake and pkg-config find them by.
 # The components are those of the packages: "library" is needed where a host runs, "development"
 # where one is built.

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # Removes what `cmake --install` put in place, by the list that it left in the build folder, and the
 # folders of ours that are empty then.
 #   cd BUILD && cmake -P uninstall.cmake

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # `cpack` makes a ZIP of what is installed: the DLL, its import library, the headers, the files for
 # CMake, and the documents.
 set(CPACK_GENERATOR ZIP)

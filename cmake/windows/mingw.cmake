@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # Compiles for 64-bit Windows with Debian's cross-compiler, and runs what is built under Wine. The
 # folder that cmake/windows/toolkit prints is expected in COLUMNIMPORT_TOOLKIT.
 set(CMAKE_SYSTEM_NAME Windows)

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dialogs/Scale.h"
 
 #include <wx/window.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "dialogs/SmallControls.h"
 
 #include <wx/msw/private.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "SavedMatches.h"
 
 bool SavedMatches::import(columnimport::HostWindow window, const std::string &fileName) {

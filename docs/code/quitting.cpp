@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include <wxImportCSVDialogPeer.h>
 
 #include <gtk/gtk.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include <wxImportCSVDialogPeer.h>
 
 // The names come from the host's own connection; the library opens no database.

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include <wxImportODBCDialog.h>
 
 #include <wx/app.h>

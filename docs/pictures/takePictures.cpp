@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Takes the pictures of the documents from the real dialog, with a real pointer.
 //   take_pictures SAMPLES PICTURES
 // Needs a screen, and `import` to read it.

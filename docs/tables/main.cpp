@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Writes the tables into the documents, each between its two marks:
 //     <!-- table: scores -->
 //     <!-- end of table -->

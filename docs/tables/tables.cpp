@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "docs/tables/tables.h"
 
 #include "matching/areSynonyms.h"

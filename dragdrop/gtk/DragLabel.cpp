@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "DragLabel.h"
 
 #include <utility>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 using GtkWidget = struct _GtkWidget; // NOLINT(bugprone-reserved-identifier): GTK's name for it

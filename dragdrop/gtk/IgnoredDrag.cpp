@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "IgnoredDrag.h"
 
 #include <string_view>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "RowMarks.h"
 
 #include <wx/listctrl.h>

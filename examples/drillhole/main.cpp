@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Drill holes in a database: imports files and tables into it, and shows them.
 
 #include "examples/drillhole/rows/Fault.h"

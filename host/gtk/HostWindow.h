@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #pragma once
 
 struct _GtkWidget; // NOLINT(bugprone-reserved-identifier): the name that GTK gives it

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "QuietStart.h"
 
 #include <string>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/gtk/frameShadow.h"
 
 #include <algorithm>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/nativeWindow.h"
 
 #include <gtk/gtk.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "host/toolkit.h"
 
 #include "QuietStart.h"

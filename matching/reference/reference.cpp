@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "matching/reference/reference.h"
 
 #include <algorithm>

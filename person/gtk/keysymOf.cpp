@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "person/gtk/keysymOf.h"
 
 #include <gdk/gdkkeysyms.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "person/msw/WineHand.h"
 
 #include "person/UserInterface.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "person/wayland/MutterHand.h"
 
 #include "person/Screen.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "person/x11/XTestHand.h"
 
 #include "person/UserInterface.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "delimited/splitLine.h"
 
 #include <gtest/gtest.h>

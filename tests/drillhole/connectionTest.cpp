@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/database/connection.h"
 #include "examples/drillhole/database/faultText.h"
 #include "examples/drillhole/rows/Fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the dialog shows of a first line, and where the rows have it.
 
 #include "examples/drillhole/rows/CsvParser.h"

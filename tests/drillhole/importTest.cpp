@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Imports into a real database, looked into with SQLite's own shell.
 
 #include "examples/drillhole/database/connection.h"

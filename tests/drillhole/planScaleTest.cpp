@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/window/planScale.h"
 
 #include <gtest/gtest.h>

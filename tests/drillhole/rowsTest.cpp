@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Text cut into rows, and rows checked.
 
 #include "examples/drillhole/rows/CsvParser.h"

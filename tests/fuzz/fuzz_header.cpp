@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A line is cut by the laws of its delimiter, and a header is its file's first line cut so. The
 // first byte tells how long the delimiter is, which follows; the rest is the file.
 

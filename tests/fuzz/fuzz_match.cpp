@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The matcher agrees with the reference. The first empty line parts the application columns from
 // the file columns.
 

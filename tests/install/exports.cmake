@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # The library exports the listed symbols, each of them and nothing else.
 #   cmake -D library=FILE -D list=FILE -D found=FILE -P exports.cmake
 # Leaves what it found in `found`, in the form of the list. Of a DLL the library is the one that

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # Compiles each installed header alone.
 #   cmake -D compiler=FILE -D headers=FOLDER -D toolkit=FOLDERS -D definitions=NAMES -P headers.cmake
 list(TRANSFORM toolkit PREPEND "-isystem")

@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # Installs a build into an empty prefix, removes it by the uninstall target, and installs it again
 # for the tests that use it.
 #   cmake -D build=FOLDER -D prefix=FOLDER -P install.cmake

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The matcher against the reference on all synonyms, and on names from a fixed seed.
 
 #include "tests/matching/agreement.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // One proposal for a fixed case, for the count of its instructions.
 
 #include "bench/columnNames.h"

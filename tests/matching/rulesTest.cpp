@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The rules by examples that decide a doubtful case.
 
 #include <gtest/gtest.h>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A plain host of this platform, which knows the library's public header and nothing of its
 // toolkit: what it gets back, and how its own window and loop are afterwards.
 

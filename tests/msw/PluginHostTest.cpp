@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host that is linked to neither the library nor its toolkit: a plug-in brings both in, and may
 // be taken out and brought in again.
 

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host's plug-in: the only part of it that knows the library.
 
 #include <wxImportCSVDialogPeer.h>

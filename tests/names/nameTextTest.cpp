@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "names/nameText.h"
 
 #include <clocale>

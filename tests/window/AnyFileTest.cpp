@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Files that no one would want to import: the dialog stands, says what it can, and can be left.
 
 #include "person/DialogRun.h"

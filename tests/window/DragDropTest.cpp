@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the hand does in the two lists: marks, the row under the pointer, drags and drops.
 
 #include "person/DialogRun.h"

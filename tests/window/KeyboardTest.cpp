@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A dialog without a mouse: the current row, marks, the clipboard, and the way through the
 // controls.
 

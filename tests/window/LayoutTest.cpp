@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Where everything stands in the dialog, what it reads, and that a small frame does not squeeze it.
 
 #include "person/DialogRun.h"

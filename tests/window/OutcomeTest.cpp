@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // What the host gets back from a run, however it ends, and where the dialog stands meanwhile.
 
 #include "person/DialogRun.h"

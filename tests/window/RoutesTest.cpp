@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Which rows each way of filling the lists shows, and what sends the dialog from one to another.
 
 #include "person/DialogRun.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/database/faultText.h"
 
 #include <sstream>

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/database/importRows.h"
 
 #include "examples/drillhole/database/TableRows.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/database/odbcTableNames.h"
 
 #include "examples/drillhole/rows/Fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/database/sourceTables.h"
 
 #include "examples/drillhole/database/odbcTableNames.h"

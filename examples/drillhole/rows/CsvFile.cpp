@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/rows/CsvFile.h"
 
 #include "examples/drillhole/rows/Fault.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/rows/CsvParser.h"
 
 #include "examples/drillhole/rows/Fault.h"

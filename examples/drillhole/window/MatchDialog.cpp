@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/window/MatchDialog.h"
 
 #include "examples/drillhole/rows/firstLine.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/window/ReportPane.h"
 
 #include <giomm/appinfo.h>

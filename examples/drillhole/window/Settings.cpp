@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "examples/drillhole/window/Settings.h"
 
 #include "examples/drillhole/database/connection.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 #include "delimited/readHeader.h"
 #include "delimited/readPreview.h"
 #include "tests/ScratchFile.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Text that comes from another program.
 
 #include "person/DialogRun.h"

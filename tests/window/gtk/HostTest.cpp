@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // The dialog over the windows and inside the event loops of different hosts.
 
 #include "person/DialogRun.h"

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host that is in use all day: a thousand imports in one process leave nothing behind.
 // The variable COLUMNIMPORT_RUNS gives them another number.
 

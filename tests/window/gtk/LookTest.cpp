@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // How the dialog looks, with whatever theme and size of fonts the test runs: the places and sizes
 // of its controls, and whether what carries a meaning can be told apart.
 

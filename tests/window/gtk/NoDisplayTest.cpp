@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host on a machine without a display: run without one.
 
 #include <gtest/gtest.h>

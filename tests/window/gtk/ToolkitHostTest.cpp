@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host that itself runs on the toolkit: with an application object and windows of its own, some
 // of them with the identifiers of the dialog's controls, and with dialogs that it runs itself.
 

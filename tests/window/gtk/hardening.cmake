@@ -1,3 +1,5 @@
+# SPDX-License-Identifier: MIT
+
 # The library is linked as a distribution would: no table of calls stays writable, the stack is
 # guarded. And it stays in the process once it is there.
 #   cmake -D library=FILE -P hardening.cmake

@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // A host's plug-in: the only part of it that knows the library, and whoever answers the dialog.
 
 #include "person/DialogRun.h"

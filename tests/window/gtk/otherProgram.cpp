@@ -1,3 +1,5 @@
+// SPDX-License-Identifier: MIT
+
 // Another program on the screen, from which text is dragged: its window offers one of its arguments
 // after the other. It says when it is ready and when a drag is over, and ends after the last one.
 
