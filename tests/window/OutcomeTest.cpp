@@ -107,3 +107,17 @@ TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpen) {
     }));
     EXPECT_EQ(second.matches, Names{"kept"});
 }
+
+TEST_F(Outcome, OfAnExceptionIsTheHostsToCatch) {
+    struct Mishap {};
+    EXPECT_THROW(run.show([](Person &person) {
+        onUserInterface([] {
+            openDialog().Bind(
+                wxEVT_BUTTON, [](wxCommandEvent &) { throw Mishap(); },
+                wxImportCSVDialog::BTN_REMATCH);
+        });
+        person.click(wxImportCSVDialog::BTN_REMATCH);
+    }),
+                 Mishap);
+    EXPECT_TRUE(run.show(pressOk));
+}
