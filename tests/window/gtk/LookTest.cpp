@@ -71,7 +71,39 @@ double contrast(const wxColour &one, const wxColour &other) {
     return std::max(a, b) / std::min(a, b);
 }
 
+/// The text beside the pointer: that of the one window that is neither the dialog nor a tooltip.
+std::string labelOfDrag() {
+    std::string text;
+    GList *windows = gtk_window_list_toplevels();
+    for (const GList *entry = windows; entry != nullptr; entry = entry->next) {
+        GtkWidget *content = gtk_bin_get_child(GTK_BIN(entry->data));
+        if (content != nullptr && GTK_IS_LABEL(content) && gtk_widget_get_mapped(content) != 0) {
+            text += gtk_label_get_text(GTK_LABEL(content));
+        }
+    }
+    g_list_free(windows);
+    return text;
+}
+
 } // namespace
+
+TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
+    run.show([](Person &person) {
+        person.dragTo(Person::fileRow(1), Person::matchRow(2));
+        waitUntil("the name is shown", [] { return labelOfDrag() == "FROM"; });
+        person.drop();
+        waitUntil("it is gone", [] { return labelOfDrag().empty(); });
+        person.click(Person::matchRow(0));
+        person.keyDown(WXK_SHIFT);
+        person.click(Person::matchRow(1));
+        poll("two rows are marked", [] { return markedRows().size() == 2; });
+        person.keyUp(WXK_SHIFT);
+        person.dragTo(Person::matchRow(0), Person::belowFileRows());
+        waitUntil("so is their number", [] { return labelOfDrag() == "HOLE (2 rows)"; });
+        person.drop();
+        person.strike(WXK_ESCAPE);
+    });
+}
 
 TEST_F(Look, ControlsHaveTheirSizesAtAnySizeOfFonts) {
     run.show([](Person &person) {
