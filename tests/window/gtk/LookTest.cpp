@@ -98,7 +98,7 @@ TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
         person.click(Person::matchRow(1));
         poll("two rows are marked", [] { return markedRows().size() == 2; });
         person.keyUp(WXK_SHIFT);
-        person.dragTo(Person::matchRow(0), Person::belowFileRows());
+        person.dragTo(Person::matchRow(0), Person::fileRow(2));
         waitUntil("so is their number", [] { return labelOfDrag() == "HOLE (2 rows)"; });
         person.drop();
         person.strike(WXK_ESCAPE);
