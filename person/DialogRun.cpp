@@ -3,13 +3,15 @@
 #include "person/DialogRun.h"
 
 #include <chrono>
+#include <exception>
 #include <future>
 
 bool accompany(const Act &act, const std::function<bool()> &show) {
     std::future<void> actor;
+    std::exception_ptr thrown;
     bool result = false;
     {
-        // Its end tells that the run is over, also if `show` throws.
+        // Its end tells that the run is over.
         std::promise<void> run;
         actor = std::async(std::launch::async, [&act, over = run.get_future()] {
             try {
@@ -28,12 +30,20 @@ bool accompany(const Act &act, const std::function<bool()> &show) {
                 throw;
             }
         });
-        result = show();
+        try {
+            result = show();
+        } catch (...) {
+            thrown = std::current_exception();
+        }
     }
+    // The person may still look at what there is.
     while (actor.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
         handleEvents();
     }
     actor.get();
+    if (thrown) {
+        std::rethrow_exception(thrown);
+    }
     return result;
 }
 
