@@ -206,7 +206,7 @@ TEST_F(DragDrop, EveryDragFollowsTheRules) {
 }
 
 TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
-    run.show([this](Person &person) {
+    run.show([](Person &person) {
         clickWith(person, WXK_SHIFT, 4, {4});
         clickWith(person, WXK_NONE, 5, {5});
         clickWith(person, WXK_SHIFT, 2, {2, 3, 4, 5});
