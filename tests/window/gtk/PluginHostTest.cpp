@@ -28,9 +28,10 @@ int onXError(Display *, XErrorEvent *) {
 void onLog(const char *, GLogLevelFlags, const char *, void *) {}
 
 void clearAllButDisplay() {
-    const std::string display = getenv("DISPLAY");
+    const char *display = getenv("DISPLAY");
+    const std::string kept = display != nullptr ? display : "";
     clearenv();
-    setenv("DISPLAY", display.c_str(), 1);
+    setenv("DISPLAY", kept.c_str(), 1);
 }
 
 struct Host {
