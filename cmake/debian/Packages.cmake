@@ -49,9 +49,9 @@ the dialogs itself needs libwxgtk3.2-dev too.")
 
 # What Debian wants of every package.
 configure_file(${CMAKE_CURRENT_LIST_DIR}/changelog.in changelog @ONLY)
-file(ARCHIVE_CREATE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
-    PATHS ${CMAKE_CURRENT_BINARY_DIR}/changelog
-    FORMAT raw COMPRESSION GZip COMPRESSION_LEVEL 9)
+# Without the time: the same sources give the same packages.
+execute_process(COMMAND gzip --best --no-name --force --keep ${CMAKE_CURRENT_BINARY_DIR}/changelog
+                COMMAND_ERROR_IS_FATAL ANY)
 foreach(component library development)
     set(folder ${CMAKE_INSTALL_DATADIR}/doc/${${component}_package})
     install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright ${CMAKE_CURRENT_BINARY_DIR}/changelog.gz
