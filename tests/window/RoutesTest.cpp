@@ -194,6 +194,8 @@ TEST(Routes, OneCharacterFitsIntoTheDelimiterFieldAndItsFirstByteCounts) {
         EXPECT_TRUE(read(holdsOne));
         pressOk(person);
     }));
-    EXPECT_EQ(run.delimiter, wxString::FromUTF8("\xC3\xA9").mb_str(wxConvLibc).data()[0]);
+    // Where the locale has nothing for it, the character is UTF-8.
+    const std::string inLocale = wxString::FromUTF8("\xC3\xA9").ToStdString(wxConvLibc);
+    EXPECT_EQ(run.delimiter, inLocale.empty() ? '\xC3' : inLocale.front());
     EXPECT_EQ(run.matches, Names());
 }
