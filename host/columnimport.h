@@ -1,0 +1,352 @@
+// SPDX-License-Identifier: MIT
+
+#ifndef columnimport_h
+#define columnimport_h
+
+#include <stdint.h>
+
+#if defined(_WIN32) && defined(columnimport_EXPORTS)
+#define columnimport_exported __declspec(dllexport)
+#elif defined(_WIN32) && !defined(COLUMNIMPORT_STATIC_DEFINE)
+#define columnimport_exported __declspec(dllimport)
+#elif defined(__GNUC__) && !defined(_WIN32)
+#define columnimport_exported __attribute__((visibility("default")))
+#else
+#define columnimport_exported
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/**
+ * @file
+ * The door to the library for a host in any language and by any compiler: plain C99.
+ *
+ * An import is an object that the host makes, fills, runs and reads:
+ *
+ *     columnimport_import *import = columnimport_new();
+ *     columnimport_set_title(import, "Import collars");
+ *     columnimport_add_column(import, "holename");
+ *     columnimport_add_column(import, "elevation");
+ *     columnimport_add_alternative(import, 1, "RL");
+ *     columnimport_set_file(import, "collars.csv");
+ *     if (columnimport_show(import, window) == columnimport_ok) {
+ *         int32_t position = columnimport_match_position(import, 1);
+ *     }
+ *     columnimport_free(import);
+ *
+ * Running it is either columnimport_propose, which needs no window, no display and no toolkit, or
+ * columnimport_show, which lets a person correct the proposal in a dialog. An import may be filled
+ * further and run again; what it was filled with stays.
+ *
+ * What comes from a source, its column names and the matches, is bytes of any encoding with their
+ * length; there may be zero bytes among them, and a zero byte that does not count follows them. The
+ * host's own words, the title and the path are UTF-8 that ends with a zero byte. Columns are
+ * counted from 0.
+ *
+ * Every text that is passed in is copied within the call and stays the caller's. Every text that is
+ * given out stays the library's; how long it lives stands at each function. All numbers are signed,
+ * and none may be negative where it is passed in.
+ *
+ * A null pointer, a number out of range, a text that is no UTF-8, or a call out of order is wrong
+ * use: the function changes nothing and gives columnimport_wrong_use, columnimport_invalid or null,
+ * and columnimport_message tells in one sentence what is wrong. No exception leaves a function.
+ *
+ * Threads: one import is for one thread at a time; different imports may be used at the same time.
+ * columnimport_show is for the thread of the user interface alone, everything else for any.
+ */
+
+/** One import: the columns on both sides, and what came of the last run. */
+typedef struct columnimport_import columnimport_import;
+
+/** What came of a call. Further values may be added. */
+enum {
+    /** All is well; of columnimport_show: the person pressed OK. */
+    columnimport_ok = 0,
+    /** The person ended the dialog otherwise. The result can be read all the same. */
+    columnimport_cancelled = 1,
+    /** There is no display to show a dialog on. */
+    columnimport_no_display = 2,
+    /** Another dialog of the library is open in this process. */
+    columnimport_already_open = 3,
+    /** The call was wrong; columnimport_message says what about it. */
+    columnimport_wrong_use = 4,
+    /** There was no memory, or something unforeseen happened; columnimport_message says what. */
+    columnimport_failed = 5
+};
+
+/** What stands in the place of a position or another number that is not there. */
+enum {
+    /** There is no position: no source column is matched, or none of the source's columns is. */
+    columnimport_none = -1,
+    /** The call was wrong; columnimport_message says what about it. */
+    columnimport_invalid = -2
+};
+
+/* ---- The library ---- */
+
+/** The library's version, such as "0.3.0". It lives as long as the library. */
+columnimport_exported const char *columnimport_version(void);
+
+/**
+ * The library's version in numbers. A pointer may be null; that number is not written.
+ *
+ * @param[out] major  0 in "0.3.1"
+ * @param[out] minor  3 in "0.3.1"
+ * @param[out] patch  1 in "0.3.1"
+ */
+columnimport_exported void columnimport_version_numbers(int32_t *major, int32_t *minor,
+                                                        int32_t *patch);
+
+/* ---- An import's life ---- */
+
+/**
+ * Makes an import without columns and without a source. The caller frees it.
+ *
+ * @return the import; null if there is no memory
+ */
+columnimport_exported columnimport_import *columnimport_new(void);
+
+/**
+ * Frees an import and every text that it gave out. Of one whose dialog is open nothing is freed
+ * before the dialog has ended.
+ *
+ * @param import  the import, which is not to be used again; null does nothing
+ */
+columnimport_exported void columnimport_free(columnimport_import *import);
+
+/**
+ * What was wrong with the last call on this import.
+ *
+ * @return a sentence in English, UTF-8; empty if nothing was wrong. It lives until the next call on
+ *         the import. Of a null import it says that, and lives for ever.
+ */
+columnimport_exported const char *columnimport_message(columnimport_import *import);
+
+/* ---- Filling it: the application columns ----
+ *
+ * Each of these gives columnimport_ok, columnimport_wrong_use or columnimport_failed. While the
+ * dialog of the import is open all of them are wrong use. */
+
+/**
+ * The text of the dialog's title bar. Without one the bar is empty.
+ *
+ * @param import  the import
+ * @param title   UTF-8
+ */
+columnimport_exported int32_t columnimport_set_title(columnimport_import *import,
+                                                     const char *title);
+
+/**
+ * The size of the dialog's frame in pixels, as it is on a screen of the usual scale. Without one it
+ * is 900 by 840 for a file and 900 by 620 for a table, which shows all of either.
+ *
+ * @param import         the import
+ * @param width, height  1 or more
+ */
+columnimport_exported int32_t columnimport_set_size(columnimport_import *import, int32_t width,
+                                                    int32_t height);
+
+/**
+ * Adds an application column behind those that were added before. It gets the next number: the
+ * first one 0, the second one 1.
+ *
+ * @param import  the import
+ * @param name    the host's name for it, UTF-8; it may be empty, and names may be equal
+ */
+columnimport_exported int32_t columnimport_add_column(columnimport_import *import,
+                                                      const char *name);
+
+/**
+ * Adds another word of the host's for one of its columns. A source column that is called so, but
+ * for capitals and punctuation, counts like one with a synonym that the library itself knows. One
+ * that is called like an application column's own name goes there first.
+ *
+ *     columnimport_add_alternative(import, elevation, "RL");
+ *
+ * @param import  the import
+ * @param column  the number of the application column
+ * @param name    the word, UTF-8
+ */
+columnimport_exported int32_t columnimport_add_alternative(columnimport_import *import,
+                                                           int32_t column, const char *name);
+
+/**
+ * Says whether the host needs a match for one of its columns. If a required one has none as the
+ * person presses OK, or if then one source column stands at two application columns, the dialog
+ * says so in one sentence, once; OK again ends it all the same. Where nothing is required, nothing
+ * is said.
+ *
+ * @param import    the import
+ * @param column    the number of the application column
+ * @param required  0 for no, which it is without this call, or 1
+ */
+columnimport_exported int32_t columnimport_set_required(columnimport_import *import, int32_t column,
+                                                        int32_t required);
+
+/**
+ * The match of an earlier import, such as columnimport_match_name gave it. If at least one column
+ * has one that is not empty and the source has titles, then no proposal is made: each column is
+ * matched with the first source column of the very name that was saved for it, and with none where
+ * there is no such column or nothing was saved. "Reset to Default" in the dialog proposes afresh.
+ *
+ * @param import  the import
+ * @param column  the number of the application column
+ * @param name    the name in bytes; null, with a length of 0, takes the saved match back
+ * @param length  their number
+ */
+columnimport_exported int32_t columnimport_set_saved_match(columnimport_import *import,
+                                                           int32_t column, const char *name,
+                                                           int64_t length);
+
+/* ---- Filling it: the source ---- */
+
+/**
+ * Makes a delimited file the source. It is opened and closed again within each run, and only its
+ * first lines are read.
+ *
+ * @param import  the import
+ * @param path    the path, UTF-8
+ */
+columnimport_exported int32_t columnimport_set_file(columnimport_import *import, const char *path);
+
+/**
+ * The byte that parts the fields of the file, taken literally; ',' without this call. A person may
+ * change it in the dialog, which does not change what a further run begins with.
+ */
+columnimport_exported int32_t columnimport_set_delimiter(columnimport_import *import,
+                                                         char delimiter);
+
+/**
+ * Says whether the first line of the file holds titles. Where it does not, the columns are known by
+ * number only and are called Column1, Column2 and so on, and application and source columns are
+ * paired in their order. A table always has names, whatever is said here.
+ *
+ * @param import  the import
+ * @param holds   0 for no, or 1, which it is without this call
+ */
+columnimport_exported int32_t columnimport_set_first_line_holds_titles(columnimport_import *import,
+                                                                       int32_t holds);
+
+/**
+ * Makes a table the source, of which only the names of its columns are told.
+ *
+ * @param import   the import
+ * @param names    the columns' names in bytes, in the table's order; may be null if there are none
+ * @param lengths  the length of each name; null if each ends with a zero byte
+ * @param count    how many there are
+ */
+columnimport_exported int32_t columnimport_set_table(columnimport_import *import,
+                                                     const char *const *names,
+                                                     const int64_t *lengths, int32_t count);
+
+/* ---- Running it ----
+ *
+ * A run drops the result of the one before it and the texts that were given out of it. */
+
+/**
+ * Matches without a dialog: the result is what columnimport_show would open with. May be called on
+ * any thread and without a display.
+ *
+ * @return columnimport_ok, also for a file that can't be read, of which columnimport_file_problem
+ *         tells; columnimport_wrong_use, as where no source was set; or columnimport_failed
+ */
+columnimport_exported int32_t columnimport_propose(columnimport_import *import);
+
+/**
+ * Shows the dialog and returns when the person has ended it. The window can't be used meanwhile.
+ *
+ * To be called on the thread of the user interface. The first call in a process starts what the
+ * dialog needs; a host on GTK keeps its own main loop and its own locale.
+ *
+ * @param import  the import
+ * @param window  the window that the dialog belongs to, or null. On Linux a GtkWidget of GTK 3 that
+ *                is a window or stands in one, on Windows an HWND
+ * @return any of the outcomes. The result can be read after columnimport_ok and
+ *         columnimport_cancelled, and not after the others
+ */
+columnimport_exported int32_t columnimport_show(columnimport_import *import, void *window);
+
+/* ---- Reading it ----
+ *
+ * All of these speak of the last run. If it came to no result, or there was none, all but
+ * columnimport_outcome and columnimport_column_count are wrong use. While the dialog of the import
+ * is open there is no result yet. */
+
+/** What the last run returned; columnimport_invalid if there was none. */
+columnimport_exported int32_t columnimport_outcome(columnimport_import *import);
+
+/** The number of application columns that were added; columnimport_invalid for a null import. */
+columnimport_exported int32_t columnimport_column_count(columnimport_import *import);
+
+/**
+ * Why the file could not be read.
+ *
+ * @return the system's reason in UTF-8, such as "No such file or directory"; null if it was read,
+ *         or the source is a table. It lives until the import is run again or freed.
+ */
+columnimport_exported const char *columnimport_file_problem(columnimport_import *import);
+
+/**
+ * The position of the source column that is matched to an application column. It tells columns
+ * apart also where their names are equal or empty, or where they have none.
+ *
+ * @param import  the import
+ * @param column  the number of the application column
+ * @return a number from 0 to one less than columnimport_source_column_count; columnimport_none if
+ *         no column of the source is matched; columnimport_invalid after wrong use
+ */
+columnimport_exported int32_t columnimport_match_position(columnimport_import *import,
+                                                          int32_t column);
+
+/**
+ * The name that is matched to an application column: that of the source column, or Column1, Column2
+ * and so on where the first line holds no titles. A text that a person dragged in from another
+ * program is a name without a position, unless a source column is called so.
+ *
+ * @param      import  the import
+ * @param      column  the number of the application column
+ * @param[out] length  the number of bytes, 0 if there is no match; may be null
+ * @return the bytes; null if there is no match, and after wrong use. They live until the import is
+ *         run again or freed.
+ */
+columnimport_exported const char *columnimport_match_name(columnimport_import *import,
+                                                          int32_t column, int64_t *length);
+
+/**
+ * The delimiter as it was left.
+ *
+ * @return the byte as a number from 0 to 255; columnimport_invalid after wrong use
+ */
+columnimport_exported int32_t columnimport_delimiter(columnimport_import *import);
+
+/**
+ * Whether the first line holds titles, as it was left.
+ *
+ * @return 0 or 1, of a table always 1; columnimport_invalid after wrong use
+ */
+columnimport_exported int32_t columnimport_first_line_holds_titles(columnimport_import *import);
+
+/** The number of the source's columns; columnimport_invalid after wrong use. */
+columnimport_exported int32_t columnimport_source_column_count(columnimport_import *import);
+
+/**
+ * The name of one of the source's columns: a table's, or the field of the file's first line, with
+ * or without titles in it, as it is cut at the delimiter as this was left, without blanks around it
+ * and without double quotes. A byte-order mark in front of the first one is no part of it.
+ *
+ * @param      import  the import
+ * @param      column  the position of the source column
+ * @param[out] length  the number of bytes; may be null
+ * @return the bytes, also of an empty name; null after wrong use. They live until the import is run
+ *         again or freed.
+ */
+columnimport_exported const char *columnimport_source_column(columnimport_import *import,
+                                                             int32_t column, int64_t *length);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
