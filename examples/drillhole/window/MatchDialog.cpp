@@ -4,7 +4,6 @@
 
 #include "examples/drillhole/rows/firstLine.h"
 #include "examples/drillhole/rows/startDelimiter.h"
-#include "examples/drillhole/window/DialogSize.h"
 
 #include <algorithm>
 
@@ -15,9 +14,9 @@ namespace drillhole {
 
 namespace {
 
-constexpr int usualWidth = 900;
-constexpr int usualFileHeight = 840;
-constexpr int usualTableHeight = 620;
+constexpr int dialogWidth = 900;
+constexpr int fileHeight = 840;
+constexpr int tableHeight = 620;
 
 std::vector<std::string> columnsOf(const Table &table) {
     std::vector<std::string> names;
@@ -62,18 +61,15 @@ std::optional<FileMatch> MatchDialog::matchFile(Gtk::Window &owner, const Table 
         matchesThatFit(kept.matches, table, namesShown(firstLineOf(path), match.delimiter));
 
     bool useSavedMatches = true;
-    DialogSize size(owner, kept.width > 0 ? kept.width : usualWidth,
-                    kept.height > 0 ? kept.height : usualFileHeight);
     if (!m_peer.showWindow(GTK_WIDGET(owner.gobj()),
                            titleFor(table, Glib::filename_display_basename(path)), columnsOf(table),
                            path, &useSavedMatches, &match.matches, &match.delimiter,
-                           &match.firstLineHoldsTitles, size.width(), size.height())) {
+                           &match.firstLineHoldsTitles, dialogWidth, fileHeight)) {
         return std::nullopt;
     }
     // Without titles the matches are numbers, which say nothing about the next file.
     m_settings.keepMatch(name, {match.firstLineHoldsTitles ? match.matches : kept.matches,
-                                match.delimiter, match.firstLineHoldsTitles, size.width(),
-                                size.height()});
+                                match.delimiter, match.firstLineHoldsTitles});
     return match;
 }
 
@@ -84,14 +80,12 @@ MatchDialog::matchTable(Gtk::Window &owner, const Table &table, const std::strin
     const KeptMatch kept = m_settings.match(name);
     std::vector<std::string> matches = matchesThatFit(kept.matches, table, sourceColumns);
     bool useSavedMatches = true;
-    DialogSize size(owner, kept.width > 0 ? kept.width : usualWidth,
-                    kept.height > 0 ? kept.height : usualTableHeight);
     if (!m_peer.showWindow(GTK_WIDGET(owner.gobj()), titleFor(table, "table " + sourceTable),
                            columnsOf(table), sourceColumns, sourceTable, &useSavedMatches, &matches,
-                           size.width(), size.height())) {
+                           dialogWidth, tableHeight)) {
         return std::nullopt;
     }
-    m_settings.keepMatch(name, {matches, std::nullopt, true, size.width(), size.height()});
+    m_settings.keepMatch(name, {matches, std::nullopt, true});
     return matches;
 }
 

@@ -50,8 +50,6 @@ KeptMatch Settings::match(const std::string &name) const {
         match.delimiter = static_cast<char>(delimiter);
     }
     match.firstLineHoldsTitles = valueOr([&] { return m_file.get_boolean(name, "titles"); }, true);
-    match.width = valueOr([&] { return m_file.get_integer(name, "width"); }, 0);
-    match.height = valueOr([&] { return m_file.get_integer(name, "height"); }, 0);
     return match;
 }
 
@@ -66,8 +64,6 @@ void Settings::keepMatch(const std::string &name, const KeptMatch &match) {
         m_file.set_integer(name, "delimiter", static_cast<unsigned char>(*match.delimiter));
         m_file.set_boolean(name, "titles", match.firstLineHoldsTitles);
     }
-    m_file.set_integer(name, "width", match.width);
-    m_file.set_integer(name, "height", match.height);
     save();
 }
 

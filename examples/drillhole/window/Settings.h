@@ -15,8 +15,6 @@ struct KeptMatch {
     std::vector<std::string> matches;
     std::optional<char> delimiter; ///< none before the first import
     bool firstLineHoldsTitles = true;
-    int width = 0; ///< of the dialog's frame in pixels; 0 before the first import
-    int height = 0;
 };
 
 /// What the program keeps from one run to the next, in a key file.
