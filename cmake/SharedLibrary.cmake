@@ -32,7 +32,9 @@ add_library(columnimport SHARED
     dialogs/MatchingSection.cpp
     dialogs/Scale.cpp
     dialogs/arrowBitmap.cpp
+    dialogs/headerSentence.cpp
     dialogs/matchTexts.cpp
+    dialogs/quietSentence.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/RowMarks.cpp

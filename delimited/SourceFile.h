@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <string>
+#include <system_error>
 
 namespace columnimport {
 
@@ -15,7 +16,11 @@ class SourceFile {
 public:
     explicit SourceFile(const std::string &path);
 
-    bool isOpen() const { return m_stream.is_open(); }
+    /// Whether the file could be opened and every read so far has gone well.
+    bool isReadable() const { return m_stream.is_open() && !m_stream.bad(); }
+
+    /// The system's reason why the file is not readable, if it has one.
+    std::error_code fault() const { return m_fault; }
 
     /// Whether a read has met the end of the file. Never so before the first read, and never for a
     /// file that can't be opened.
@@ -27,6 +32,7 @@ public:
 
 private:
     std::ifstream m_stream;
+    std::error_code m_fault;
 };
 
 } // namespace columnimport

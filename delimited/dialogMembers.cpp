@@ -6,9 +6,15 @@
 
 #include "delimited/readHeader.h"
 #include "delimited/readPreview.h"
+#include "dialogs/headerSentence.h"
+#include "dialogs/quietSentence.h"
+
+#include <utility>
 
 void wxImportCSVDialog::loadHeader() {
-    m_fileSchema = columnimport::readHeader(m_fileName, m_delimiter);
+    columnimport::Header header = columnimport::readHeader(m_fileName, m_delimiter);
+    m_fileSchema = std::move(header.columns);
+    columnimport::say(*this, columnimport::Matter::source, columnimport::headerSentence(header));
 }
 
 std::string wxImportCSVDialog::getFilePreview() {

@@ -9,17 +9,25 @@
 
 namespace columnimport {
 
-std::vector<std::string> readHeader(const std::string &path, char delimiter) {
-    std::vector<std::string> fields;
+Header readHeader(const std::string &path, char delimiter) {
+    Header header;
     SourceFile file(path);
-    if (!file.isOpen()) {
-        return fields;
+    const std::string line = file.readLine();
+    header.reason = file.fault();
+    if (!file.isReadable()) {
+        return header;
     }
-    splitLine(file.readLine(), fields, std::string(1, delimiter));
-    for (std::string &field : fields) {
-        field.erase(std::remove(field.begin(), field.end(), '"'), field.end());
+    splitLine(line, header.columns, std::string(1, delimiter));
+    for (std::string &column : header.columns) {
+        column.erase(std::remove(column.begin(), column.end(), '"'), column.end());
     }
-    return fields;
+    if (header.columns.empty()) {
+        header.firstLine = line.empty() && file.isAtEnd() ? FirstLine::missing : FirstLine::blank;
+    } else {
+        const bool isDelimited = line.find(delimiter) != std::string::npos;
+        header.firstLine = isDelimited ? FirstLine::cut : FirstLine::undelimited;
+    }
+    return header;
 }
 
 } // namespace columnimport

@@ -3,17 +3,34 @@
 #pragma once
 
 #include <string>
+#include <system_error>
 #include <vector>
 
 namespace columnimport {
 
+/// What came of the first line of a file.
+enum class FirstLine : unsigned char {
+    cut,         ///< it has columns
+    undelimited, ///< it has one column, and nowhere the delimiter
+    blank,       ///< it has nothing but blanks
+    missing,     ///< the file has no bytes
+    unreadable,  ///< the file can't be opened or read
+};
+
+/// The columns that the first line of a file names, and why there are none, or one alone.
+struct Header {
+    std::vector<std::string> columns;
+    FirstLine firstLine = FirstLine::unreadable;
+    std::error_code reason; ///< the system's, if it has one for what is unreadable
+};
+
 /// The fields of the first line of the file `path` (UTF-8), cut at each byte `delimiter` and
 /// stripped of all double quotes. Titles or data make no difference here.
 ///
-/// Empty fields stay, as columns with an empty name. The list is empty if the file can't be opened,
-/// has no bytes or begins with a blank line.
+/// Empty fields stay, as columns with an empty name. There are no columns if the file can't be
+/// read, has no bytes or begins with a blank line.
 ///
 ///     first line  "Hole ID", From (m),,Au   with ','  gives  Hole ID | From (m) | (empty) | Au
-std::vector<std::string> readHeader(const std::string &path, char delimiter);
+Header readHeader(const std::string &path, char delimiter);
 
 } // namespace columnimport

@@ -9,6 +9,7 @@
 #include "dialogs/Scale.h"
 #include "dialogs/SmallControls.h"
 #include "dialogs/accessibleName.h"
+#include "dialogs/quietSentence.h"
 #include "dragdrop/controls.h"
 #include "names/nameText.h"
 
@@ -74,9 +75,13 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     firstLine->SetValue(m_firstLineHeader);
     options->Add(delimiterRow, wxSizerFlags(0).Align(wxALIGN_CENTER));
     options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
-    sizer->Add(options, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(10)));
-
     const wxSize previewSize = scale(wxSize(850, 125));
+    auto *optionsRow = new wxBoxSizer(wxHORIZONTAL);
+    optionsRow->SetMinSize(previewSize.x, -1);
+    optionsRow->Add(options);
+    columnimport::addQuietSentence(*this, *optionsRow, scale(10));
+    sizer->Add(optionsRow, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(10)));
+
     auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW, wxEmptyString,
                                   wxDefaultPosition, previewSize);
     fitLines(*text, columnimport::previewLines, previewSize.y);

@@ -9,6 +9,7 @@
 #include "dialogs/accessibleName.h"
 #include "dialogs/arrowBitmap.h"
 #include "dialogs/matchTexts.h"
+#include "dialogs/quietSentence.h"
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/TextDropTarget.h"
@@ -91,7 +92,14 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     auto *matches = new ListCtrlSource(matching->GetStaticBox(), LISTBOX_MATCH, wxDefaultPosition,
                                        scale(wxSize(525, 450)));
 
-    sizer->Add(rematch, wxSizerFlags(0).Align(wxALIGN_RIGHT).Border(wxLEFT | wxRIGHT, scale(25)));
+    auto *rematchRow = new wxBoxSizer(wxHORIZONTAL);
+    if (columnimport::hasQuietSentence(*this)) {
+        rematchRow->AddStretchSpacer();
+    } else { // a table has no options that it would stand beside
+        columnimport::addQuietSentence(*this, *rematchRow, scale(10));
+    }
+    rematchRow->Add(rematch, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(25)));
+    sizer->Add(rematchRow, wxSizerFlags(0).Expand());
     matching->Add(files, wxSizerFlags(0).Align(wxALIGN_CENTER));
     matching->Add(arrow, wxSizerFlags(0).Align(wxALIGN_CENTER));
     matching->Add(matches, wxSizerFlags(0).Align(wxALIGN_CENTER));

@@ -11,4 +11,7 @@ namespace columnimport {
 /// of its own for it.
 void setAccessibleName(wxWindow &control, const wxString &name);
 
+/// Has a screen reader read out what `control` says whenever it is shown.
+void announceWhenShown(wxWindow &control);
+
 } // namespace columnimport

@@ -26,4 +26,8 @@ void setAccessibleName(wxWindow &control, const wxString &name) {
     }
 }
 
+void announceWhenShown(wxWindow &control) {
+    atk_object_set_role(gtk_widget_get_accessible(control.GetHandle()), ATK_ROLE_NOTIFICATION);
+}
+
 } // namespace columnimport

@@ -3,6 +3,7 @@
 #include "dialogs/accessibleName.h"
 
 #include <wx/access.h>
+#include <wx/msw/private.h>
 #include <wx/window.h>
 
 namespace columnimport {
@@ -39,5 +40,14 @@ void setAccessibleName(wxWindow &control, const wxString &name) {
 void setAccessibleName(wxWindow &, const wxString &) {}
 
 #endif
+
+void announceWhenShown(wxWindow &control) {
+    control.Bind(wxEVT_SHOW, [&control](wxShowEvent &event) {
+        if (event.IsShown()) {
+            NotifyWinEvent(EVENT_SYSTEM_ALERT, control.GetHWND(), OBJID_CLIENT, CHILDID_SELF);
+        }
+        event.Skip();
+    });
+}
 
 } // namespace columnimport

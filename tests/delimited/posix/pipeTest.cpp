@@ -14,6 +14,6 @@ TEST(FileHead, OfAPipeIsEmptyAndIsNotWaitedFor) {
     const ScratchFile pipe("");
     unlink(pipe.path().c_str());
     ASSERT_EQ(mkfifo(pipe.path().c_str(), 0600), 0);
-    EXPECT_EQ(readHeader(pipe.path(), ','), std::vector<std::string>());
+    EXPECT_EQ(readHeader(pipe.path(), ',').columns, std::vector<std::string>());
     EXPECT_EQ(readPreview(pipe.path()), std::string(10, '\n'));
 }
