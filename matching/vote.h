@@ -9,8 +9,11 @@ namespace columnimport {
 /// A vote counts only if its score is above this.
 inline constexpr double acceptanceThreshold = 0.4;
 
-/// The application column that a file column fits best, as far as is known, and how well. One that
-/// fits none so far stands at the threshold, where a vote can't be seen in a proposal.
+/// The application column that a file column fits best, as far as is known, and how well.
+///
+/// One that fits none so far stands at the threshold: a lower score makes no difference to a
+/// proposal. `profondeur` fits `depth` best with 0.3. Whether that is a vote which is refused, or
+/// no vote at all, `depth` is matched to the best file column above 0.4, or to none.
 struct Vote {
     double score = acceptanceThreshold;
     std::int32_t app = -1;

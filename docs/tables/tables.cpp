@@ -2,7 +2,6 @@
 
 #include "docs/tables/tables.h"
 
-#include "matching/areSynonyms.h"
 #include "matching/columnNameScore.h"
 #include "matching/matchColumns.h"
 #include "matching/normalizeColumnName.h"
@@ -31,10 +30,9 @@ std::string figure(double number) {
     return text.str();
 }
 
-template <typename Words>
-std::string inARow(const Words &words) {
+std::string inARow(const Names &words) {
     std::string text;
-    for (const std::string_view word : words) {
+    for (const std::string &word : words) {
         text += (text.empty() ? "" : ", ") + code(word);
     }
     return text;
@@ -96,18 +94,9 @@ std::string outcomeOf(const Ballot &ballot, std::size_t file, std::int32_t match
 } // namespace
 
 std::string synonymsTable() {
-    std::vector<std::pair<Names, SynonymWords>> rows;
-    for (const SynonymClass &each : synonymTable) {
-        // Two head words can have one list.
-        if (!rows.empty() && rows.back().second.begin() == each.listed.begin()) {
-            rows.back().first.emplace_back(each.head);
-        } else {
-            rows.push_back({{std::string(each.head)}, each.listed});
-        }
-    }
     std::string table = "| Head word | is a synonym of |\n|---|---|\n";
-    for (const auto &[heads, listed] : rows) {
-        table += "| " + inARow(heads) + " | " + inARow(listed) + " |\n";
+    for (const auto &[head, listed] : synonymTable()) {
+        table += "| " + code(head) + " | " + inARow(listed) + " |\n";
     }
     return table;
 }

@@ -4,8 +4,6 @@
 
 #include <algorithm>
 
-#include "matching/synonymTable.h"
-
 namespace columnimport {
 
 FitTable::FitTable(const std::vector<std::string> &appColumns) {
@@ -14,10 +12,10 @@ FitTable::FitTable(const std::vector<std::string> &appColumns) {
         std::int32_t &equal = m_fits[appColumns[i]].equal;
         equal = std::min(equal, static_cast<std::int32_t>(i));
     }
-    for (const SynonymClass &row : synonymTable) {
-        for (const std::string_view word : row.listed) {
-            link(row.head, word);
-            link(word, row.head);
+    for (const auto &[head, listed] : m_synonyms) {
+        for (const std::string &word : listed) {
+            link(head, word);
+            link(word, head);
         }
     }
 }

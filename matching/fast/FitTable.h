@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "matching/synonymTable.h"
 #include "matching/vote.h"
 
 namespace columnimport {
@@ -18,6 +19,7 @@ class FitTable {
 public:
     /// Normalised names, which must outlive the table.
     explicit FitTable(const std::vector<std::string> &appColumns);
+    FitTable(const FitTable &) = delete;
 
     /// The vote of a file column that equals an application column or is a synonym of one; a vote
     /// for none if there is no such column. Nothing outranks either: a file column with a synonym
@@ -35,7 +37,8 @@ private:
 
     void link(std::string_view appColumn, std::string_view synonym);
 
-    std::unordered_map<std::string_view, Fit> m_fits;
+    const SynonymTable m_synonyms = synonymTable();
+    std::unordered_map<std::string_view, Fit> m_fits; ///< by words of the lists and the synonyms
 };
 
 } // namespace columnimport

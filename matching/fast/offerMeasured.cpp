@@ -6,7 +6,7 @@
 #include <cassert>
 
 #include "matching/blendedMeasure.h"
-#include "matching/longestRun.h"
+#include "matching/fast/longestRun.h"
 
 namespace columnimport {
 

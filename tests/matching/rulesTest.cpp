@@ -9,6 +9,7 @@
 #include "matching/columnNameScore.h"
 #include "matching/matchColumns.h"
 #include "matching/normalizeColumnName.h"
+#include "matching/synonymTable.h"
 
 using namespace columnimport;
 
@@ -31,6 +32,21 @@ TEST(NormalizeColumnName, BringsEverySpellingOfANameToOneForm) {
 TEST(ReplaceAll, GoesFromLeftToRightAndPassesOverWhatItPutIn) {
     EXPECT_EQ(replaceAll("aaaaa", "aa", "a"), "aaa");
     EXPECT_EQ(replaceAll("aba", "a", "aa"), "aabaa");
+}
+
+TEST(AreSynonyms, LinksHeadsToTheListedWordsOfTheirRowAndNothingElse) {
+    const struct {
+        std::string a, b;
+        bool areSynonyms;
+    } cases[] = {
+        {"holename", "bhid", true}, {"holeid", "bhid", false},    {"x", "xc", true},
+        {"easting", "xc", true},    {"easting", "x", true},       {"easting", "y", false},
+        {"depth", "length", true},  {"length", "plongee", false}, {"depth", "profondeur", false},
+    };
+    for (const auto &[a, b, are] : cases) {
+        EXPECT_EQ(areSynonyms(a, b), are) << a << ' ' << b;
+        EXPECT_EQ(areSynonyms(b, a), are) << b << ' ' << a;
+    }
 }
 
 TEST(ColumnNameScore, ClimbsFromTheMeasureOverSynonymsToEquality) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "matching/longestRun.h"
+#include "matching/fast/longestRun.h"
 
 #include <algorithm>
 
