@@ -40,6 +40,7 @@ add_library(columnimport SHARED
     dragdrop/${platform}/RowMarks.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
+    dragdrop/MatchListKeys.cpp
     dragdrop/TextDropTarget.cpp
     dragdrop/clipboard.cpp
     dragdrop/dragText.cpp
@@ -66,8 +67,8 @@ if(WIN32)
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
 else()
     target_sources(columnimport PRIVATE
-        dragdrop/gtk/DragLabel.cpp
-        dragdrop/gtk/IgnoredDrag.cpp
+        dragdrop/gtk/RunningDrag.cpp
+        dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/markColours.cpp
         host/gtk/QuietStart.cpp
         host/gtk/frameShadow.cpp)

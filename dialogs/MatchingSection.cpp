@@ -155,9 +155,7 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
                     m_appColumns);
     }
     applyListBoxMatchFont();
-    // The list lays its rows out when the toolkit is idle, and is blank till then: with very many
-    // file columns, for as long as the other list takes to measure its own rows.
-    matches.OnInternalIdle();
+    matches.layOutRows();
 }
 
 void wxImportCSVDialog::applyListBoxMatchFont() {

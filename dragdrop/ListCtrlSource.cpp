@@ -2,7 +2,6 @@
 
 #include "dragdrop/ListCtrlSource.h"
 
-#include "dragdrop/clipboard.h"
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
 #include "dragdrop/tipWhereCut.h"
@@ -14,12 +13,10 @@ namespace columnimport {
 
 ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                                const wxSize &size)
-    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this) {
+    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this), m_keys(*this) {
     Bind(wxEVT_LEFT_DOWN, &ListCtrlSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_UP, &ListCtrlSource::onLeftUp, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListCtrlSource::onMouseMove, this, wxID_ANY, wxID_ANY);
-    Bind(wxEVT_KEY_DOWN, &ListCtrlSource::onKeyDown, this);
-    Bind(wxEVT_CHAR, &ListCtrlSource::onCharacter, this);
     // The control would select rows of its own accord.
     for (const auto &press : {wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK,
                               wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
@@ -41,6 +38,12 @@ std::string ListCtrlSource::getMatchText(int row) const {
 void ListCtrlSource::setMatchText(long row, const wxString &text) {
     SetItem(row, matchColumn, text, -1);
     applyMatchFont(row);
+}
+
+void ListCtrlSource::setMarkedMatchTexts(const wxString &text) {
+    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
+        setMatchText(row, text);
+    }
 }
 
 void ListCtrlSource::applyMatchFont(long row) {
@@ -80,10 +83,20 @@ void ListCtrlSource::scrollAtEdge() {
     }
 }
 
+void ListCtrlSource::layOutRows() {
+    OnInternalIdle();
+}
+
 void ListCtrlSource::clearHoverRows() {
     for (long row = GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED); row != -1;
          row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
         SetItemState(row, 0, wxLIST_STATE_SELECTED);
+    }
+}
+
+void ListCtrlSource::markRows(long one, long other) {
+    for (long row = std::min(one, other); row <= std::max(one, other); ++row) {
+        m_marks.set(row, true);
     }
 }
 
@@ -122,18 +135,11 @@ void ListCtrlSource::onLeftUp(wxMouseEvent &event) {
     }
     // The list may have fewer rows than when the anchor was set.
     if (shift && m_lastClickedRow >= 0 && m_lastClickedRow < GetItemCount()) {
-        markRange(m_lastClickedRow, row);
+        markRows(m_lastClickedRow, row);
     }
     m_marks.set(row, true);
     m_lastClickedRow = static_cast<std::int32_t>(row);
-    setCurrentRow(row);
-    m_keyAnchor = row;
-}
-
-void ListCtrlSource::markRange(long one, long other) {
-    for (long row = std::min(one, other); row <= std::max(one, other); ++row) {
-        m_marks.set(row, true);
-    }
+    m_keys.startFrom(row);
 }
 
 void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
@@ -163,114 +169,6 @@ void ListCtrlSource::tipWhereCutAt(const wxPoint &position, long row) {
     }
     // The list keeps some pixels free at both ends of a text.
     tipWhereCut(*this, GetItemText(row, column), GetColumnWidth(column) - GetCharWidth());
-}
-
-long ListCtrlSource::currentRow() const {
-    return GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED);
-}
-
-void ListCtrlSource::setCurrentRow(long row) {
-    SetItemState(row, wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
-}
-
-// As in any list: an arrow key alone leaves no mark behind, with Shift it marks from where the way
-// began, and with Control it marks nothing.
-void ListCtrlSource::moveCurrentRow(long row, const wxKeyEvent &event) {
-    if (GetItemCount() == 0) {
-        return;
-    }
-    row = std::clamp<long>(row, 0, GetItemCount() - 1);
-    if (event.ShiftDown()) {
-        if (m_keyAnchor < 0 || m_keyAnchor >= GetItemCount()) {
-            m_keyAnchor = std::max<long>(currentRow(), 0);
-        }
-        clearMarkedRows();
-        markRange(m_keyAnchor, row);
-    } else if (!event.ControlDown()) {
-        clearMarkedRows();
-        m_keyAnchor = row;
-    }
-    setCurrentRow(row);
-    EnsureVisible(row);
-    clearHoverRows();
-    hoverOver(row);
-}
-
-void ListCtrlSource::setMarkedMatchTexts(const wxString &text) {
-    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
-        setMatchText(row, text);
-    }
-}
-
-void ListCtrlSource::setChosenMatchTexts(const wxString &text) {
-    if (countMarkedRows() > 0) {
-        setMarkedMatchTexts(text);
-    } else if (currentRow() >= 0) {
-        setMatchText(currentRow(), text);
-    }
-}
-
-void ListCtrlSource::onKeyDown(wxKeyEvent &event) {
-    const long row = currentRow();
-    wxString text;
-    switch (event.GetKeyCode()) {
-    case WXK_UP:
-        moveCurrentRow(row - 1, event);
-        break;
-    case WXK_DOWN:
-        moveCurrentRow(row + 1, event);
-        break;
-    case WXK_PAGEUP:
-        moveCurrentRow(row - GetCountPerPage(), event);
-        break;
-    case WXK_PAGEDOWN:
-        moveCurrentRow(row + GetCountPerPage(), event);
-        break;
-    case WXK_HOME:
-        moveCurrentRow(0, event);
-        break;
-    case WXK_END:
-        moveCurrentRow(GetItemCount() - 1, event);
-        break;
-    case WXK_SPACE:
-        if (row >= 0) {
-            clearHoverRows();
-            if (!event.ControlDown()) {
-                clearMarkedRows();
-            }
-            m_marks.set(row, true);
-            m_keyAnchor = row;
-        }
-        break;
-    case WXK_DELETE:
-    case WXK_NUMPAD_DELETE:
-        setChosenMatchTexts(notUsed);
-        break;
-    case WXK_RETURN:
-    case WXK_NUMPAD_ENTER: {
-        // The control would keep it for itself.
-        wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
-        wxGetTopLevelParent(this)->GetEventHandler()->AddPendingEvent(ok);
-        break;
-    }
-    case 'C':
-        if (event.ControlDown() && row >= 0) {
-            copyText(GetItemText(row, matchColumn));
-        }
-        break;
-    case 'V':
-        if (event.ControlDown() && pasteText(text)) {
-            setChosenMatchTexts(m_names.textOfForeign(text));
-        }
-        break;
-    default:
-        event.Skip();
-    }
-}
-
-// The control would look for the row that begins with what is typed, and select it.
-void ListCtrlSource::onCharacter(wxKeyEvent &event) {
-    event.Skip(event.HasModifiers() || event.GetUnicodeKey() < WXK_SPACE);
 }
 
 } // namespace columnimport

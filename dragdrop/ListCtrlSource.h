@@ -3,6 +3,7 @@
 #pragma once
 
 #include "RowMarks.h" // of the platform
+#include "dragdrop/MatchListKeys.h"
 #include "names/NameBook.h"
 
 #include <cstdint>
@@ -21,9 +22,6 @@ namespace columnimport {
 ///    a row, Shift adds the range from the row clicked last; a click below the rows clears all.
 ///  - hover: the row under the pointer, shown only while no row is marked; at most one.
 ///
-/// Without a mouse a third state comes in, which every list control has: the current row, which the
-/// arrow keys move and show as the hover does.
-///
 /// For example, after a click on row 2 and a Shift-click on row 4 the rows 2, 3 and 4 are marked,
 /// and no row is in hover. Dragging row 3 onto the list of file columns then clears all three
 /// matches; dragging row 7 first leaves row 7 alone marked.
@@ -39,11 +37,11 @@ public:
     /// with it.
     void setMatchText(long row, const wxString &text);
 
-    /// The book of the names that this dialog shows.
-    NameBook &names() { return m_names; }
-
     /// The same for all marked rows.
     void setMarkedMatchTexts(const wxString &text);
+
+    /// The book of the names that this dialog shows.
+    NameBook &names() { return m_names; }
 
     /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.
     void applyMatchFont(long row);
@@ -59,7 +57,16 @@ public:
     /// no matter of luck.
     void scrollAtEdge();
 
+    /// Gives the rows their places at once. Left to the control, which waits until the toolkit is
+    /// idle, they are blank till then: with very many file columns, for as long as the list of
+    /// those takes to measure its own rows.
+    void layOutRows();
+
     void clearHoverRows();
+
+    /// Marks the rows from `one` to `other`, both included, in either order.
+    void markRows(long one, long other);
+
     void clearMarkedRows();
     int countMarkedRows() const;
 
@@ -70,20 +77,6 @@ private:
     void onLeftDown(wxMouseEvent &event);
     void onLeftUp(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
-    void onKeyDown(wxKeyEvent &event);
-    void onCharacter(wxKeyEvent &event);
-
-    void markRange(long one, long other);
-
-    /// The row that the keyboard is at, or -1.
-    long currentRow() const;
-    void setCurrentRow(long row);
-
-    /// Moves it to `row`, or as near as there are rows, by a key with or without Control and Shift.
-    void moveCurrentRow(long row, const wxKeyEvent &event);
-
-    /// Writes a match text into the marked rows or else into the current one.
-    void setChosenMatchTexts(const wxString &text);
 
     /// Tells the whole name in `row` at `position` if the column is too narrow for it.
     void tipWhereCutAt(const wxPoint &position, long row);
@@ -91,7 +84,7 @@ private:
     NameBook m_names;
     RowMarks m_marks;
     std::int32_t m_lastClickedRow = -1; // the anchor of a Shift range; survives a refresh
-    long m_keyAnchor = -1;              // the same for the arrow keys
+    MatchListKeys m_keys;
 };
 
 } // namespace columnimport

@@ -2,8 +2,7 @@
 
 #include "dragdrop/dragText.h"
 
-#include "DragLabel.h"   // of the platform
-#include "IgnoredDrag.h" // of the platform
+#include "RunningDrag.h" // of the platform
 #include "UnicodeText.h" // of the platform
 
 #include <wx/dnd.h>
@@ -15,23 +14,23 @@ namespace columnimport {
 
 namespace {
 
-/// Puts a closing of the window off while it lives. A window that closes under a drag never answers
-/// the drop, and the drag would wait minutes for it.
-class ClosingPutOff {
+/// Delays a closing of the window until its own end. A window that closes under a drag never
+/// answers the drop, and the drag would wait minutes for it.
+class DelayedClose {
 public:
-    explicit ClosingPutOff(wxWindow &inside) : m_window(*wxGetTopLevelParent(&inside)) {
-        m_window.Bind(wxEVT_CLOSE_WINDOW, &ClosingPutOff::onClose, this);
+    explicit DelayedClose(wxWindow &inside) : m_window(*wxGetTopLevelParent(&inside)) {
+        m_window.Bind(wxEVT_CLOSE_WINDOW, &DelayedClose::onClose, this);
     }
 
-    ~ClosingPutOff() {
-        m_window.Unbind(wxEVT_CLOSE_WINDOW, &ClosingPutOff::onClose, this);
+    ~DelayedClose() {
+        m_window.Unbind(wxEVT_CLOSE_WINDOW, &DelayedClose::onClose, this);
         if (m_isWanted) {
             m_window.Close();
         }
     }
 
-    ClosingPutOff(const ClosingPutOff &) = delete;
-    ClosingPutOff &operator=(const ClosingPutOff &) = delete;
+    DelayedClose(const DelayedClose &) = delete;
+    DelayedClose &operator=(const DelayedClose &) = delete;
 
 private:
     void onClose(wxCloseEvent &event) {
@@ -52,12 +51,11 @@ bool movedWithButtonDown(const wxMouseEvent &move) {
 }
 
 void dragText(wxWindow &source, const wxString &text, const wxString &shown) {
-    const ClosingPutOff closing(source);
+    const DelayedClose close(source);
     UnicodeText data(text);
     wxDropSource drag(&source);
     drag.SetData(data);
-    const IgnoredDrag end(drag);
-    const DragLabel label(drag, source, shown);
+    const RunningDrag running(drag, source, shown);
     drag.DoDragDrop(wxDrag_AllowMove);
 }
 

@@ -6,18 +6,18 @@
 #include <exception>
 #include <future>
 
-bool accompany(const Act &act, const std::function<bool()> &show) {
+bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
     std::future<void> actor;
     std::exception_ptr thrown;
     bool result = false;
     {
         // Its end tells that the run is over.
         std::promise<void> run;
-        actor = std::async(std::launch::async, [&act, over = run.get_future()] {
+        actor = std::async(std::launch::async, [&steps, over = run.get_future()] {
             try {
                 Person person;
                 person.waitForDialog();
-                act(person);
+                steps(person);
                 poll("the dialog is closed", [&over] {
                     return over.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
                 });
@@ -47,15 +47,15 @@ bool accompany(const Act &act, const std::function<bool()> &show) {
     return result;
 }
 
-bool DialogRun::show(const Act &act, wxImportCSVDialogPeer peer) {
-    return accompany(act, [this, &peer] {
+bool DialogRun::show(const Steps &steps, wxImportCSVDialogPeer peer) {
+    return runWithPerson(steps, [this, &peer] {
         return peer.showWindow(owner, title, appColumns, fileName, &useSavedMatches, &matches,
                                &delimiter, &firstLineHeader, width, height);
     });
 }
 
-bool DialogRun::showTable(const Names &tableColumns, const Act &act) {
-    return accompany(act, [this, &tableColumns] {
+bool DialogRun::showTable(const Names &tableColumns, const Steps &steps) {
+    return runWithPerson(steps, [this, &tableColumns] {
         return wxImportCSVDialogPeer().showWindow(owner, title, appColumns, tableColumns, fileName,
                                                   &useSavedMatches, &matches, width, height);
     });

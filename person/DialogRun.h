@@ -11,11 +11,12 @@
 #include <wxImportCSVDialogPeer.h>
 
 /// What a person does while a dialog is open, on a thread of its own.
-using Act = std::function<void(Person &)>;
+using Steps = std::function<void(Person &)>;
 
-/// Has a person act on the dialog that `show` opens, from the moment when it stands, and returns
-/// what `show` returns. A person who gives up leaves through Cancel, and `GivenUp` is thrown.
-bool accompany(const Act &act, const std::function<bool()> &show);
+/// Has a person take `steps` in the dialog that `show` opens, from the moment when it stands, and
+/// returns what `show` returns. A person who gives up leaves through Cancel, and `GivenUp` is
+/// thrown.
+bool runWithPerson(const Steps &steps, const std::function<bool()> &show);
 
 /// One modal run: what goes in, what a person does meanwhile, and what came out. The defaults are
 /// those of a host that runs the dialog for the first time.
@@ -32,10 +33,10 @@ struct DialogRun {
     int height = 900;
 
     /// Shows the dialog for the file. The run has a peer of its own unless it is given one.
-    bool show(const Act &act, wxImportCSVDialogPeer peer = {});
+    bool show(const Steps &steps, wxImportCSVDialogPeer peer = {});
 
     /// The same for a table with these columns.
-    bool showTable(const Names &tableColumns, const Act &act);
+    bool showTable(const Names &tableColumns, const Steps &steps);
 };
 
 /// What a person does who just presses the button.

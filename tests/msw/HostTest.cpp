@@ -111,10 +111,10 @@ void pressCloseBox(HWND dialog) {
     PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
-using Act = std::function<void(HWND dialog)>;
+using Steps = std::function<void(HWND dialog)>;
 
-/// Has a person act on the dialog as soon as it takes keys, while `show` is open.
-bool accompany(const Act &act, const std::function<bool()> &show) {
+/// Has a person take these steps in the dialog as soon as it takes keys, while `show` is open.
+bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
     std::atomic<bool> isOver = false;
     std::thread person([&] {
         HWND dialog = nullptr;
@@ -122,7 +122,7 @@ bool accompany(const Act &act, const std::function<bool()> &show) {
             dialog = FindWindowW(nullptr, L"Import of a test");
             return isOver || (dialog != nullptr && Xdotool().isActive("Import of a test"));
         });
-        act(dialog);
+        steps(dialog);
         poll("the dialog is closed", [&] { return isOver.load(); });
         // With it open the test would wait for ever.
         if (!isOver) {
@@ -140,15 +140,15 @@ protected:
     Host() : file("BHID,Azimut;Dip\r\n1,2;3\r\n"), path(file.path()), window(newHostWindow()) {}
     ~Host() override { DestroyWindow(window); }
 
-    bool show(const Act &act) {
-        return accompany(act, [this] {
+    bool show(const Steps &steps) {
+        return runWithPerson(steps, [this] {
             return peer.showWindow(window, "Import of a test", appColumns, path, &useSavedMatches,
                                    &matches, &delimiter, &firstLineHeader, 900, 900);
         });
     }
 
-    bool showTable(const Names &table, const Act &act) {
-        return accompany(act, [&] {
+    bool showTable(const Names &table, const Steps &steps) {
+        return runWithPerson(steps, [&] {
             return peer.showWindow(window, "Import of a test", appColumns, table, "table",
                                    &useSavedMatches, &matches, 900, 900);
         });
@@ -169,7 +169,7 @@ protected:
 
 TEST_F(Host, GetsTheOutputsHoweverARunEnds) {
     const struct {
-        Act leave;
+        Steps leave;
         bool result;
     } ways[] = {{pressOk, true},
                 {pressEnter, true},

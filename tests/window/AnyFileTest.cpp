@@ -19,10 +19,10 @@ protected:
     AnyFile() { run.appColumns = {"holename", "depth"}; }
 
     /// Runs the dialog for a file with this content.
-    void show(const std::string &content, const Act &act) {
+    void show(const std::string &content, const Steps &steps) {
         const ScratchFile file(content);
         run.fileName = file.path();
-        EXPECT_TRUE(run.show(act)) << content;
+        EXPECT_TRUE(run.show(steps)) << content;
     }
 
     DialogRun run;

@@ -298,7 +298,7 @@ TEST_F(DragDrop, AClickInTheFileListSelectsAndLeavesTheMarks) {
 TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
     const struct {
         const char *how;
-        Act end;
+        Steps end;
     } ways[] = {
         {"Escape",
          [](Person &person) {

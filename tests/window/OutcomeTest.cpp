@@ -21,7 +21,7 @@ protected:
     DialogRun run;
 };
 
-Act strike(int key) {
+Steps strike(int key) {
     return [key](Person &person) { person.strike(key); };
 }
 
@@ -29,7 +29,7 @@ Act strike(int key) {
 
 TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
     const struct {
-        Act leave;
+        Steps leave;
         bool result;
     } ways[] = {{pressOk, true},
                 {strike(WXK_RETURN), true},

@@ -50,13 +50,13 @@ void drag(Person &person) {
     person.drag(Person::fileRow(2), Person::matchRow(3));
 }
 
-Act type(char character) {
+Steps type(char character) {
     return [character](Person &person) { person.typeDelimiter(character); };
 }
 
 /// One thing that a person does, and what both lists show afterwards.
 struct Step {
-    Act act;
+    Steps action;
     Lists shown;
 };
 
@@ -96,7 +96,7 @@ void expectToTake(const Route &route, const std::string &path) {
     run.firstLineHeader = route.firstLineHeader;
     const auto act = [&route](Person &person) {
         for (const Step &step : route.steps) {
-            step.act(person);
+            step.action(person);
             expectShown(step.shown, route.name);
         }
         pressOk(person);
@@ -162,8 +162,8 @@ TEST(Routes, TheFileIsReadAgainForAnotherDelimiterAlone) {
     run.fileName = file.path();
     EXPECT_TRUE(run.show([&file](Person &person) {
         file.write("changed;meanwhile\n");
-        for (const Act &act : {type(','), Act(tick), Act(tick), Act(reset)}) {
-            act(person);
+        for (const Steps &steps : {type(','), Steps(tick), Steps(tick), Steps(reset)}) {
+            steps(person);
         }
         EXPECT_EQ(fileTexts(), titles);
         person.typeDelimiter(';');

@@ -44,9 +44,9 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     EXPECT_EQ(wxApp::GetInstance(), application);
 }
 
-bool runItself(wxImportCSVDialog &dialog, const Act &act) {
+bool runItself(wxImportCSVDialog &dialog, const Steps &steps) {
     dialog.create();
-    const bool isOk = accompany(act, [&dialog] { return dialog.ShowModal() == wxID_OK; });
+    const bool isOk = runWithPerson(steps, [&dialog] { return dialog.ShowModal() == wxID_OK; });
     EXPECT_FALSE(dialog.isOk());
     return isOk;
 }

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class wxKeyEvent;
+class wxString;
+
+namespace columnimport {
+
+class ListCtrlSource;
+
+/// The match list without a mouse. Beside marks and hover a third state of a row comes in, which
+/// every list control has: the current row, which the arrow keys move and show as the hover does.
+/// What a key writes goes into the marked rows, or else into the current one.
+class MatchListKeys {
+public:
+    /// Hears the keys of `list`, which holds this object.
+    explicit MatchListKeys(ListCtrlSource &list);
+    MatchListKeys(const MatchListKeys &) = delete;
+    MatchListKeys &operator=(const MatchListKeys &) = delete;
+
+    /// The keys go on from `row`, which was clicked on.
+    void startFrom(long row);
+
+private:
+    void onKeyDown(wxKeyEvent &event);
+    void onCharacter(wxKeyEvent &event);
+
+    /// The row that the keys are at, or -1.
+    long currentRow() const;
+    void setCurrentRow(long row);
+
+    /// Moves it to `row`, or as near as there are rows, by a key with or without Control and Shift.
+    void moveCurrentRow(long row, const wxKeyEvent &key);
+
+    void markCurrentRow(bool alone);
+    void setChosenMatchTexts(const wxString &text);
+
+    ListCtrlSource &m_list;
+    long m_anchor = -1; // of a range that Shift marks; survives a refresh
+};
+
+} // namespace columnimport

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+using GtkWidget = struct _GtkWidget; // NOLINT(bugprone-reserved-identifier): GTK's name for it
+class wxString;
+
+namespace columnimport {
+
+/// Makes the small label that goes beside the pointer during a drag. The caller owns a reference.
+GtkWidget *makeDragLabel(const wxString &text);
+
+} // namespace columnimport
