@@ -24,7 +24,6 @@ target_link_libraries(columnimport_toolkit INTERFACE ${wxWidgets_LIBRARIES})
 add_subdirectory(names)
 
 add_library(columnimport SHARED
-    delimited/dialogMembers.cpp
     dialogs/${platform}/Scale.cpp
     dialogs/${platform}/SmallControls.cpp
     dialogs/${platform}/accessibleName.cpp

@@ -5,13 +5,17 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
+#include "delimited/readHeader.h"
 #include "delimited/readPreview.h"
 #include "dialogs/Scale.h"
 #include "dialogs/SmallControls.h"
 #include "dialogs/accessibleName.h"
+#include "dialogs/headerSentence.h"
 #include "dialogs/quietSentence.h"
 #include "dragdrop/controls.h"
 #include "names/nameText.h"
+
+#include <utility>
 
 #include <wx/checkbox.h>
 #include <wx/image.h>
@@ -94,6 +98,16 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
 
     loadHeader();
+}
+
+void wxImportCSVDialog::loadHeader() {
+    columnimport::Header header = columnimport::readHeader(m_fileName, m_delimiter);
+    m_fileSchema = std::move(header.columns);
+    columnimport::say(*this, columnimport::Matter::source, columnimport::headerSentence(header));
+}
+
+std::string wxImportCSVDialog::getFilePreview() {
+    return columnimport::readPreview(m_fileName);
 }
 
 void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {

@@ -3,7 +3,6 @@
 #include "matching/normalizeColumnName.h"
 
 #include <cassert>
-#include <cctype>
 
 namespace columnimport {
 
@@ -16,6 +15,12 @@ constexpr struct {
     const char *normalised;
 } unitRules[] = {{" %", "_pct"}, {"_%", "_pct"}, {"%", "_pct"}, {"g/t", "gt"}};
 
+/// As in the locale that a process starts with, whatever its host has set since: a Turkish one has
+/// another small letter for I.
+char toLower(char byte) {
+    return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
+}
+
 bool isKept(char byte) {
     return (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9');
 }
@@ -24,7 +29,7 @@ bool isKept(char byte) {
 
 std::string normalizeColumnName(std::string name) {
     for (char &byte : name) {
-        byte = static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
+        byte = toLower(byte);
     }
     for (const auto &[written, normalised] : unitRules) {
         if (name.find(written) != std::string::npos) {

@@ -11,8 +11,9 @@ namespace columnimport {
 ///
 /// A percent sign becomes "_pct" and takes one blank or underscore in front of it along; "g/t"
 /// becomes "gt". The result holds only a to z, 0 to 9 and '_', is empty only for an empty name,
-/// and normalising it again changes nothing. Lower-casing follows the locale of the process; no
-/// other encoding is assumed, so each byte of 0x80 or above gives one underscore.
+/// and normalising it again changes nothing. No encoding is assumed, and the process's locale
+/// makes no difference: A to Z alone have small letters, and each byte of 0x80 or above gives one
+/// underscore.
 ///
 ///     normalizeColumnName("Cu %")     == "cu_pct"
 ///     normalizeColumnName("Au (g/t)") == "au__gt_"

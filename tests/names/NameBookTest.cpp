@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "names/NameBook.h"
+#include "matching/normalizeColumnName.h"
 #include "names/nameText.h"
 
 #include "locales.h"
@@ -52,7 +53,7 @@ protected:
 
 } // namespace
 
-TEST_P(Locale, OfNoNameKeepsItsBytesFromComingBack) {
+TEST_P(Locale, LetsTheBytesOfEachNameComeBack) {
     NameBook book;
     const std::vector<std::string> names = awkwardNames();
     std::set<std::wstring> texts;
@@ -85,6 +86,10 @@ TEST_P(Locale, GivesForeignTextItsBytes) {
     EXPECT_EQ(book.bytesOf(book.textOfForeign(page)), page);
 }
 
+TEST_P(Locale, LeavesNormalisedNamesAsTheyAre) {
+    EXPECT_EQ(normalizeColumnName("BHID, DIP \xDD\xE9"), "bhid__dip___");
+}
+
 INSTANTIATE_TEST_SUITE_P(InEach, Locale, testing::ValuesIn(locales));
 
 TEST(NameBook, ForgetsWhatItIsToldTo) {
@@ -95,7 +100,7 @@ TEST(NameBook, ForgetsWhatItIsToldTo) {
     EXPECT_EQ(book.textOf(std::string(5001, 'x')), text) << "nothing is left that it differs from";
 }
 
-TEST(NameBook, OfManyNamesThatReadTheSameTakesEachInItsTurn) {
+TEST(NameBook, TellsManyNamesApartThatReadTheSame) {
     NameBook book;
     const std::string head(1000, 'x');
     for (int name = 0; name < 20000; ++name) {
