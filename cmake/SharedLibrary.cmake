@@ -36,6 +36,7 @@ add_library(columnimport SHARED
     dialogs/quietSentence.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
+    dragdrop/${platform}/AccessibleRows.cpp
     dragdrop/${platform}/RowMarks.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
@@ -66,6 +67,7 @@ if(WIN32)
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
 else()
     target_sources(columnimport PRIVATE
+        dragdrop/gtk/AccessibleRow.cpp
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/markColours.cpp

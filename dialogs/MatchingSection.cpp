@@ -112,7 +112,6 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, scale(245));
 
     columnimport::setAccessibleName(*files, "File columns");
-    columnimport::setAccessibleName(*matches, "Column matching");
 
     m_matchDropTarget = new TextDropTarget(*matches);
     matches->SetDropTarget(m_matchDropTarget);

@@ -13,7 +13,8 @@ namespace columnimport {
 
 ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                                const wxSize &size)
-    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this), m_keys(*this) {
+    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this),
+      m_accessible(*this, m_marks, "Column matching"), m_keys(*this) {
     Bind(wxEVT_LEFT_DOWN, &ListCtrlSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_UP, &ListCtrlSource::onLeftUp, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListCtrlSource::onMouseMove, this, wxID_ANY, wxID_ANY);
@@ -38,6 +39,7 @@ std::string ListCtrlSource::getMatchText(int row) const {
 void ListCtrlSource::setMatchText(long row, const wxString &text) {
     SetItem(row, matchColumn, text, -1);
     applyMatchFont(row);
+    m_accessible.tell({row});
 }
 
 void ListCtrlSource::setMarkedMatchTexts(const wxString &text) {

@@ -2,7 +2,8 @@
 
 #pragma once
 
-#include "RowMarks.h" // of the platform
+#include "AccessibleRows.h" // of the platform
+#include "RowMarks.h"       // of the platform
 #include "dragdrop/MatchListKeys.h"
 #include "names/NameBook.h"
 
@@ -83,6 +84,7 @@ private:
 
     NameBook m_names;
     RowMarks m_marks;
+    AccessibleRows m_accessible;
     std::int32_t m_lastClickedRow = -1; // the anchor of a Shift range; survives a refresh
     MatchListKeys m_keys;
 };

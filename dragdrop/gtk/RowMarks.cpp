@@ -31,6 +31,9 @@ void RowMarks::set(long row, bool marked) {
                    : MarkColours{m_list.GetBackgroundColour(), m_list.GetForegroundColour()};
         m_list.SetItemBackgroundColour(row, colours.ground);
         m_list.SetItemTextColour(row, colours.text);
+        if (m_changed) {
+            m_changed(row);
+        }
     }
 }
 

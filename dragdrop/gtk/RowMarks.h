@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 class wxListCtrl;
@@ -22,8 +24,12 @@ public:
     /// The first marked row behind `row`, or -1.
     long next(long row) const;
 
+    /// From now on `changed` is called whenever a row has been marked or is no more.
+    void onChange(std::function<void(long row)> changed) { m_changed = std::move(changed); }
+
 private:
     wxListCtrl &m_list;
+    std::function<void(long)> m_changed;
     std::vector<bool> m_marked; // rows behind its end are not marked
 };
 

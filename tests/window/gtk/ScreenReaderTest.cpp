@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+
+// The dialog for a person who hears it: another program does everything through the library that
+// screen readers use.
+
+#include "person/DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+
+TEST(ScreenReader, HearsEverythingAndActsWithoutAPointerOrKeys) {
+    const ScratchFile file("HOLE,AU,CU\n");
+    DialogRun run;
+    run.fileName = file.path();
+    run.appColumns = {"hole", "gold", "copper"};
+    run.useSavedMatches = true;
+    run.matches = {"HOLE", "", ""};
+    EXPECT_TRUE(run.show([](Person &) { EXPECT_EQ(std::system(SCREEN_READER), 0); }));
+    EXPECT_EQ(run.matches, (Names{"HOLE", "", ""}));
+}

@@ -1,0 +1,57 @@
+#!/usr/bin/python3
+# SPDX-License-Identifier: MIT
+"""Hears the dialog as a screen reader does, and acts in it by that way alone."""
+
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+
+def expect(what, look, wanted=True):
+    end = time.monotonic() + 20
+    while (found := look()) != wanted:
+        assert time.monotonic() < end, f"{what}: {found!r} instead of {wanted!r}"
+        GLib.MainContext.default().iteration(False)
+
+
+def below(node):
+    yield node
+    for index in range(node.get_child_count()):
+        yield from below(node.get_child_at_index(index))
+
+
+def find(role, name):
+    return next((node for node in below(Atspi.get_desktop(0))
+                 if node.get_role_name() == role and node.get_name() == name), None)
+
+
+def states(node):
+    node.clear_cache()
+    return {state.value_nick for state in node.get_state_set().get_states()}
+
+
+def names(node):
+    return [node.get_child_at_index(row).get_name() for row in range(node.get_child_count())]
+
+
+heard = []
+ears = Atspi.EventListener.new(lambda event: heard.append(event.any_data))
+ears.register("object:announcement")
+
+expect("the dialog is there", lambda: find("push button", "OK") is not None)
+unnamed = [node.get_role_name() for node in below(find("frame", "Import"))
+           if "focusable" in states(node) and not node.get_name()]
+expect("what takes the focus without a name", lambda: unnamed, [])
+
+rows = find("list", "Column matching")
+expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: Not used"])
+rows.get_child_at_index(0).grab_focus()
+expect("the current row", lambda: "focused" in states(rows.get_child_at_index(0)))
+rows.select_child(2)
+expect("the marked rows", lambda: [row for row in range(3) if rows.is_child_selected(row)], [2])
+expect("a mark", lambda: "selected" in states(rows.get_child_at_index(2)))
+
+find("push button", "OK").do_action(0)
