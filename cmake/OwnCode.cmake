@@ -23,7 +23,7 @@ function(columnimport_own_code target)
         return()
     endif()
     target_compile_options(${target} PRIVATE
-        -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+        -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${COLUMNIMPORT_WERROR}>:-Werror>
         -fstack-protector-strong -Wformat -Werror=format-security)
     if(COLUMNIMPORT_SANITIZERS)
         target_compile_options(${target} PRIVATE

@@ -25,8 +25,7 @@ add_subdirectory(names)
 
 add_library(columnimport SHARED
     dialogs/${platform}/Scale.cpp
-    dialogs/${platform}/SmallControls.cpp
-    dialogs/${platform}/accessibleName.cpp
+    dialogs/${platform}/nativeControls.cpp
     dialogs/HeaderSection.cpp
     dialogs/MatchingSection.cpp
     dialogs/Scale.cpp
@@ -45,13 +44,12 @@ add_library(columnimport SHARED
     dragdrop/clipboard.cpp
     dragdrop/dragText.cpp
     dragdrop/tipWhereCut.cpp
+    host/${platform}/HostStandIn.cpp
     host/${platform}/modalLoop.cpp
-    host/${platform}/nativeWindow.cpp
-    host/${platform}/toolkit.cpp
-    host/ApplicationObject.cpp
-    host/HostStandIn.cpp
+    host/${platform}/startToolkit.cpp
     host/OpenRun.cpp
     host/runDialog.cpp
+    host/toolkit.cpp
     host/wxImportCSVDialogPeer.cpp)
 add_library(columnimport::columnimport ALIAS columnimport)
 generate_export_header(columnimport)
@@ -71,7 +69,6 @@ else()
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/markColours.cpp
-        host/gtk/QuietStart.cpp
         host/gtk/frameShadow.cpp)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a

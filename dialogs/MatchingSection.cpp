@@ -6,9 +6,9 @@
 #include "dialogs/wxImportCSVDialog.h"
 
 #include "dialogs/Scale.h"
-#include "dialogs/accessibleName.h"
 #include "dialogs/arrowBitmap.h"
 #include "dialogs/matchTexts.h"
+#include "dialogs/nativeControls.h"
 #include "dialogs/quietSentence.h"
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"

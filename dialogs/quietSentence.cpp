@@ -2,7 +2,7 @@
 
 #include "dialogs/quietSentence.h"
 
-#include "dialogs/accessibleName.h"
+#include "dialogs/nativeControls.h"
 #include "dragdrop/controls.h"
 
 #include <array>

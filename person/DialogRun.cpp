@@ -21,7 +21,7 @@ bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
                 poll("the dialog is closed", [&over] {
                     return over.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
                 });
-            } catch (const GivenUp &) {
+            } catch (...) {
                 onUserInterface([] {
                     if (isDialogOpen()) {
                         openDialog().EndModal(wxID_CANCEL);

@@ -14,8 +14,8 @@
 using Steps = std::function<void(Person &)>;
 
 /// Has a person take `steps` in the dialog that `show` opens, from the moment when it stands, and
-/// returns what `show` returns. A person who gives up leaves through Cancel, and `GivenUp` is
-/// thrown.
+/// returns what `show` returns. A person who throws leaves through Cancel, and that is thrown
+/// here.
 bool runWithPerson(const Steps &steps, const std::function<bool()> &show);
 
 /// One modal run: what goes in, what a person does meanwhile, and what came out. The defaults are

@@ -47,6 +47,14 @@ wxDialog &openDialog() {
     return *dialog;
 }
 
+wxWindow &controlOf(int id) {
+    wxWindow *found = openDialog().FindWindow(id);
+    if (found == nullptr) {
+        throw GivenUp("the dialog has no control " + std::to_string(id));
+    }
+    return *found;
+}
+
 wxListBox &fileList() {
     return control<wxListBox>(wxImportCSVDialog::LISTBOX_FILE);
 }

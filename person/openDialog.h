@@ -19,9 +19,10 @@ wxListBox &fileList();
 wxListCtrl &matchList();
 
 /// A control of the dialog, by its identifier.
+wxWindow &controlOf(int id);
 template <typename Control = wxWindow>
 Control &control(int id) {
-    return dynamic_cast<Control &>(*openDialog().FindWindow(id));
+    return dynamic_cast<Control &>(controlOf(id));
 }
 
 // What is to be read of it; to be used on a person's thread.

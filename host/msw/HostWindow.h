@@ -4,7 +4,7 @@
 
 struct HWND__;
 
-/// What is not a class of the library itself.
+/// The library's names beside those of its classes, which begin with wxImport.
 namespace columnimport {
 
 /// The native handle of a host's window: what the platform's headers call an HWND.

@@ -5,7 +5,11 @@
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
+#include <atomic>
+
 #include <gtest/gtest.h>
+#include <wx/app.h>
+#include <wx/log.h>
 #include <wxImportCSVDialog.h>
 
 namespace {
@@ -94,18 +98,38 @@ TEST_F(Outcome, PeersShareWhatTheFirstOneSetUp) {
     EXPECT_TRUE(run.show(pressOk));
 }
 
-TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpen) {
+TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpenAndItsPeerReplacesNothing) {
     DialogRun second = run;
     second.matches = {"kept"};
     EXPECT_TRUE(run.show([&second](Person &person) {
         onUserInterface([&second] {
+            const auto *application = wxApp::GetInstance();
             EXPECT_FALSE(wxImportCSVDialogPeer().showWindow(
                 nullptr, "Second", second.appColumns, second.fileName, &second.useSavedMatches,
                 &second.matches, &second.delimiter, &second.firstLineHeader, 900, 900));
+            EXPECT_EQ(wxApp::GetInstance(), application);
         });
         pressOk(person);
     }));
     EXPECT_EQ(second.matches, Names{"kept"});
+}
+
+TEST_F(Outcome, HasNoWordOfTheToolkitForTheUser) {
+    EXPECT_TRUE(run.show([](Person &person) {
+        std::atomic<bool> hasGoneOn = false;
+        onUserInterface([&hasGoneOn] {
+            EXPECT_FALSE(wxLog::IsEnabled());
+            openDialog().CallAfter([&hasGoneOn, handler = wxTheAssertHandler] {
+                wxSetDefaultAssertHandler();
+                wxFAIL;
+                wxSetAssertHandler(handler);
+                hasGoneOn = true;
+            });
+        });
+        poll("no box is open", [&hasGoneOn] { return hasGoneOn.load(); });
+        pressOk(person);
+    }));
+    EXPECT_TRUE(wxLog::IsEnabled());
 }
 
 TEST_F(Outcome, OfAnExceptionIsTheHostsToCatch) {

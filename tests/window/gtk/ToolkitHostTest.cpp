@@ -7,6 +7,7 @@
 #include "tests/ScratchFile.h"
 
 #include <functional>
+#include <memory>
 #include <utility>
 
 #include <gtest/gtest.h>
@@ -18,13 +19,20 @@
 
 namespace {
 
-class HostApplication : public wxApp {};
+bool hasEnded = false;
 
-/// Does `work` in the main loop of such a host, which ends with its only window.
+class HostApplication : public wxApp {
+public:
+    HostApplication() { hasEnded = false; }
+    ~HostApplication() override { hasEnded = true; }
+};
+
+/// Does `work` in the main loop of such a host, which ends with its only window, and the toolkit
+/// with the host.
 void inHost(const std::function<void(wxFrame &)> &work) {
     auto *application = new HostApplication;
     wxApp::SetInstance(application);
-    const wxInitializer toolkit;
+    auto toolkit = std::make_unique<wxInitializer>();
     auto *frame = new wxFrame(nullptr, wxImportCSVDialog::LISTBOX_MATCH, "Host");
     for (int id = 1; id <= 10; ++id) {
         new wxButton(frame, id, "Import");
@@ -42,6 +50,8 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     frame->Show();
     EXPECT_EQ(application->OnRun(), 0);
     EXPECT_EQ(wxApp::GetInstance(), application);
+    toolkit.reset();
+    EXPECT_TRUE(hasEnded);
 }
 
 bool runItself(wxImportCSVDialog &dialog, const Steps &steps) {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/nativeWindow.h"
+#include "host/HostStandIn.h"
 
 #include <wx/msw/private.h>
 #include <wx/window.h>
@@ -21,23 +21,32 @@ LONG_PTR formerControlParentBit = 0;
 
 // The root of a control is the window that it is in; of the desktop, or of no window, there is
 // none.
-HostWindow ownerOf(HostWindow hostWindow) {
-    return IsWindow(hostWindow) != FALSE ? GetAncestor(hostWindow, GA_ROOT) : nullptr;
+HostStandIn::HostStandIn(HostWindow hostWindow) {
+    HWND owner = IsWindow(hostWindow) != FALSE ? GetAncestor(hostWindow, GA_ROOT) : nullptr;
+    if (owner == nullptr) {
+        return;
+    }
+    formerControlParentBit = controlParentBit(owner);
+    m_window = std::make_unique<wxWindow>();
+    m_window->SetHWND(owner);
+    m_window->AdoptAttributesFromHWND();
+    wxTopLevelWindows.Append(m_window.get());
 }
 
-void attach(wxWindow &standIn, HostWindow hostWindow) {
-    formerControlParentBit = controlParentBit(hostWindow);
-    standIn.SetHWND(hostWindow);
-    standIn.AdoptAttributesFromHWND();
+HostStandIn::~HostStandIn() {
+    release();
 }
 
-void detach(wxWindow &standIn) {
-    HWND window = standIn.GetHWND();
+void HostStandIn::release() {
+    if (!m_window) {
+        return;
+    }
+    HWND window = m_window->GetHWND();
     if (IsWindow(window) != FALSE && controlParentBit(window) != formerControlParentBit) {
         const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
         SetWindowLongPtrW(window, GWL_EXSTYLE, style ^ WS_EX_CONTROLPARENT);
     }
-    standIn.SetHWND(nullptr);
+    m_window->SetHWND(nullptr);
 }
 
 } // namespace columnimport

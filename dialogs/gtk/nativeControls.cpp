@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-#include "dialogs/SmallControls.h"
+#include "dialogs/nativeControls.h"
 
 #include <gtk/gtk.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+#include <wx/window.h>
 
 namespace columnimport {
 
@@ -29,6 +30,29 @@ void cutLongLines(wxStaticText &text) {
     GtkLabel *label = GTK_LABEL(text.GetHandle());
     gtk_label_set_line_wrap(label, FALSE);
     gtk_label_set_ellipsize(label, PANGO_ELLIPSIZE_END);
+}
+
+namespace {
+
+void setName(GtkWidget *widget, const wxString &name) {
+    atk_object_set_name(gtk_widget_get_accessible(widget), name.utf8_str());
+}
+
+} // namespace
+
+// A list is several widgets, and the reader stops at the one that takes the keys.
+void setAccessibleName(wxWindow &control, const wxString &name) {
+    setName(control.GetHandle(), name);
+    if (control.m_focusWidget != nullptr) {
+        setName(control.m_focusWidget, name);
+    }
+    for (wxWindow *part : control.GetChildren()) {
+        setAccessibleName(*part, name);
+    }
+}
+
+void announceWhenShown(wxWindow &control) {
+    atk_object_set_role(gtk_widget_get_accessible(control.GetHandle()), ATK_ROLE_NOTIFICATION);
 }
 
 } // namespace columnimport

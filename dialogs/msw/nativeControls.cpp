@@ -1,12 +1,22 @@
 // SPDX-License-Identifier: MIT
 
-#include "dialogs/accessibleName.h"
+#include "dialogs/nativeControls.h"
 
 #include <wx/access.h>
 #include <wx/msw/private.h>
+#include <wx/stattext.h>
 #include <wx/window.h>
 
 namespace columnimport {
+
+// The native control shows its character at any height.
+void fitOneCharacter(wxTextCtrl &) {}
+
+// The native control wraps lines unless it is told that each stays one, and cuts it at its edge.
+void cutLongLines(wxStaticText &text) {
+    const LONG_PTR style = GetWindowLongPtrW(text.GetHWND(), GWL_STYLE);
+    SetWindowLongPtrW(text.GetHWND(), GWL_STYLE, (style & ~SS_TYPEMASK) | SS_LEFTNOWORDWRAP);
+}
 
 #if wxUSE_ACCESSIBILITY
 

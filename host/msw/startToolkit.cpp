@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: MIT
+
+#include "host/startToolkit.h"
+
+#include <wx/init.h>
+#include <wx/msw/private.h>
+
+namespace columnimport {
+
+bool hasDisplay() {
+    return true;
+}
+
+// As the toolkit is never shut down, this library stays too when a host lets go of it.
+void startToolkit() {
+    new wxInitializer;
+    HMODULE library = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<const wchar_t *>(&startToolkit), &library);
+}
+
+} // namespace columnimport

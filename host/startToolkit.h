@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace columnimport {
+
+// Each platform has a file of its own for these.
+
+/// Whether there is a display for the toolkit.
+bool hasDisplay();
+
+/// Starts the toolkit, with the application object that stands, or counts one more user of it. It
+/// is never shut down.
+void startToolkit();
+
+} // namespace columnimport

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+
+#include "host/toolkit.h"
+
+#include "host/startToolkit.h"
+
+#include <wx/app.h>
+#include <wx/module.h>
+#include <wx/window.h>
+
+namespace columnimport {
+
+namespace {
+
+class Application : public wxApp {
+public:
+    /// Lets an exception go on to the host. On some platforms the toolkit would ask the user what
+    /// to do with it.
+    bool OnExceptionInMainLoop() override { throw; }
+
+    /// Goes on. The toolkit would ask the user, who can't know, and has the host stand still.
+    void OnAssertFailure(const wxChar *, int, const wxChar *, const wxChar *,
+                         const wxChar *) override {}
+};
+
+} // namespace
+
+// An object that was replaced is not deleted: the toolkit may still know it.
+void setUpToolkit() {
+    static const wxAppConsole *ours = nullptr;
+    if (wxApp::GetInstance() != ours || !wxTopLevelWindows.empty() || !hasDisplay()) {
+        return;
+    }
+    auto *application = new Application;
+    wxApp::SetInstance(application);
+    ours = application;
+    startToolkit();
+}
+
+bool isToolkitSetUp() {
+    return wxModule::AreInitialized();
+}
+
+} // namespace columnimport
