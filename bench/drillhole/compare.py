@@ -1,8 +1,11 @@
 # SPDX-License-Identifier: MIT
 
-"""Times an import of assays by a program and by the shell of SQLite, alternately, and prints the
-medians as a table. Both put the same columns of the same file into a table of the same kind."""
+"""Times an import of assays by a program and by the shell of SQLite, alternately, then by the
+program and by \\copy in the shell of PostgreSQL, and prints the medians with their spread as a
+table. Both put the same columns of the same file into a table of the same kind. The variables of
+PostgreSQL's tools say where its server is."""
 
+import os
 import pathlib
 import random
 import statistics
@@ -10,7 +13,7 @@ import subprocess
 import sys
 import time
 
-RUNS = 5
+RUNS = 3
 HOLES = 500
 TABLES = """
 create table collar (holename text not null, easting double precision not null,
@@ -35,42 +38,87 @@ def write_assays(path, rows):
             )
 
 
-def new_database(path):
-    path.unlink(missing_ok=True)
+def with_collars():
     holes = ",".join(f"('LR-{hole:03}', {hole}, {hole}, 0, 0)" for hole in range(HOLES))
-    subprocess.run(["sqlite3", path, f"{TABLES} insert into collar values {holes};"], check=True)
+    return f"{TABLES} insert into collar values {holes};"
 
 
-def timed(command):
+class Sqlite:
+    name = "SQLite"
+
+    def __init__(self, folder):
+        self.database = folder / "holes.sqlite"
+
+    def make_anew(self):
+        self.database.unlink(missing_ok=True)
+        self.ask(with_collars())
+
+    def ask(self, commands):
+        subprocess.run(["sqlite3", self.database, commands], check=True)
+
+    def copy(self, file):
+        self.ask(f".import --csv --skip 1 {file} assay")
+
+
+class Postgres:
+    name = "PostgreSQL"
+
+    def __init__(self, _):
+        settings = {"host": "PGHOST", "port": "PGPORT", "user": "PGUSER", "password": "PGPASSWORD",
+                    "dbname": "PGDATABASE"}
+        self.database = "postgresql://" + " ".join(
+            f"{name}={os.environ[variable]}" for name, variable in settings.items()
+        )
+
+    def make_anew(self):
+        self.ask("drop table if exists collar, assay")
+        self.ask(with_collars())
+
+    def ask(self, commands):
+        subprocess.run(["psql", "-q", "-v", "ON_ERROR_STOP=1", "-c", commands], check=True,
+                       stderr=subprocess.DEVNULL)
+
+    def copy(self, file):
+        self.ask(f"\\copy assay from '{file}' with (format csv, header)")
+
+
+def timed(work, *arguments, **options):
     start = time.monotonic()
-    out = subprocess.run(command, check=True, capture_output=True, text=True).stdout
-    return time.monotonic() - start, out
+    result = work(*arguments, **options)
+    return time.monotonic() - start, result
+
+
+def spread(seconds):
+    return f"{statistics.median(seconds):.2f} s ({min(seconds):.2f} to {max(seconds):.2f})"
 
 
 def main():
     program, folder = sys.argv[1], pathlib.Path(sys.argv[2])
-    database = folder / "holes.sqlite"
-    print("\n| Rows | Program | Rows a second | Shell | Ratio | Peak memory | Longest wait |")
-    print("|--:|--:|--:|--:|--:|--:|--:|")
-    for rows in (10_000, 1_000_000):
+    print("\n| Database | Rows | Program | Rows a second | Its shell | Ratio | Peak memory "
+          "| Longest wait |")
+    print("|---|--:|--:|--:|--:|--:|--:|--:|")
+    for target, rows in ((Sqlite, 10_000), (Sqlite, 1_000_000), (Sqlite, 5_000_000),
+                         (Postgres, 1_000_000)):
+        database = target(folder)
         file = folder / "assays.csv"
         write_assays(file, rows)
         ours, shells, peaks, waits = [], [], [], []
         for _ in range(RUNS):
-            new_database(database)
-            seconds, out = timed([program, file, database])
-            taken, peak, wait = map(int, out.split())
-            assert taken == rows, out
+            database.make_anew()
+            seconds, done = timed(subprocess.run, [program, file, database.database], check=True,
+                                  capture_output=True, text=True)
+            taken, peak, wait = map(int, done.stdout.split())
+            assert taken == rows, done
             ours.append(seconds)
             peaks.append(peak)
             waits.append(wait)
-            new_database(database)
-            seconds, _ = timed(["sqlite3", database, f".import --csv --skip 1 {file} assay"])
-            shells.append(seconds)
+            database.make_anew()
+            shells.append(timed(database.copy, file)[0])
         own, shell = statistics.median(ours), statistics.median(shells)
         print(
-            f"| {rows:,} | {own:.2f} s | {rows / own:,.0f} | {shell:.2f} s | {own / shell:.2f} "
-            f"| {max(peaks) / 1024:.0f} MB | {max(waits)} ms |"
+            f"| {database.name} | {rows:,} | {spread(ours)} | {rows / own:,.0f} "
+            f"| {spread(shells)} | {own / shell:.2f} | {max(peaks) / 1024:.0f} MB | {max(waits)} ms |",
+            flush=True,
         )
     print()
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 // Imports a file of assays as the program does, on the thread of the database beside a main loop.
-//   drillhole_bench ASSAYS.csv HOLES.sqlite
+//   drillhole_bench ASSAYS.csv DATABASE
 // Prints the rows taken, the peak of the memory in kB, and the longest time in milliseconds that
 // the main loop was kept waiting.
 
@@ -34,7 +34,7 @@ long peakMemory() {
 
 int main(int argc, char **argv) {
     if (argc != 3) {
-        std::cerr << "usage: drillhole_bench ASSAYS.csv HOLES.sqlite\n";
+        std::cerr << "usage: drillhole_bench ASSAYS.csv DATABASE\n";
         return 2;
     }
     Glib::init();
@@ -61,7 +61,7 @@ int main(int argc, char **argv) {
             const Table &assays = *findTable("assay");
             const FileMatch match{
                 {"BHID", "FROM", "TO", "Au", "Cu", "Zn", "DUP", "BLANK", "STD"}, ',', true};
-            outcome = importFile({holes, assays, database + ".refused.csv", false}, file, match,
+            outcome = importFile({holes, assays, file + ".refused.csv", false}, file, match,
                                  progress);
         },
         [&](const std::string &fault) {

@@ -2,9 +2,18 @@
 
 #include "examples/drillhole/database/holeDatabase.h"
 
+#include "examples/drillhole/rows/Fault.h"
+
+#include <array>
+#include <charconv>
+
+#include <soci/postgresql/soci-postgresql.h>
+
 namespace drillhole {
 
 namespace {
+
+constexpr std::size_t linesAtOnce = 65536; // bytes
 
 /// The names of the columns, each with the text before it, separated by commas.
 std::string columnList(const Table &table, const std::string &before = {}) {
@@ -26,11 +35,63 @@ std::string definitionOf(const Table &table) {
     return "create table if not exists " + table.name + " (" + definition + key + ')';
 }
 
+bool hasColumns(soci::session &session, const Table &table) {
+    try {
+        session << "select " + columnList(table) + " from " + table.name + " where 1 = 0";
+        return true;
+    } catch (const soci::soci_error &) {
+        return false;
+    }
+}
+
+void appendText(std::string &line, const std::string &text) {
+    for (const char byte : text) {
+        switch (byte) {
+        case '\\':
+            line += "\\\\";
+            break;
+        case '\t':
+            line += "\\t";
+            break;
+        case '\n':
+            line += "\\n";
+            break;
+        case '\r':
+            line += "\\r";
+            break;
+        default:
+            line += byte;
+        }
+    }
+}
+
+void appendNumber(std::string &line, double number) {
+    std::array<char, 32> digits{};
+    line.append(digits.data(), std::to_chars(digits.begin(), digits.end(), number).ptr);
+}
+
+/// Throws what the server reports instead of the result that was expected.
+void expectOf(PGconn *server, PGresult *given, ExecStatusType expected) {
+    const std::unique_ptr<PGresult, decltype(&PQclear)> result(given, &PQclear);
+    if (PQresultStatus(given) != expected) {
+        const char *state = PQresultErrorField(given, PG_DIAG_SQLSTATE);
+        throw soci::postgresql_soci_error(PQerrorMessage(server), state ? state : "08006");
+    }
+}
+
 } // namespace
 
 void makeHoleTables(soci::session &session) {
     for (const Table &table : holeTables()) {
+        if (hasColumns(session, table)) {
+            continue; // also where the account may not make a table
+        }
         session << definitionOf(table);
+        if (!hasColumns(session, table)) {
+            throw Fault("The table " + table.name +
+                        " there has other columns than the program's "
+                        "own. Choose another database for the drill holes.");
+        }
     }
 }
 
@@ -88,6 +149,13 @@ std::vector<Collar> collarsOf(soci::session &session) {
 RowInsertion::RowInsertion(soci::session &session, const Table &table)
     : m_table(table), m_numbers(table.columns.size()), m_texts(table.columns.size()),
       m_indicators(table.columns.size()), m_statement(session) {
+    const std::string target = table.name + " (" + columnList(table) + ')';
+    if (session.get_backend_name() == "postgresql") {
+        m_server = static_cast<soci::postgresql_session_backend *>(session.get_backend())->conn_;
+        expectOf(m_server, PQexec(m_server, ("copy " + target + " from stdin").c_str()),
+                 PGRES_COPY_IN);
+        return;
+    }
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         if (table.columns[i].kind == Kind::number) {
             m_statement.exchange(soci::use(m_numbers[i], m_indicators[i]));
@@ -96,21 +164,55 @@ RowInsertion::RowInsertion(soci::session &session, const Table &table)
         }
     }
     m_statement.alloc();
-    m_statement.prepare("insert into " + table.name + " (" + columnList(table) + ") values (" +
-                        columnList(table, ":") + ')');
+    m_statement.prepare("insert into " + target + " values (" + columnList(table, ":") + ')');
     m_statement.define_and_bind();
 }
 
 void RowInsertion::insert(const std::vector<Value> &values) {
     for (std::size_t i = 0; i < values.size(); ++i) {
+        const bool isNumber = m_table.columns[i].kind == Kind::number;
+        if (m_server != nullptr) {
+            m_lines += i == 0 ? "" : "\t";
+            if (values[i].isNull) {
+                m_lines += "\\N";
+            } else if (isNumber) {
+                appendNumber(m_lines, values[i].number);
+            } else {
+                appendText(m_lines, values[i].text);
+            }
+            continue;
+        }
         m_indicators[i] = values[i].isNull ? soci::i_null : soci::i_ok;
-        if (m_table.columns[i].kind == Kind::number) {
+        if (isNumber) {
             m_numbers[i] = values[i].number;
         } else if (!values[i].isNull) {
             m_texts[i] = values[i].text;
         }
     }
-    m_statement.execute(true);
+    if (m_server == nullptr) {
+        m_statement.execute(true);
+        return;
+    }
+    m_lines += '\n';
+    if (m_lines.size() > linesAtOnce) {
+        sendLines();
+    }
+}
+
+void RowInsertion::sendLines() {
+    if (PQputCopyData(m_server, m_lines.data(), static_cast<int>(m_lines.size())) != 1) {
+        throw soci::postgresql_soci_error(PQerrorMessage(m_server), "08006");
+    }
+    m_lines.clear();
+}
+
+void RowInsertion::finish() {
+    if (m_server != nullptr) {
+        sendLines();
+        PQputCopyEnd(m_server, nullptr);
+        expectOf(m_server, PQgetResult(m_server), PGRES_COMMAND_OK);
+        PQclear(PQgetResult(m_server)); // none: the COPY is over
+    }
 }
 
 } // namespace drillhole

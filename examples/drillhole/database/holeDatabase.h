@@ -4,15 +4,14 @@
 
 #include "examples/drillhole/rows/RowCheck.h"
 
-#include <memory>
-
+#include <libpq-fe.h>
 #include <soci/soci.h>
 
 namespace drillhole {
 
 // What the program asks of the database that its drill holes are in.
 
-/// Makes those of the tables that are missing.
+/// Makes those of the tables that are missing. Throws a Fault if one has other columns.
 void makeHoleTables(soci::session &session);
 
 std::size_t rowCount(soci::session &session, const Table &table);
@@ -32,15 +31,22 @@ struct Collar {
 
 std::vector<Collar> collarsOf(soci::session &session);
 
-/// Puts rows into a table, one after the other.
+/// Puts rows into a table, one after the other. A server of PostgreSQL gets them in bulk.
 class RowInsertion {
 public:
     RowInsertion(soci::session &session, const Table &table);
 
     void insert(const std::vector<Value> &values);
 
+    /// Hands on what is left. Until then the session can't be asked for anything else.
+    void finish();
+
 private:
+    void sendLines();
+
     const Table &m_table;
+    PGconn *m_server = nullptr; ///< null if it is no server of PostgreSQL
+    std::string m_lines;        ///< for the server, as COPY wants them
     // What the statement is bound to: one of each for every column.
     std::vector<double> m_numbers;
     std::vector<std::string> m_texts;
