@@ -26,6 +26,7 @@ add_subdirectory(names)
 add_library(columnimport SHARED
     dialogs/${platform}/Scale.cpp
     dialogs/${platform}/nativeControls.cpp
+    dialogs/DelimiterField.cpp
     dialogs/HeaderSection.cpp
     dialogs/MatchingSection.cpp
     dialogs/Scale.cpp

@@ -7,6 +7,7 @@
 
 #include "delimited/readHeader.h"
 #include "delimited/readPreview.h"
+#include "dialogs/DelimiterField.h"
 #include "dialogs/Scale.h"
 #include "dialogs/headerSentence.h"
 #include "dialogs/nativeControls.h"
@@ -61,14 +62,8 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
 
     auto *label = new wxStaticText(options->GetStaticBox(), wxID_ANY,
                                    "Field Delimiter ('S' for 'space' 'T' for 'tab')");
-    auto *delimiter = new wxTextCtrl(options->GetStaticBox(), TXT_DELIMITER,
-                                     columnimport::decoded(std::string(1, m_delimiter)),
-                                     wxDefaultPosition, scale(wxSize(25, 20)));
-    delimiter->SetMaxLength(1);
-    columnimport::fitOneCharacter(*delimiter);
-    columnimport::setAccessibleName(*delimiter, "Field delimiter");
-    delimiter->SetToolTip("One character, taken as it stands; a tab can be pasted.\n"
-                          "Another one cuts the first line anew and matches its columns afresh.");
+    auto *delimiter = new columnimport::DelimiterField(options->GetStaticBox(), TXT_DELIMITER,
+                                                       m_delimiter, scale(wxSize(25, 20)));
     delimiterRow->Add(label);
     delimiterRow->AddSpacer(scale(10));
     delimiterRow->Add(delimiter);

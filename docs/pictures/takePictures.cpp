@@ -108,6 +108,16 @@ void takeDelimiter() {
     });
 }
 
+void takeDelimiterMenu() {
+    runOf("Import surveys", surveyColumns, "surveys_fr.csv").show([](Person &person) {
+        person.click(wxImportCSVDialog::TXT_DELIMITER);
+        person.strike(WXK_DOWN);
+        takePicture("delimiter-menu");
+        person.strike(WXK_ESCAPE);
+        pressCancel(person);
+    });
+}
+
 void takePositions() {
     DialogRun run = runOf("Import surveys", surveyColumns, "surveys_without_titles.csv");
     run.firstLineHeader = false;
@@ -144,6 +154,7 @@ int main(int argumentCount, char **arguments) {
         takeDrag();
         takeMarks();
         takeDelimiter();
+        takeDelimiterMenu();
         takePositions();
         takeTable();
     } catch (const std::exception &problem) {

@@ -33,6 +33,8 @@ unsigned keysymOf(int key) {
         return GDK_KEY_Right;
     case WXK_DOWN:
         return GDK_KEY_Down;
+    case WXK_WINDOWS_MENU:
+        return GDK_KEY_Menu;
     default:
         return static_cast<unsigned>(key);
     }

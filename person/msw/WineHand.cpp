@@ -40,6 +40,8 @@ std::string nameOf(int key) {
         return "Right";
     case WXK_DOWN:
         return "Down";
+    case WXK_WINDOWS_MENU:
+        return "Menu";
     default:
         char name[8];
         std::snprintf(name, sizeof name, "U%04X", static_cast<unsigned>(key));

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+
+#include "dialogs/DelimiterField.h"
+
+#include "dialogs/nativeControls.h"
+#include "names/nameText.h"
+
+#include <string>
+
+#include <wx/menu.h>
+
+namespace columnimport {
+
+namespace {
+
+struct Delimiter {
+    const char *name;
+    char character;
+};
+
+constexpr Delimiter usualDelimiters[] = {
+    {"Comma", ','}, {"Semicolon", ';'}, {"Tab", '\t'}, {"Space", ' '}, {"Bar", '|'},
+};
+
+} // namespace
+
+DelimiterField::DelimiterField(wxWindow *parent, wxWindowID id, char delimiter, const wxSize &size)
+    : wxTextCtrl(parent, id, decoded(std::string(1, delimiter)), wxDefaultPosition, size) {
+    SetMaxLength(1);
+    fitOneCharacter(*this);
+    setAccessibleName(*this, "Field delimiter");
+    SetToolTip("One character, taken as it stands; a tab can be pasted.\n"
+               "Another one cuts the first line anew and matches its columns afresh.");
+    Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent &event) {
+        selectSoon();
+        event.Skip();
+    });
+    Bind(wxEVT_LEFT_UP, [this](wxMouseEvent &event) {
+        selectSoon();
+        event.Skip();
+    });
+    Bind(wxEVT_KEY_DOWN, &DelimiterField::onKeyDown, this);
+    Bind(wxEVT_CONTEXT_MENU, &DelimiterField::onContextMenu, this);
+}
+
+// Behind the control's own answer, which puts the cursor somewhere.
+void DelimiterField::selectSoon() {
+    CallAfter([this] { SelectAll(); });
+}
+
+void DelimiterField::onKeyDown(wxKeyEvent &event) {
+    if (event.GetKeyCode() == WXK_DOWN || event.GetKeyCode() == WXK_NUMPAD_DOWN) {
+        offer(wxPoint(0, GetSize().y));
+    } else {
+        event.Skip();
+    }
+}
+
+void DelimiterField::onContextMenu(wxContextMenuEvent &event) {
+    const bool isByKey = event.GetPosition() == wxDefaultPosition;
+    offer(isByKey ? wxPoint(0, GetSize().y) : ScreenToClient(event.GetPosition()));
+}
+
+void DelimiterField::offer(const wxPoint &position) {
+    wxMenu menu;
+    for (const Delimiter &usual : usualDelimiters) {
+        const wxString text(usual.character);
+        wxMenuItem *item = menu.AppendCheckItem(wxID_ANY, usual.name);
+        item->Check(GetValue() == text);
+        menu.Bind(
+            wxEVT_MENU, [this, text](wxCommandEvent &) { SetValue(text); }, item->GetId());
+    }
+    menu.AppendSeparator();
+    menu.Append(wxID_PASTE);
+    SelectAll();
+    PopupMenu(&menu, position);
+    SelectAll();
+}
+
+} // namespace columnimport
