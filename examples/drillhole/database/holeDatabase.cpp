@@ -6,6 +6,7 @@
 
 #include <array>
 #include <charconv>
+#include <utility>
 
 #include <soci/postgresql/soci-postgresql.h>
 
@@ -147,13 +148,11 @@ std::vector<Collar> collarsOf(soci::session &session) {
 }
 
 RowInsertion::RowInsertion(soci::session &session, const Table &table)
-    : m_table(table), m_numbers(table.columns.size()), m_texts(table.columns.size()),
+    : m_table(table), m_target(table.name + " (" + columnList(table) + ')'),
+      m_numbers(table.columns.size()), m_texts(table.columns.size()),
       m_indicators(table.columns.size()), m_statement(session) {
-    const std::string target = table.name + " (" + columnList(table) + ')';
     if (session.get_backend_name() == "postgresql") {
         m_server = static_cast<soci::postgresql_session_backend *>(session.get_backend())->conn_;
-        expectOf(m_server, PQexec(m_server, ("copy " + target + " from stdin").c_str()),
-                 PGRES_COPY_IN);
         return;
     }
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
@@ -164,7 +163,7 @@ RowInsertion::RowInsertion(soci::session &session, const Table &table)
         }
     }
     m_statement.alloc();
-    m_statement.prepare("insert into " + target + " values (" + columnList(table, ":") + ')');
+    m_statement.prepare("insert into " + m_target + " values (" + columnList(table, ":") + ')');
     m_statement.define_and_bind();
 }
 
@@ -200,15 +199,22 @@ void RowInsertion::insert(const std::vector<Value> &values) {
 }
 
 void RowInsertion::sendLines() {
+    if (!m_isCopying) {
+        expectOf(m_server, PQexec(m_server, ("copy " + m_target + " from stdin").c_str()),
+                 PGRES_COPY_IN);
+        m_isCopying = true;
+    }
     if (PQputCopyData(m_server, m_lines.data(), static_cast<int>(m_lines.size())) != 1) {
         throw soci::postgresql_soci_error(PQerrorMessage(m_server), "08006");
     }
     m_lines.clear();
 }
 
-void RowInsertion::finish() {
-    if (m_server != nullptr) {
+void RowInsertion::flush() {
+    if (!m_lines.empty()) {
         sendLines();
+    }
+    if (std::exchange(m_isCopying, false)) {
         PQputCopyEnd(m_server, nullptr);
         expectOf(m_server, PQgetResult(m_server), PGRES_COMMAND_OK);
         PQclear(PQgetResult(m_server)); // none: the COPY is over

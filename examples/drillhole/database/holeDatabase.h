@@ -38,15 +38,18 @@ public:
 
     void insert(const std::vector<Value> &values);
 
-    /// Hands on what is left. Until then the session can't be asked for anything else.
-    void finish();
+    /// From here on the database answers with all rows that were inserted. It is not to be asked
+    /// for anything between an insertion and this.
+    void flush();
 
 private:
     void sendLines();
 
     const Table &m_table;
+    const std::string m_target;
     PGconn *m_server = nullptr; ///< null if it is no server of PostgreSQL
-    std::string m_lines;        ///< for the server, as COPY wants them
+    bool m_isCopying = false;
+    std::string m_lines; ///< for the server, as COPY wants them
     // What the statement is bound to: one of each for every column.
     std::vector<double> m_numbers;
     std::vector<std::string> m_texts;

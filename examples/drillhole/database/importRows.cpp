@@ -75,7 +75,7 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     }
     outcome.isCancelled = progress.isCancelled;
     if (!outcome.isCancelled) {
-        insertion.finish();
+        insertion.flush();
         refused.finish();
         transaction.commit();
         refused.publish();
