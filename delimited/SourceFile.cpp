@@ -2,49 +2,43 @@
 
 #include "delimited/SourceFile.h"
 
+#include "delimited/openRegularFile.h"
+
+#include <algorithm>
 #include <cerrno>
-#include <filesystem>
-#include <system_error>
 
 namespace columnimport {
 
-namespace {
+SourceFile::SourceFile(const std::string &path) : m_file(openRegularFile(path, m_fault)) {}
 
-std::error_code lastError() {
-    return {errno, std::generic_category()};
-}
-
-} // namespace
-
-SourceFile::SourceFile(const std::string &path) {
-    m_stream.setstate(std::ios::failbit);
-    try {
-        const std::filesystem::path file = std::filesystem::u8path(path);
-        const std::filesystem::file_status status = std::filesystem::status(file, m_fault);
-        if (std::filesystem::is_regular_file(status)) {
-            // The carriage returns are dropped in readLine: only one platform's text mode would.
-            m_stream.open(file, std::ios::in | std::ios::binary);
-            m_fault = m_stream.is_open() ? std::error_code() : lastError();
-        } else if (std::filesystem::is_directory(status)) {
-            m_fault = std::make_error_code(std::errc::is_a_directory);
-        }
-    } catch (const std::system_error &failure) {
-        // Where a path is made of wide characters, bytes that are no UTF-8 name no file.
-        m_fault = failure.code();
-    }
-}
-
-std::string SourceFile::readLine() {
+std::string SourceFile::readLine(std::size_t most) {
     std::string line;
-    std::getline(m_stream, line);
-    if (m_stream.bad()) {
-        m_fault = lastError();
+    std::size_t length = 0;
+    bool endedByLineFeed = false;
+    while (!endedByLineFeed && (!m_unread.empty() || readBlock())) {
+        const std::size_t end = std::min(m_unread.find('\n'), m_unread.size());
+        line.append(m_unread, 0, std::min(end, most - line.size()));
+        length += end;
+        endedByLineFeed = end < m_unread.size();
+        m_unread.remove_prefix(endedByLineFeed ? end + 1 : end);
     }
-    const bool endedByLineFeed = m_stream.good();
-    if (endedByLineFeed && !line.empty() && line.back() == '\r') {
+    // Dropped here, as only one platform's text mode would.
+    if (endedByLineFeed && length == line.size() && !line.empty() && line.back() == '\r') {
         line.pop_back();
     }
     return line;
+}
+
+bool SourceFile::readBlock() {
+    if (!isReadable()) {
+        return false;
+    }
+    m_unread = {m_block.data(), std::fread(m_block.data(), 1, m_block.size(), m_file.get())};
+    if (!isReadable()) {
+        m_fault = {errno, std::generic_category()};
+    }
+    m_isAtEnd = isReadable() && m_unread.empty();
+    return !m_unread.empty();
 }
 
 } // namespace columnimport

@@ -6,11 +6,11 @@
 
 namespace columnimport {
 
-std::string readPreview(const std::string &path) {
+std::string readPreview(const std::string &path, std::size_t most) {
     std::string preview;
     SourceFile file(path);
     for (int line = 0; line < previewLines && !file.isAtEnd(); ++line) {
-        preview += file.readLine();
+        preview += file.readLine(most);
         preview += '\n';
     }
     return preview;

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 namespace columnimport {
@@ -9,10 +10,11 @@ namespace columnimport {
 /// The number of lines that a preview holds at most.
 inline constexpr int previewLines = 10;
 
-/// The first ten lines of the file `path` (UTF-8) as raw bytes, each followed by one line feed.
+/// The first ten lines of the file `path` (UTF-8) as raw bytes, each followed by one line feed. Of
+/// a longer line, the first `most` bytes.
 ///
 /// A file that ends with a line feed before its tenth line gives one more, empty line; a file that
 /// can't be opened gives ten empty ones.
-std::string readPreview(const std::string &path);
+std::string readPreview(const std::string &path, std::size_t most = std::string::npos);
 
 } // namespace columnimport

@@ -86,7 +86,8 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     columnimport::cutLongLines(*text);
     // The file's text is no caption: an ampersand in it is an ampersand. A new label makes a static
     // text as large as itself, and the box around it would be fitted to that.
-    text->SetLabelText(columnimport::previewText(getFilePreview()));
+    text->SetLabelText(columnimport::previewText(
+        columnimport::readPreview(m_fileName, columnimport::tellingLength)));
     text->SetSize(previewSize);
     columnimport::setAccessibleName(*text, "File preview");
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));

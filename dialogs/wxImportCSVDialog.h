@@ -97,7 +97,8 @@ protected:
     /// Reads `m_fileSchema` from the first line of the file.
     void loadHeader();
 
-    /// The first lines of the file as raw bytes, each with one line feed.
+    /// The first lines of the file as raw bytes, each with one line feed. The preview shows the
+    /// heads of long ones.
     std::string getFilePreview();
 
     /// Makes the content of both lists anew, by position, from the saved matches or as a proposal.

@@ -17,6 +17,9 @@ namespace columnimport {
 /// no more than 511 characters of an entry back.
 inline constexpr std::size_t shownLength = 400;
 
+/// The number of bytes of a line that decide what is shown of it: one more tells that it is long.
+inline constexpr std::size_t tellingLength = shownLength + 1;
+
 /// `bytes` as UTF-8 if they are that, else as the process's locale has them, else as Latin-1.
 wxString decoded(const std::string &bytes);
 

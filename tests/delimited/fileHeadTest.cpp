@@ -44,7 +44,14 @@ TEST(ReadPreview, GivesTenLinesAtMostEachWithOneLineFeed) {
     }
 }
 
-TEST(FileHead, OfWhatIsNoReadableFileIsEmpty) {
+TEST(FileHead, HoldsALongLineWholeOrAsMuchAsIsAskedFor) {
+    const std::string line(200000, 'x');
+    const ScratchFile file(line + "\nabc\r\nabcd\r\n" + line);
+    EXPECT_EQ(readHeader(file.path(), ',').columns, Fields{line});
+    EXPECT_EQ(readPreview(file.path(), 4), "xxxx\nabc\nabcd\nxxxx\n");
+}
+
+TEST(FileHead, IsEmptyWhereNoFileCanBeRead) {
     const std::string folder = std::filesystem::temp_directory_path().u8string();
     // A read of a device might never return.
     for (const std::string &path :

@@ -10,7 +10,7 @@
 
 using namespace columnimport;
 
-TEST(FileHead, OfAPipeIsEmptyAndIsNotWaitedFor) {
+TEST(FileHead, IsEmptyForAPipeWhichItDoesNotWaitFor) {
     const ScratchFile pipe("");
     unlink(pipe.path().c_str());
     ASSERT_EQ(mkfifo(pipe.path().c_str(), 0600), 0);
