@@ -60,9 +60,9 @@ int main(int argc, char **argv) {
         [&](soci::session &holes) {
             const Table &assays = *findTable("assay");
             const FileMatch match{
-                {"BHID", "FROM", "TO", "Au", "Cu", "Zn", "DUP", "BLANK", "STD"}, ',', true};
-            outcome = importFile({holes, assays, file + ".refused.csv", false}, file, match,
-                                 progress);
+                {"BHID", "FROM", "TO", "Au", "Cu", "Zn", "DUP", "BLANK", "STD"}, ',', true, {}};
+            outcome = importFile({holes, assays, file + ".refused.csv", Replace::no, {}}, file,
+                                 match, progress);
         },
         [&](const std::string &fault) {
             failure = fault;

@@ -2,11 +2,13 @@
 
 // What the dialog shows of a first line, and where the rows have it.
 
-#include "examples/drillhole/rows/CsvParser.h"
+#include "examples/drillhole/rows/CsvFile.h"
 #include "examples/drillhole/rows/Fault.h"
 #include "examples/drillhole/rows/findFields.h"
 #include "examples/drillhole/rows/firstLine.h"
 #include "examples/drillhole/rows/startDelimiter.h"
+
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -14,13 +16,18 @@ using namespace drillhole;
 
 namespace {
 
+std::string fileOf(const std::string &text) {
+    const std::string path = testing::TempDir() + "drillhole_fields_" + std::to_string(getpid());
+    std::ofstream(path, std::ios::binary) << text;
+    return path;
+}
+
 /// The positions of the matches in the rows, as in "2 - 0", or "fault: " and a part of its text.
 std::string found(const std::vector<std::string> &matches, const std::string &text, char delimiter,
                   bool titles = true) {
-    CsvParser parser(delimiter);
-    parser.parse(text + "\n");
+    CsvFile file(fileOf(text), delimiter);
     Row first;
-    parser.next(first);
+    file.next(first);
     const std::string line = text.substr(0, text.find('\n'));
     try {
         std::string places;
@@ -98,7 +105,7 @@ TEST(StartDelimiter, CutsTheFirstLinesMostEvenly) {
         {"a,\"b\n1,2\n", {}, ','},
     };
     for (const auto &each : cases) {
-        EXPECT_EQ(startDelimiter(each.text, each.lastUsed), each.delimiter) << each.text;
+        EXPECT_EQ(startDelimiter(fileOf(each.text), each.lastUsed), each.delimiter) << each.text;
     }
 }
 

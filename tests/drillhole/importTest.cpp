@@ -27,7 +27,7 @@ protected:
         openDatabase(m_holes, connectionFor(path("holes.sqlite")));
         makeHoleTables(m_holes);
         write("collars.csv", "hole,x,y\nLR-1,1,2\nLR-2,3,4\n");
-        importFrom("collar", "collars.csv", {{"hole", "x", "y", "", ""}, ',', true});
+        importFrom("collar", "collars.csv", {{"hole", "x", "y", "", ""}, ',', true, {}});
     }
     void TearDown() override { std::filesystem::remove_all(m_folder); }
 
@@ -42,14 +42,14 @@ protected:
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    Destination into(const char *table, bool replaces = false) {
-        return {m_holes, *findTable(table), path("refused.csv"), replaces};
+    Destination into(const char *table, Replace replace = Replace::no) {
+        return {m_holes, *findTable(table), path("refused.csv"), replace, {}};
     }
 
     ImportOutcome importFrom(const char *table, const std::string &file, const FileMatch &match,
-                             bool replaces = false) {
+                             Replace replace = Replace::no) {
         ImportProgress progress;
-        return importFile(into(table, replaces), path(file), match, progress);
+        return importFile(into(table, replace), path(file), match, progress);
     }
 
     /// What the shell of SQLite answers.
@@ -62,7 +62,7 @@ protected:
         return std::string(answer.data(), length == 0 ? 0 : length - 1);
     }
 
-    const FileMatch m_surveyMatch{{"Hole", "At", "Az", "Dip"}, ',', true};
+    const FileMatch m_surveyMatch{{"Hole", "At", "Az", "Dip"}, ',', true, {}};
     std::string m_folder;
     soci::session m_holes;
 };
@@ -79,19 +79,19 @@ TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
               "3,\"no collar is called \"\"LR-3\"\"\",\"-60\",\"LR-3\",\"0\",\"90\"\n"
               "4,\"azimuth \"\"n\"\" is no number\",\"-59\",\"LR-2\",\"10\",\"n\"\n");
     write("surveys.csv", "Dip,Hole,At,Az\n-50,LR-2,0,90\n");
-    importFrom("survey", "surveys.csv", m_surveyMatch, true);
+    importFrom("survey", "surveys.csv", m_surveyMatch, Replace::anyway);
     EXPECT_EQ(ask("select * from survey"), "LR-2|0.0|90.0|-50.0") << "in place of the others";
     EXPECT_FALSE(std::filesystem::exists(path("refused.csv"))) << "nothing was refused this time";
 }
 
 TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
     write("letters", "LR-1S0S90S-60\nLR-2S5S91S-61");
-    importFrom("survey", "letters", {{"Column1", "Column2", "Column3", "Column4"}, 'S', false});
+    importFrom("survey", "letters", {{"Column1", "Column2", "Column3", "Column4"}, 'S', false, {}});
     write("blanks", "Hole   At  Az Dip\nLR-1    7  92 -62\nLR-1    8  93\n");
-    importFrom("survey", "blanks", {m_surveyMatch.matches, ' ', true});
+    importFrom("survey", "blanks", {m_surveyMatch.matches, ' ', true, {}});
     write("tabs", "\xEF\xBB\xBFHole\tAt\t\tAz\tDip\r\nLR-2\t9\t\t94\t-63\r\n");
-    importFrom("survey", "tabs", {{"\xEF\xBB\xBFHole", "At", "Az", "Dip"}, '\t', true});
-    write("trailing", "Hole,At,Az,Dip\nLR-2,11,95,-64,\nLR-2,1,5,95,-64,\n");
+    importFrom("survey", "tabs", {{"\xEF\xBB\xBFHole", "At", "Az", "Dip"}, '\t', true, {}});
+    write("trailing", "Hole,At,Az,Dip\nLR-2,11,95,-64,\nLR-2,1,5,95,-64,\n,,,,\n");
     importFrom("survey", "trailing", m_surveyMatch);
     EXPECT_EQ(ask("select group_concat(depth || ' ' || dip, ', ') from survey"),
               "0.0 -60.0, 5.0 -61.0, 7.0 -62.0, 9.0 -63.0, 11.0 -64.0");
@@ -100,27 +100,90 @@ TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
 TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
     write("refused.csv", "of an earlier import");
     m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
-    write("surveys.csv", "Hole,At,Az,Dip\nLR-1,0,90,-60\nLR-9,0,90,-60\n\"LR-1,1,90,-60\n");
-    EXPECT_THROW(importFrom("survey", "surveys.csv", m_surveyMatch, true), Fault);
+    write("surveys.csv", "Hole,At,Az,Dip\nLR-1,0,90,-60\nLR-9,0,90,-60\n");
+    {
+        soci::session reader("sqlite3", "db=" + path("holes.sqlite"));
+        const soci::transaction reading(reader);
+        long long count = 0;
+        reader << "select count(*) from survey", soci::into(count);
+        m_holes << "pragma busy_timeout = 0";
+        EXPECT_THROW(importFrom("survey", "surveys.csv", m_surveyMatch, Replace::anyway),
+                     soci::soci_error)
+            << "which can't commit beside a reader";
+    }
     ImportProgress cancelled;
     cancelled.isCancelled = true;
-    EXPECT_TRUE(importFile(into("survey", true), path("collars.csv"),
-                           {{"hole", "x", "y", "x"}, ',', true}, cancelled)
+    EXPECT_TRUE(importFile(into("survey", Replace::anyway), path("collars.csv"),
+                           {{"hole", "x", "y", "x"}, ',', true, {}}, cancelled)
                     .isCancelled);
     EXPECT_EQ(cancelled.rows, 0U) << "it ends at once";
     EXPECT_THROW(importFrom("collar", "nothing.csv", m_surveyMatch), Fault);
     EXPECT_THROW(importFrom("collar", ".", m_surveyMatch), Fault);
+    FileMatch match = m_surveyMatch;
+    match.stamp = stampOf(path("collars.csv"));
+    EXPECT_THROW(importFrom("survey", "surveys.csv", match), Fault) << "not what was matched";
     EXPECT_EQ(ask("select * from survey"), "LR-1|5.0|5.0|5.0");
     EXPECT_EQ(ask("select count(*) from collar"), "2");
     EXPECT_EQ(read("refused.csv"), "of an earlier import");
     EXPECT_FALSE(std::filesystem::exists(path("refused.csv.part")));
 }
 
+TEST_F(ImportTest, ReplacesNothingUnaskedThatWouldBeLost) {
+    m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
+    const FileMatch match = {{"hole", "x", "y", "", ""}, ',', true, {}};
+    const struct {
+        const char *text;
+        Replace replace;
+        const char *question;
+        const char *collars;
+    } cases[] = {
+        {"hole,x,y\n", Replace::anyway, "", "LR-1 1.0, LR-2 3.0"},
+        {"hole,x,y\nLR-1,a,2\n", Replace::anyway, "", "LR-1 1.0, LR-2 3.0"},
+        {"hole,x,y\nLR-1,7,8\nLR-3,a,8\n", Replace::ifNothingIsLost,
+         "Replace 2 collars by 1 new one? 1 row of the source would be left out.",
+         "LR-1 1.0, LR-2 3.0"},
+        {"hole,x,y\nLR-3,7,8\n", Replace::ifNothingIsLost,
+         "Replace 2 collars by 1 new one? 1 survey would lose their collar.", "LR-1 1.0, LR-2 3.0"},
+        {"hole,x,y\nLR-1,7,8\n", Replace::ifNothingIsLost, "", "LR-1 7.0"},
+        {"hole,x,y\nLR-3,9,8\nLR-1,a,8\n", Replace::anyway, "", "LR-3 9.0"},
+    };
+    for (const auto &each : cases) {
+        write("new.csv", each.text);
+        EXPECT_EQ(importFrom("collar", "new.csv", match, each.replace).question, each.question);
+        EXPECT_EQ(ask("select group_concat(holename || ' ' || easting, ', ') from collar"),
+                  each.collars);
+    }
+}
+
+TEST_F(ImportTest, RefusesWhatIsThereAlready) {
+    const FileMatch match = {{"Hole", "From", "To", "Au", "", "", "", "", ""}, ',', true, {}};
+    std::string text = "Hole,From,To,Au,Cu\n";
+    for (int i = 0; i < 1001; ++i) {
+        const std::string depth = std::to_string(i);
+        text += "LR-1," + depth + ".1," + depth + ".9,0.1,\n";
+    }
+    write("assays.csv", text + "LR-1,7.1,7.9,0.1,\nLR-1,8.1,8.9,,\n");
+    const ImportOutcome first = importFrom("assay", "assays.csv", match);
+    EXPECT_EQ(first.taken, 1002U);
+    ASSERT_EQ(first.firstRefused.size(), 1U) << "the row that stands twice in the file";
+    EXPECT_EQ(first.firstRefused[0].lines + first.firstRefused[0].text, "1003there already");
+    ASSERT_EQ(first.remarks.size(), 3U);
+    EXPECT_EQ(first.remarks[0].text, "not filled: Cu %, Zn %, duplicate, blank, standard");
+    EXPECT_EQ(first.remarks[1].text, "not imported: Cu");
+    EXPECT_EQ(first.remarks[2].lines + first.remarks[2].text,
+              "1004overlaps another interval of its hole: 1 row");
+    const ImportOutcome second = importFrom("assay", "assays.csv", match);
+    EXPECT_EQ(second.refused, 1003U);
+    EXPECT_FALSE(second.isDone());
+    EXPECT_EQ(ask("select count(*) from assay"), "1002");
+    EXPECT_EQ(read("refused.csv").substr(0, 30), "line,reason,row\n2,\"there alrea");
+}
+
 TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {
     soci::session other("sqlite3", "db=" + path("holes.sqlite"));
     other << "begin exclusive";
     try {
-        importFrom("collar", "collars.csv", {{"hole", "x", "y", "", ""}, ',', true});
+        importFrom("collar", "collars.csv", {{"hole", "x", "y", "", ""}, ',', true, {}});
         ADD_FAILURE();
     } catch (const soci::soci_error &error) {
         EXPECT_EQ(faultText(error.get_error_message()).substr(0, 15), "Another program");
@@ -144,7 +207,7 @@ TEST_F(ImportTest, ReadsATableAsItStands) {
         importTable(into("collar"), lab, "the holes", columns, matches, progress);
     EXPECT_EQ(ask("select * from collar where holename = 'LR-7'"), "LR-7|634210.84|12.5||");
     ASSERT_EQ(outcome.refused, 2U);
-    EXPECT_EQ(outcome.firstRefused[0].lines + outcome.firstRefused[0].reason, "2easting is empty");
+    EXPECT_EQ(outcome.firstRefused[0].lines + outcome.firstRefused[0].text, "2easting is empty");
 
     source << "alter table \"the holes\" rename column x to X";
     EXPECT_THROW(importTable(into("collar"), lab, "the holes", columns, matches, progress), Fault);

@@ -102,11 +102,6 @@ std::size_t rowCount(soci::session &session, const Table &table) {
     return static_cast<std::size_t>(count);
 }
 
-std::unordered_set<std::string> holeNames(soci::session &session) {
-    const soci::rowset<std::string> names = session.prepare << "select holename from collar";
-    return {names.begin(), names.end()};
-}
-
 std::vector<std::vector<std::string>> rowsOf(soci::session &session, const Table &table,
                                              std::size_t first, std::size_t count) {
     const std::size_t width = table.columns.size();

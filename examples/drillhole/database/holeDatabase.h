@@ -16,9 +16,6 @@ void makeHoleTables(soci::session &session);
 
 std::size_t rowCount(soci::session &session, const Table &table);
 
-/// The names of all holes that have a collar.
-std::unordered_set<std::string> holeNames(soci::session &session);
-
 /// A stretch of the table's rows as texts, in the order in which the database keeps them.
 std::vector<std::vector<std::string>> rowsOf(soci::session &session, const Table &table,
                                              std::size_t first, std::size_t count);

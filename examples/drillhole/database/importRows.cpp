@@ -3,69 +3,108 @@
 #include "examples/drillhole/database/importRows.h"
 
 #include "examples/drillhole/database/TableRows.h"
-#include "examples/drillhole/database/connection.h"
-#include "examples/drillhole/rows/CsvFile.h"
+#include "examples/drillhole/database/storedRows.h"
+#include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/rows/findFields.h"
 #include "examples/drillhole/rows/firstLine.h"
+#include "examples/drillhole/rows/text.h"
 
 #include <algorithm>
-#include <chrono>
 
 namespace drillhole {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+constexpr std::size_t mostNames = 20;
 
-/// The fields of a full row: those of the first one, or more if the second one shows that the rows
-/// end in delimiters that the titles don't have.
-std::size_t fieldCountOf(std::size_t firstCount, const Row &second) {
-    const bool onlyEmptyMore =
-        second.fields.size() > firstCount &&
-        std::all_of(second.fields.begin() + static_cast<std::ptrdiff_t>(firstCount),
-                    second.fields.end(), [](std::string_view field) { return field.empty(); });
-    return onlyEmptyMore ? second.fields.size() : firstCount;
-}
-
-RowLayout layoutOf(const std::string &path, const FileMatch &match) {
-    CsvFile file(path, match.delimiter);
-    Row row;
-    file.next(row);
-    RowLayout layout;
-    layout.positions = findFields(match.matches, namesShown(firstLineOf(path), match.delimiter),
-                                  row, match.delimiter, match.firstLineHoldsTitles);
-    layout.fieldCount = row.fields.size();
-    layout.mustBeWhole = match.delimiter == ' ';
-    if (file.next(row)) {
-        layout.fieldCount = fieldCountOf(layout.fieldCount, row);
+/// How many rows of each other table have no collar.
+std::vector<std::size_t> orphanCounts(const Destination &destination) {
+    std::vector<std::size_t> counts;
+    for (const Table &table : holeTables()) {
+        const bool mayHave = destination.table.namesHoles && !table.namesHoles;
+        counts.push_back(mayHave ? orphanCount(destination.session, table) : 0);
     }
-    return layout;
+    return counts;
 }
 
-std::unordered_set<std::string> holesBefore(const Destination &destination) {
-    return destination.replaces && destination.table.namesHoles ? std::unordered_set<std::string>()
-                                                                : holeNames(destination.session);
+/// What would be lost if the rows were replaced, or nothing.
+std::string questionOf(const Destination &destination, std::size_t before, std::size_t taken,
+                       std::size_t refused, const std::vector<std::size_t> &orphansBefore) {
+    std::string lost =
+        refused > 0 ? ' ' + countOf(refused, "row") + " of the source would be left out." : "";
+    const std::vector<std::size_t> orphans = orphanCounts(destination);
+    for (std::size_t i = 0; i < orphans.size(); ++i) {
+        if (orphans[i] > orphansBefore[i]) {
+            lost += ' ' + countOf(orphans[i] - orphansBefore[i], holeTables()[i].name) +
+                    " would lose their collar.";
+        }
+    }
+    return lost.empty() || before == 0 ? std::string()
+                                       : "Replace " + countOf(before, destination.table.name) +
+                                             " by " + countOf(taken, "new one") + '?' + lost;
+}
+
+void addNames(const char *what, const std::vector<std::string> &names,
+              std::vector<Remark> &remarks) {
+    std::string list;
+    for (std::size_t i = 0; i < names.size() && i < mostNames; ++i) {
+        list += (i == 0 ? "" : ", ") + shortened(names[i], 60);
+    }
+    if (names.size() > mostNames) {
+        list += " and " + std::to_string(names.size() - mostNames) + " more";
+    }
+    if (!names.empty()) {
+        remarks.push_back({{}, what + list});
+    }
+}
+
+/// The columns of both sides that the import passes over.
+std::vector<Remark> columnsLeftOut(const Table &table, const RowLayout &layout) {
+    std::vector<std::string> unused;
+    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+        if (!layout.positions[i]) {
+            unused.push_back(table.columns[i].name);
+        }
+    }
+    std::vector<std::string> nowhere;
+    for (std::size_t i = 0; i < layout.titles.size(); ++i) {
+        const auto &used = layout.positions;
+        if (!layout.titles[i].empty() && std::find(used.begin(), used.end(), i) == used.end()) {
+            nowhere.push_back(layout.titles[i]);
+        }
+    }
+    std::vector<Remark> remarks;
+    addNames("not filled: ", unused, remarks);
+    addNames("not imported: ", nowhere, remarks);
+    return remarks;
 }
 
 } // namespace
 
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
                          ImportProgress &progress) {
-    const Clock::time_point start = Clock::now();
+    const Table &table = destination.table;
     RefusedRows refused(destination.report);
     soci::transaction transaction(destination.session);
-    RowCheck check(destination.table, layout, holesBefore(destination));
-    if (destination.replaces) {
-        destination.session << "delete from " + destination.table.name;
-    }
-    RowInsertion insertion(destination.session, destination.table);
     ImportOutcome outcome;
-    outcome.replaces = destination.replaces;
+    outcome.replaces = destination.replace != Replace::no;
+    const std::size_t before = outcome.replaces ? rowCount(destination.session, table) : 0;
+    const auto orphans = orphanCounts(destination);
+    if (outcome.replaces) {
+        destination.session << "delete from " + table.name;
+    }
+    Holes holes = holesOf(destination.session, table);
+    RowInsertion insertion(destination.session, table);
+    StoredRows stored(destination.session, table, insertion);
+    RowCheck check(table, layout, destination.choices, std::move(holes),
+                   [&](const std::vector<Value> &values) { return stored.hold(values); });
     std::vector<Value> values;
     Row row;
     while (!progress.isCancelled && source.next(row)) {
         const std::string reason = check.check(row, values);
         if (reason.empty()) {
             insertion.insert(values);
+            stored.add(values);
             ++outcome.taken;
         } else {
             refused.add(row, reason);
@@ -76,24 +115,48 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     outcome.isCancelled = progress.isCancelled;
     if (!outcome.isCancelled) {
         insertion.flush();
+    }
+    if (!outcome.isCancelled && destination.replace == Replace::ifNothingIsLost &&
+        outcome.taken > 0) {
+        outcome.question = questionOf(destination, before, outcome.taken, refused.count(), orphans);
+    }
+    if (!outcome.isCancelled && outcome.question.empty()) {
         refused.finish();
-        transaction.commit();
+        if (outcome.taken > 0) {
+            transaction.commit();
+        }
         refused.publish();
-        outcome.refused = refused.count();
-        outcome.firstRefused = refused.first();
         outcome.report = refused.count() > 0 ? destination.report : std::string();
     }
-    outcome.seconds = std::chrono::duration<double>(Clock::now() - start).count();
+    outcome.refused = refused.count();
+    outcome.firstRefused = refused.first();
+    outcome.remarks = columnsLeftOut(table, layout);
+    const std::vector<Remark> odd = check.remarks().byKind();
+    outcome.remarks.insert(outcome.remarks.end(), odd.begin(), odd.end());
     return outcome;
 }
 
 ImportOutcome importFile(const Destination &destination, const std::string &path,
                          const FileMatch &match, ImportProgress &progress) {
-    const RowLayout layout = layoutOf(path, match);
     CsvFile file(path, match.delimiter);
-    if (match.firstLineHoldsTitles) {
-        Row titles;
-        file.next(titles);
+    if (match.stamp && *match.stamp != file.stamp()) {
+        throw Fault("The file " + path +
+                    " was changed meanwhile. Import it again to match its "
+                    "present columns.");
+    }
+    Row first;
+    file.next(first);
+    RowLayout layout;
+    layout.positions = findFields(match.matches, namesShown(firstLineOf(path), match.delimiter),
+                                  first, match.delimiter, match.firstLineHoldsTitles);
+    layout.fieldCount = first.fields.size();
+    layout.delimiter = match.delimiter;
+    for (std::size_t i = 0; i < first.fields.size(); ++i) {
+        layout.titles.push_back(match.firstLineHoldsTitles ? asUtf8(first.fields[i])
+                                                           : "Column" + std::to_string(i + 1));
+    }
+    if (!match.firstLineHoldsTitles) {
+        file.putBack(first);
     }
     return importRows(destination, file, layout, progress);
 }
@@ -102,8 +165,8 @@ ImportOutcome importTable(const Destination &destination, const std::string &con
                           const std::string &table, const std::vector<std::string> &columns,
                           const std::vector<std::string> &matches, ImportProgress &progress) {
     TableRows rows(connection, table, columns);
-    return importRows(destination, rows, {findColumns(matches, columns), columns.size(), false},
-                      progress);
+    return importRows(destination, rows,
+                      {findColumns(matches, columns), columns.size(), '\0', columns}, progress);
 }
 
 } // namespace drillhole

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "examples/drillhole/database/holeDatabase.h"
+#include "examples/drillhole/rows/CsvFile.h"
 #include "examples/drillhole/rows/RefusedRows.h"
 
 #include <atomic>
@@ -16,14 +17,25 @@ struct ImportProgress {
     std::atomic<bool> isCancelled{false}; ///< set to end the import
 };
 
+/// What becomes of the rows that the table holds.
+enum class Replace {
+    no,              ///< they stay
+    ifNothingIsLost, ///< they make room for the new ones, or the outcome asks
+    anyway           ///< they make room also where rows are refused or lose their collar
+};
+
 struct ImportOutcome {
     bool isCancelled = false;
     bool replaces = false;
+    std::string question; ///< with the numbers, where nothing was replaced without an answer to it
     std::size_t taken = 0;
     std::size_t refused = 0;
-    std::vector<RefusedRow> firstRefused;
-    std::string report; ///< the file of all refused rows; empty if there are none
-    double seconds = 0;
+    std::vector<Remark> firstRefused;
+    std::vector<Remark> remarks; ///< what was left out, and what is odd about the rows taken
+    std::string report;          ///< the file of all refused rows; empty if there are none
+
+    /// Whether the database has new rows.
+    bool isDone() const { return !isCancelled && question.empty() && taken > 0; }
 };
 
 /// Where an import goes.
@@ -31,11 +43,13 @@ struct Destination {
     soci::session &session;
     const Table &table;
     std::string report;
-    bool replaces; ///< the rows that the table holds make room for the new ones
+    Replace replace = Replace::no;
+    ValueChoices choices;
 };
 
 /// Puts the rows that fit into the table, in one transaction: a fault, a cancelled import and the
-/// end of the process leave the database as it was. Refused rows go to the report.
+/// end of the process leave the database as it was, and so does a source of which nothing fits.
+/// Refused rows go to the report.
 ///
 /// Throws a Fault, or what the database throws.
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
@@ -46,6 +60,7 @@ struct FileMatch {
     std::vector<std::string> matches;
     char delimiter = ',';
     bool firstLineHoldsTitles = true;
+    std::optional<FileStamp> stamp; ///< of the file when the dialog read it
 };
 
 /// Imports a file. As `importRows`.

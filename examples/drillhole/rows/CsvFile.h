@@ -2,35 +2,70 @@
 
 #pragma once
 
-#include "examples/drillhole/rows/CsvParser.h"
+#include "examples/drillhole/rows/RowSource.h"
 
+#include <deque>
+#include <filesystem>
 #include <fstream>
+#include <string>
 
 namespace drillhole {
 
-/// A delimited file, read row by row. It is never held in memory as a whole.
+/// By what one sees that a file is not the one it was.
+using FileStamp = std::pair<std::uintmax_t, std::filesystem::file_time_type>;
+
+/// Throws a Fault if there is no such file, or if it is none to be read from its head to its end.
+FileStamp stampOf(const std::string &path);
+
+/// A delimited file, read row by row; it is never held in memory as a whole. Double quotes protect
+/// delimiters and line ends, blanks around a field go. Lines end at line feeds. Lines without a
+/// value, blank or of delimiters only, are no rows.
+///
+/// A row in which a quoted field does not end at a delimiter is refused, and the next one begins in
+/// the next line; so is one of more than 100,000 fields or 4 MiB. A blank as the delimiter is one
+/// separator with those beside it. A double quote as the delimiter leaves nothing to quote with.
 class CsvFile : public RowSource {
 public:
     /// Opens the file; the path is in the file system's encoding. Throws a Fault if it can't be
-    /// read.
-    CsvFile(const std::string &path, char delimiter);
+    /// read, if it is no text of that kind, and if the delimiter is a line end.
+    ///
+    /// @param chunk  how many bytes are read at once
+    CsvFile(const std::string &path, char delimiter, std::size_t chunk = 65'536);
 
+    /// At the end, throws a Fault if the file was changed since it was opened.
     bool next(Row &row) override;
     double share() const override;
 
+    /// Has the row that came last come again.
+    void putBack(const Row &row);
+
+    const FileStamp &stamp() const { return m_stamp; }
+
 private:
+    std::string_view rest() const { return std::string_view(m_text).substr(m_begin); }
+    const char *behindBlanks(const char *at, const char *end) const;
     bool readOn();
+    void skipLine();
+    bool endsWithin(Row &row);
+    bool takeQuoted(Row &row, const char *&at, const char *end);
+    bool takePlain(Row &row, const char *&at, const char *end);
+    void refuse(Row &row, const char *reason, const char *from);
 
     std::string m_path;
+    FileStamp m_stamp;
     std::ifstream m_file;
-    CsvParser m_parser;
-    std::string m_chunk;
-    double m_size;
-    double m_read = 0;
-    bool m_isAtEnd = false;
+    char m_delimiter;
+    std::size_t m_chunk;
+    std::string m_text;                 // of the present row and of what was read behind it
+    std::size_t m_begin = 0;            // of the row in the text
+    std::size_t m_end = 0;              // of the row, behind its line end
+    std::deque<std::string> m_ownTexts; // of fields that don't stand in the text as they are
+    std::size_t m_line = 1;
+    std::size_t m_width = 0; // fields of the first row
+    std::uintmax_t m_read = 0;
+    bool m_isAtEnd = false;   // of the file
+    bool m_isTooLong = false; // the row is
+    bool m_skipsLine = false; // the rest of a row that was refused
 };
-
-/// The file, open for reading, behind a byte-order mark if it begins with one. Throws a Fault.
-std::ifstream openText(const std::string &path);
 
 } // namespace drillhole

@@ -3,11 +3,10 @@
 #include "examples/drillhole/rows/RefusedRows.h"
 
 #include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/rows/text.h"
 
 #include <filesystem>
 #include <system_error>
-
-#include <csv.h>
 
 namespace drillhole {
 
@@ -16,14 +15,11 @@ namespace {
 constexpr std::size_t countInMemory = 1000;
 
 std::string asCsv(std::string_view field) {
-    std::string text(csv_write(nullptr, 0, field.data(), field.size()), '\0');
-    csv_write(text.data(), text.size(), field.data(), field.size());
-    return text;
-}
-
-std::string linesOf(const Row &row) {
-    const std::string first = std::to_string(row.firstLine);
-    return row.firstLine == row.lastLine ? first : first + '-' + std::to_string(row.lastLine);
+    std::string text = "\"";
+    for (const char byte : field) {
+        text.append(byte == '"' ? 2 : 1, byte);
+    }
+    return text + '"';
 }
 
 } // namespace
@@ -43,13 +39,14 @@ RefusedRows::~RefusedRows() {
 
 void RefusedRows::add(const Row &row, const std::string &reason) {
     ++m_count;
-    m_file << linesOf(row) << ',' << asCsv(reason);
+    const Remark remark{linesOf(row.firstLine, row.lastLine), shortened(reason, 60)};
+    m_file << remark.lines << ',' << asCsv(remark.text);
     for (const std::string_view field : row.fields) {
         m_file << ',' << asCsv(field);
     }
     m_file << '\n';
     if (m_first.size() < countInMemory) {
-        m_first.push_back({linesOf(row), reason});
+        m_first.push_back(remark);
     }
 }
 

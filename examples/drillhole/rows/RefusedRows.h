@@ -2,17 +2,12 @@
 
 #pragma once
 
+#include "examples/drillhole/rows/Remarks.h"
 #include "examples/drillhole/rows/RowSource.h"
 
 #include <fstream>
-#include <string>
 
 namespace drillhole {
-
-struct RefusedRow {
-    std::string lines; ///< "7", or "7-9" for a row of several lines
-    std::string reason;
-};
 
 /// The rows that an import refused: all of them in a file, the first ones in memory too.
 ///
@@ -31,8 +26,8 @@ public:
 
     std::size_t count() const { return m_count; }
 
-    /// The first thousand.
-    const std::vector<RefusedRow> &first() const { return m_first; }
+    /// The reasons of the first thousand.
+    const std::vector<Remark> &first() const { return m_first; }
 
     /// Completes the file. Throws a Fault if it can't be written.
     void finish();
@@ -45,7 +40,7 @@ private:
     std::string m_unfinished;
     std::ofstream m_file;
     std::size_t m_count = 0;
-    std::vector<RefusedRow> m_first;
+    std::vector<Remark> m_first;
 };
 
 } // namespace drillhole

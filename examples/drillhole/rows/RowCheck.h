@@ -2,10 +2,15 @@
 
 #pragma once
 
-#include "examples/drillhole/rows/findFields.h"
+#include "examples/drillhole/rows/Remarks.h"
+#include "examples/drillhole/rows/RowSource.h"
 #include "examples/drillhole/rows/holeTables.h"
 
-#include <unordered_set>
+#include <functional>
+#include <optional>
+#include <unordered_map>
+
+#include <boost/icl/interval_set.hpp>
 
 namespace drillhole {
 
@@ -16,39 +21,75 @@ struct Value {
     std::string text; ///< UTF-8
 };
 
+/// What becomes of a value such as <0.01.
+enum class BelowDetection { refused, half, negative, empty };
+
+/// What the user says of the values in a source.
+struct ValueChoices {
+    BelowDetection belowDetection = BelowDetection::refused;
+    std::vector<std::string> noValue; ///< words that stand where there is none, such as NA or -9999
+    bool hasDecimalCommas = true;     ///< 1,5 is a number where semicolons part the fields
+};
+
+/// For each application column the position of its field in every row, or nothing where the column
+/// was not matched.
+using FieldPositions = std::vector<std::optional<std::size_t>>;
+
 /// How the rows of a source are laid out.
 struct RowLayout {
     FieldPositions positions;
-    std::size_t fieldCount = 0; ///< of a full row; one of more has been cut in the wrong place
-    bool mustBeWhole = false;   ///< a field left out moves those behind it, as between blanks
+    std::size_t fieldCount = 0;      ///< of a full row; one of more has been cut in the wrong place
+    char delimiter = '\0';           ///< of a file
+    std::vector<std::string> titles; ///< of the source's columns, in UTF-8
 };
+
+/// What is known of a hole: its length, and the depths that its rows tell of.
+struct Hole {
+    double length = std::numeric_limits<double>::infinity();
+    boost::icl::interval_set<double> depths;
+};
+
+using Holes = std::unordered_map<std::string, Hole>;
+
+/// The depths that a row of surveys or assays tells of.
+boost::icl::interval_set<double>::interval_type depthsOf(const Table &table,
+                                                         const std::vector<Value> &values);
 
 /// Takes the values of a table out of rows, and refuses those that don't fit.
 class RowCheck {
 public:
     /// Throws a Fault if a required column was not matched.
     ///
-    /// @param holes  the names of all holes that have a collar
-    RowCheck(const Table &table, RowLayout layout, std::unordered_set<std::string> holes);
+    /// @param holes    all that have a collar
+    /// @param isThere  whether the table has a row of just these values; it is asked where rows of
+    ///                 a hole meet
+    RowCheck(const Table &table, RowLayout layout, ValueChoices choices, Holes holes,
+             std::function<bool(const std::vector<Value> &)> isThere);
 
     /// Writes the values of the table's columns, in their order. Returns why the row is refused, or
-    /// an empty string if it fits. A collar that fits is a hole from then on.
+    /// an empty string if it fits. A row that fits stands in its hole from then on.
     std::string check(const Row &row, std::vector<Value> &values);
 
+    /// What is to be said of rows that fit.
+    const Remarks &remarks() const { return m_remarks; }
+
 private:
-    std::string checkLayout(std::size_t count) const;
-    std::string checkHole(const std::string &hole);
+    std::string checkLayout(const Row &row);
+    std::string takeValue(const Column &column, std::string_view text, Value &value);
+    bool isNoValue(std::string_view text, std::optional<double> number) const;
+    std::optional<double> numberIn(std::string_view text) const;
+    std::string checkHole(const std::vector<Value> &values);
 
     const Table &m_table;
     RowLayout m_layout;
+    ValueChoices m_choices;
     std::size_t m_fieldsNeeded = 0;
-    std::unordered_set<std::string> m_holes;
+    bool m_hasRows = false; // that were seen
+    Holes m_holes;
+    Holes::iterator m_lastHole;
+    std::function<bool(const std::vector<Value> &)> m_isThere;
+    std::vector<std::string> m_found; // to be said of the row if it fits
+    Remarks m_remarks;
 };
-
-/// The number that the whole text is, with a decimal point, or nothing.
-std::optional<double> parseNumber(std::string_view text);
-
-/// The text in UTF-8: what is no UTF-8 is taken for Latin-1.
-std::string asUtf8(std::string_view bytes);
 
 } // namespace drillhole

@@ -15,6 +15,7 @@ struct Row {
     std::size_t firstLine = 0; ///< where it begins: the line of a file, the number of a table's row
     std::size_t lastLine = 0;  ///< where it ends; a quoted field may hold line ends
     std::vector<std::string_view> fields;
+    const char *refusal = nullptr; ///< why it can't be cut into fields; it has its text as one then
 };
 
 /// Rows that come one after the other, from a file or from a table.

@@ -2,16 +2,12 @@
 
 #pragma once
 
-#include "examples/drillhole/rows/RowSource.h"
+#include "examples/drillhole/rows/RowCheck.h"
 
 #include <optional>
 #include <string>
 
 namespace drillhole {
-
-/// For each application column the position of its field in every row, or nothing where the column
-/// was not matched.
-using FieldPositions = std::vector<std::optional<std::size_t>>;
 
 /// Finds the fields that the user chose in the dialog.
 ///

@@ -2,15 +2,12 @@
 
 #include "examples/drillhole/rows/firstLine.h"
 
-#include "examples/drillhole/rows/CsvFile.h"
-
 #include <algorithm>
+#include <fstream>
 
 namespace drillhole {
 
 namespace {
-
-constexpr std::size_t headSize = 65'536;
 
 std::string_view trimmed(std::string_view text) {
     constexpr const char *blanks = " \t\r\n";
@@ -44,18 +41,10 @@ std::vector<std::string> namesShown(std::string_view line, char delimiter) {
 }
 
 std::string firstLineOf(const std::string &path) {
-    std::ifstream file = openText(path);
+    std::ifstream file(path, std::ios::binary);
     std::string line;
     std::getline(file, line);
-    return line;
-}
-
-std::string headOf(const std::string &path) {
-    std::ifstream file = openText(path);
-    std::string head(headSize, '\0');
-    file.read(head.data(), static_cast<std::streamsize>(head.size()));
-    head.resize(static_cast<std::size_t>(file.gcount()));
-    return head;
+    return line.substr(line.compare(0, 3, "\xEF\xBB\xBF") == 0 ? 3 : 0);
 }
 
 } // namespace drillhole

@@ -19,7 +19,4 @@ std::vector<std::string> namesShown(std::string_view line, char delimiter);
 /// file can't be read.
 std::string firstLineOf(const std::string &path);
 
-/// The head of a file, as far as it is needed to see how its lines are cut. Throws a Fault.
-std::string headOf(const std::string &path);
-
 } // namespace drillhole

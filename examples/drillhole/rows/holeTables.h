@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,9 @@ struct Column {
     std::string sqlName; ///< as the database calls it
     Kind kind;
     bool isRequired; ///< a row without it says nothing
+    /// A number outside of these is worth a warning.
+    double least = -std::numeric_limits<double>::infinity();
+    double greatest = std::numeric_limits<double>::infinity();
 };
 
 /// A table of the drill holes. Its first column is the hole's name.

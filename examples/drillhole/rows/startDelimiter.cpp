@@ -2,58 +2,48 @@
 
 #include "examples/drillhole/rows/startDelimiter.h"
 
-#include "examples/drillhole/rows/CsvParser.h"
-#include "examples/drillhole/rows/Fault.h"
-
-#include <string>
+#include "examples/drillhole/rows/CsvFile.h"
 
 namespace drillhole {
 
 namespace {
 
-constexpr int lineCount = 10;
+constexpr int rowCount = 10;
 
 struct Cut {
-    int evenLines = 0; ///< 0 if the first line stays whole
+    int evenRows = 0; ///< 0 if the first row stays whole
     std::size_t fields = 0;
 };
 
-Cut cutOf(std::string_view head, char delimiter) {
+Cut cutOf(const std::string &path, char delimiter) {
+    CsvFile file(path, delimiter);
     Cut cut;
-    try {
-        CsvParser parser(delimiter);
-        parser.parse(std::string(head) + '\n');
-        Row row;
-        for (int line = 0; line < lineCount && parser.next(row); ++line) {
-            if (line == 0) {
-                cut.fields = row.fields.size();
-            }
-            cut.evenLines += row.fields.size() == cut.fields ? 1 : 0;
-        }
-    } catch (const Fault &) {
-        return {}; // no text that this delimiter cuts
+    Row row;
+    for (int i = 0; i < rowCount && file.next(row); ++i) {
+        cut.fields = i == 0 ? row.fields.size() : cut.fields;
+        cut.evenRows += row.refusal == nullptr && row.fields.size() == cut.fields ? 1 : 0;
     }
     return cut.fields > 1 ? cut : Cut();
 }
 
 bool isBetter(const Cut &cut, const Cut &other) {
-    return cut.evenLines != other.evenLines ? cut.evenLines > other.evenLines
-                                            : cut.fields > other.fields;
+    return cut.evenRows != other.evenRows ? cut.evenRows > other.evenRows
+                                          : cut.fields > other.fields;
 }
 
 } // namespace
 
-char startDelimiter(std::string_view head, std::optional<char> lastUsed) {
+char startDelimiter(const std::string &path, std::optional<char> lastUsed) {
     char best = lastUsed.value_or(',');
     Cut bestCut;
     for (const char delimiter : {',', ';', '\t', ' ', '|'}) {
-        const Cut cut = cutOf(head, delimiter);
+        const Cut cut = cutOf(path, delimiter);
         if (isBetter(cut, bestCut)) {
             best = delimiter;
             bestCut = cut;
         }
     }
-    if (lastUsed && cutOf(head, *lastUsed).evenLines >= bestCut.evenLines) {
+    if (lastUsed && cutOf(path, *lastUsed).evenRows >= bestCut.evenRows) {
         return *lastUsed;
     }
     return best;

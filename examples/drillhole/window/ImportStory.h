@@ -18,11 +18,14 @@ struct ImportStory {
     ImportOutcome outcome;
     std::string fault; ///< why nothing was imported
 
-    bool isDone() const { return isConfirmed && fault.empty() && !outcome.isCancelled; }
+    bool isDone() const { return isConfirmed && fault.empty() && outcome.isDone(); }
 };
 
-/// Writes it line by line: how the dialog ended, the columns with their matches, the rows taken and
-/// the rows refused with their reasons.
+/// The outcome in a sentence.
+std::string summaryOf(const ImportStory &story);
+
+/// Writes it line by line: how the dialog ended, the columns with their matches, the rows taken
+/// and refused, why, and what else is to be said of them.
 void print(std::ostream &out, const ImportStory &story);
 
 } // namespace drillhole

@@ -14,6 +14,7 @@
 #include <glibmm/miscutils.h>
 #include <gtkmm/filechoosernative.h>
 #include <gtkmm/frame.h>
+#include <gtkmm/messagedialog.h>
 #include <gtkmm/paned.h>
 
 namespace drillhole {
@@ -90,9 +91,12 @@ void MainWindow::importFile(const std::string &path) {
     }
     const FileMatch match = *story.file;
     story.matches = match.matches;
-    start(story, [path, match](const Destination &destination, ImportProgress &progress) {
-        return drillhole::importFile(destination, path, match, progress);
-    });
+    start(
+        story,
+        [path, match](const Destination &destination, ImportProgress &progress) {
+            return drillhole::importFile(destination, path, match, progress);
+        },
+        chosenReplace());
 }
 
 void MainWindow::importTable(const std::string &connection, const std::string &sourceTable) {
@@ -129,13 +133,17 @@ void MainWindow::matchTable(ImportStory story, const std::string &connection,
         end(story);
         return;
     }
-    start(story, [connection, columns, table = story.source, matches = story.matches](
-                     const Destination &destination, ImportProgress &progress) {
-        return drillhole::importTable(destination, connection, table, columns, matches, progress);
-    });
+    start(
+        story,
+        [connection, columns, table = story.source,
+         matches = story.matches](const Destination &destination, ImportProgress &progress) {
+            return drillhole::importTable(destination, connection, table, columns, matches,
+                                          progress);
+        },
+        chosenReplace());
 }
 
-void MainWindow::start(ImportStory story, Import import) {
+void MainWindow::start(ImportStory story, Import import, Replace replace) {
     const auto progress = std::make_shared<ImportProgress>();
     const auto outcome = std::make_shared<ImportOutcome>();
     m_progress = progress;
@@ -145,16 +153,31 @@ void MainWindow::start(ImportStory story, Import import) {
     m_progressLine.show();
     const std::string report =
         Glib::build_filename(m_reportFolder, "refused_" + story.table->name + ".csv");
-    const bool replaces = m_replace.get_active();
     m_thread.run(
         [=, table = story.table](soci::session &holes) {
-            *outcome = import({holes, *table, report, replaces}, *progress);
+            *outcome = import({holes, *table, report, replace, {}}, *progress);
         },
-        [this, story, outcome](const std::string &fault) mutable {
+        [this, story, outcome, import](const std::string &fault) mutable {
             story.outcome = *outcome;
             story.fault = fault;
-            end(story);
+            if (!outcome->question.empty() && agreesTo(outcome->question)) {
+                start(story, import, Replace::anyway);
+            } else {
+                end(story);
+            }
         });
+}
+
+Replace MainWindow::chosenReplace() const {
+    return m_replace.get_active() ? Replace::ifNothingIsLost : Replace::no;
+}
+
+bool MainWindow::agreesTo(const std::string &question) {
+    Gtk::MessageDialog dialog(*this, question, false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_NONE,
+                              true);
+    dialog.add_button("_Keep What Is There", Gtk::RESPONSE_CANCEL);
+    dialog.add_button("_Replace", Gtk::RESPONSE_OK);
+    return dialog.run() == Gtk::RESPONSE_OK;
 }
 
 void MainWindow::end(const ImportStory &story) {
@@ -165,7 +188,7 @@ void MainWindow::end(const ImportStory &story) {
     if (!story.fault.empty()) {
         showFault(story.fault);
     } else if (story.isConfirmed) {
-        m_report.show(story.outcome, story.source, *story.table);
+        m_report.show(story);
         if (!m_settings.complaint().empty()) {
             showFault(m_settings.complaint());
         }

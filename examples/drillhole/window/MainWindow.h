@@ -53,7 +53,9 @@ private:
     void chooseFile();
     void matchTable(ImportStory story, const std::string &connection,
                     const std::vector<std::string> &columns);
-    void start(ImportStory story, Import import);
+    void start(ImportStory story, Import import, Replace replace);
+    Replace chosenReplace() const;
+    bool agreesTo(const std::string &question);
     void end(const ImportStory &story);
     void setBusy(bool isBusy);
     bool showProgress();

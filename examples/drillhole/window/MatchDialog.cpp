@@ -55,7 +55,8 @@ std::optional<FileMatch> MatchDialog::matchFile(Gtk::Window &owner, const Table 
     const std::string name = table.name + " from file";
     KeptMatch kept = m_settings.match(name);
     FileMatch match;
-    match.delimiter = startDelimiter(headOf(path), kept.delimiter);
+    match.stamp = stampOf(path);
+    match.delimiter = startDelimiter(path, kept.delimiter);
     match.firstLineHoldsTitles = kept.firstLineHoldsTitles;
     match.matches =
         matchesThatFit(kept.matches, table, namesShown(firstLineOf(path), match.delimiter));

@@ -2,6 +2,8 @@
 
 #include "examples/drillhole/window/ReportPane.h"
 
+#include "examples/drillhole/rows/text.h"
+
 #include <giomm/appinfo.h>
 #include <glibmm/convert.h>
 
@@ -11,7 +13,7 @@ ReportPane::ReportPane() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_open("_Open
     m_rows = Gtk::ListStore::create(m_columns);
     m_view.set_model(m_rows);
     m_view.append_column("Line", m_columns.lines);
-    m_view.append_column("Why the row was refused", m_columns.reason);
+    m_view.append_column("Why rows were refused, and what else is to be said", m_columns.reason);
     m_scrolled.set_shadow_type(Gtk::SHADOW_IN);
     m_scrolled.set_min_content_height(140);
     m_scrolled.add(m_view);
@@ -33,26 +35,28 @@ ReportPane::ReportPane() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_open("_Open
     m_scrolled.set_no_show_all();
 }
 
-void ReportPane::show(const ImportOutcome &outcome, const std::string &source, const Table &table) {
-    m_heading.set_text(summaryOf(outcome, source, table));
-    showRefused(outcome);
-    m_report = outcome.report;
+void ReportPane::show(const ImportStory &story) {
+    m_heading.set_text(summaryOf(story));
+    m_rows->clear();
+    for (const auto *remarks : {&story.outcome.remarks, &story.outcome.firstRefused}) {
+        for (const Remark &remark : *remarks) {
+            addRow(remark);
+        }
+    }
+    if (story.outcome.refused > story.outcome.firstRefused.size()) {
+        addRow({{},
+                countOf(story.outcome.refused - story.outcome.firstRefused.size(), "more row") +
+                    " in the report"});
+    }
+    m_report = story.outcome.report;
     m_open.set_visible(!m_report.empty());
-    m_scrolled.set_visible(!m_report.empty());
+    m_scrolled.set_visible(!m_rows->children().empty());
 }
 
-void ReportPane::showRefused(const ImportOutcome &outcome) {
-    m_rows->clear();
-    for (const RefusedRow &refused : outcome.firstRefused) {
-        const auto row = *m_rows->append();
-        row[m_columns.lines] = refused.lines;
-        row[m_columns.reason] = refused.reason;
-    }
-    if (outcome.refused > outcome.firstRefused.size()) {
-        const auto row = *m_rows->append();
-        row[m_columns.reason] =
-            std::to_string(outcome.refused - outcome.firstRefused.size()) + " more in the report";
-    }
+void ReportPane::addRow(const Remark &remark) {
+    const auto row = *m_rows->append();
+    row[m_columns.lines] = remark.lines;
+    row[m_columns.reason] = remark.text;
 }
 
 void ReportPane::openReport() {
@@ -61,19 +65,6 @@ void ReportPane::openReport() {
     } catch (const Glib::Error &) {
         m_heading.set_text("No program opens such files here. The report is " + m_report);
     }
-}
-
-std::string summaryOf(const ImportOutcome &outcome, const std::string &source, const Table &table) {
-    const std::string into = Glib::ustring(table.title).lowercase();
-    if (outcome.isCancelled) {
-        return "Cancelled. The " + into + " are as they were before " + source + '.';
-    }
-    const auto rows = [](std::size_t count) {
-        return std::to_string(count) + (count == 1 ? " row" : " rows");
-    };
-    return source + ": " + rows(outcome.taken) + " imported" +
-           (outcome.replaces ? " in place of the earlier ones, " : ", ") +
-           (outcome.refused == 0 ? "none" : rows(outcome.refused)) + " refused.";
 }
 
 } // namespace drillhole

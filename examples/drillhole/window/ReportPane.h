@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "examples/drillhole/database/importRows.h"
+#include "examples/drillhole/window/ImportStory.h"
 
 #include <gtkmm/box.h>
 #include <gtkmm/button.h>
@@ -13,16 +13,16 @@
 
 namespace drillhole {
 
-/// What came of the last import: a sentence, and the refused rows with their reasons.
+/// What came of the last import: a sentence, what is to be said of rows, and the refused
+/// ones with their reasons.
 class ReportPane : public Gtk::Box {
 public:
     ReportPane();
 
-    /// @param source  what was imported, and `table` where to
-    void show(const ImportOutcome &outcome, const std::string &source, const Table &table);
+    void show(const ImportStory &story);
 
 private:
-    void showRefused(const ImportOutcome &outcome);
+    void addRow(const Remark &remark);
     void openReport();
 
     struct Columns : Gtk::TreeModelColumnRecord {
@@ -42,8 +42,5 @@ private:
     Gtk::TreeView m_view;
     std::string m_report;
 };
-
-/// The outcome in a sentence.
-std::string summaryOf(const ImportOutcome &outcome, const std::string &source, const Table &table);
 
 } // namespace drillhole

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace drillhole {
+
+/// The text in UTF-8: what is no UTF-8 is taken for Windows-1252, and what is not that either for
+/// Latin-1.
+std::string asUtf8(std::string_view bytes);
+
+/// At most so many characters of the text, in UTF-8.
+std::string shortened(std::string_view text, std::size_t length);
+
+/// The head of a value, between quotes.
+std::string quoted(std::string_view text);
+
+std::string_view trimmed(std::string_view text);
+
+/// The number that the whole text is, with a decimal point, or nothing.
+std::optional<double> parseNumber(std::string_view text);
+
+/// "1 row", "1,234 rows".
+std::string countOf(std::size_t count, const std::string &noun);
+
+} // namespace drillhole
