@@ -38,6 +38,7 @@ add_library(columnimport SHARED
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/AccessibleRows.cpp
     dragdrop/${platform}/RowMarks.cpp
+    dragdrop/${platform}/clipboardText.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/MatchListKeys.cpp
@@ -67,6 +68,7 @@ if(WIN32)
 else()
     target_sources(columnimport PRIVATE
         dragdrop/gtk/AccessibleRow.cpp
+        dragdrop/gtk/ForeignText.cpp
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/markColours.cpp

@@ -26,7 +26,9 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
 
 ListBoxSource::~ListBoxSource() = default;
 
+// The control is not told of the press, so it takes no focus by itself.
 void ListBoxSource::onLeftDown(wxMouseEvent &event) {
+    SetFocus();
     const int row = HitTest(event.GetPosition());
     if (row >= 0) {
         SetSelection(row);
@@ -50,7 +52,7 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
 
 void ListBoxSource::onKeyDown(wxKeyEvent &event) {
     const int row = GetSelection();
-    if (event.ControlDown() && event.GetKeyCode() == 'C' && row != wxNOT_FOUND) {
+    if (event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C' && row != wxNOT_FOUND) {
         copyText(GetString(static_cast<unsigned>(row)));
     } else {
         event.Skip();

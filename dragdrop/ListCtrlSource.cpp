@@ -18,14 +18,18 @@ ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &p
     Bind(wxEVT_LEFT_DOWN, &ListCtrlSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_UP, &ListCtrlSource::onLeftUp, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListCtrlSource::onMouseMove, this, wxID_ANY, wxID_ANY);
-    // The control would select rows of its own accord.
-    for (const auto &press : {wxEVT_LEFT_DCLICK, wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK,
-                              wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
-        Bind(press, &ListCtrlSource::onLeftDown, this);
+    Bind(wxEVT_LEFT_DCLICK, &ListCtrlSource::onLeftDown, this);
+    // The control would select rows with any button.
+    for (const auto &press :
+         {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
+        Bind(press, [](wxMouseEvent &) {});
     }
 }
 
-ListCtrlSource::~ListCtrlSource() = default;
+// What is held beside the rows hears of their end, and has to be there yet.
+ListCtrlSource::~ListCtrlSource() {
+    DeleteAllItems();
+}
 
 std::string ListCtrlSource::getMatchText(int row) const {
     wxListItem item;
@@ -120,8 +124,11 @@ long ListCtrlSource::nextMarkedRow(long row) const {
     return m_marks.next(row);
 }
 
-// The press is kept from the control, whose own selection would mix with the marks.
-void ListCtrlSource::onLeftDown(wxMouseEvent &) {}
+// The press is kept from the control, whose own selection would mix with the marks; so it takes no
+// focus by itself.
+void ListCtrlSource::onLeftDown(wxMouseEvent &) {
+    SetFocus();
+}
 
 void ListCtrlSource::onLeftUp(wxMouseEvent &event) {
     const long row = rowAt(event.GetPosition());

@@ -14,6 +14,11 @@ namespace columnimport {
 MatchListKeys::MatchListKeys(ListCtrlSource &list) : m_list(list) {
     list.Bind(wxEVT_KEY_DOWN, &MatchListKeys::onKeyDown, this);
     list.Bind(wxEVT_CHAR, &MatchListKeys::onCharacter, this);
+    // What is on its way was meant for the rows that are about to go.
+    list.Bind(wxEVT_LIST_DELETE_ALL_ITEMS, [this](wxListEvent &event) {
+        m_paste.forget();
+        event.Skip();
+    });
 }
 
 void MatchListKeys::startFrom(long row) {
@@ -65,62 +70,94 @@ void MatchListKeys::markCurrentRow(bool alone) {
     m_anchor = row;
 }
 
-void MatchListKeys::setChosenMatchTexts(const wxString &text) {
-    if (m_list.countMarkedRows() > 0) {
-        m_list.setMarkedMatchTexts(text);
-    } else if (currentRow() >= 0) {
-        m_list.setMatchText(currentRow(), text);
+std::vector<long> MatchListKeys::chosenRows() const {
+    std::vector<long> rows;
+    for (long row = m_list.nextMarkedRow(-1); row != -1; row = m_list.nextMarkedRow(row)) {
+        rows.push_back(row);
+    }
+    if (rows.empty() && currentRow() >= 0) {
+        rows.push_back(currentRow());
+    }
+    return rows;
+}
+
+void MatchListKeys::setMatchTexts(const std::vector<long> &rows, const wxString &text) {
+    for (const long row : rows) {
+        m_list.setMatchText(row, text);
+    }
+}
+
+void MatchListKeys::copy(long row) {
+    if (row >= 0) {
+        copyText(m_list.GetItemText(row, matchColumn));
+    }
+}
+
+void MatchListKeys::paste(const std::vector<long> &rows) {
+    m_paste.start([this, rows](const wxString &text) {
+        setMatchTexts(rows, m_list.names().textOfForeign(text));
+    });
+}
+
+// The control would keep Return for itself.
+void MatchListKeys::pressOk() {
+    wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
+    wxGetTopLevelParent(&m_list)->GetEventHandler()->AddPendingEvent(ok);
+}
+
+bool MatchListKeys::move(const wxKeyEvent &key) {
+    const long row = currentRow();
+    switch (key.GetKeyCode()) {
+    case WXK_UP:
+        moveCurrentRow(row - 1, key);
+        return true;
+    case WXK_DOWN:
+        moveCurrentRow(row + 1, key);
+        return true;
+    case WXK_PAGEUP:
+        moveCurrentRow(row - m_list.GetCountPerPage(), key);
+        return true;
+    case WXK_PAGEDOWN:
+        moveCurrentRow(row + m_list.GetCountPerPage(), key);
+        return true;
+    case WXK_HOME:
+        moveCurrentRow(0, key);
+        return true;
+    case WXK_END:
+        moveCurrentRow(m_list.GetItemCount() - 1, key);
+        return true;
+    case WXK_SPACE:
+        markCurrentRow(!key.ControlDown());
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::function<void()> MatchListKeys::workOf(const wxKeyEvent &key) {
+    const bool isControl = key.GetModifiers() == wxMOD_CONTROL;
+    switch (key.GetKeyCode()) {
+    case WXK_DELETE:
+    case WXK_NUMPAD_DELETE:
+        return [this, rows = chosenRows()] { setMatchTexts(rows, notUsed); };
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER:
+        return [this] { pressOk(); };
+    case 'C':
+        return isControl ? [this, row = currentRow()] { copy(row); } : std::function<void()>();
+    case 'V':
+        return isControl ? [this, rows = chosenRows()] { paste(rows); } : std::function<void()>();
+    default:
+        return {};
     }
 }
 
 void MatchListKeys::onKeyDown(wxKeyEvent &event) {
-    const long row = currentRow();
-    wxString text;
-    switch (event.GetKeyCode()) {
-    case WXK_UP:
-        moveCurrentRow(row - 1, event);
-        break;
-    case WXK_DOWN:
-        moveCurrentRow(row + 1, event);
-        break;
-    case WXK_PAGEUP:
-        moveCurrentRow(row - m_list.GetCountPerPage(), event);
-        break;
-    case WXK_PAGEDOWN:
-        moveCurrentRow(row + m_list.GetCountPerPage(), event);
-        break;
-    case WXK_HOME:
-        moveCurrentRow(0, event);
-        break;
-    case WXK_END:
-        moveCurrentRow(m_list.GetItemCount() - 1, event);
-        break;
-    case WXK_SPACE:
-        markCurrentRow(!event.ControlDown());
-        break;
-    case WXK_DELETE:
-    case WXK_NUMPAD_DELETE:
-        setChosenMatchTexts(notUsed);
-        break;
-    case WXK_RETURN:
-    case WXK_NUMPAD_ENTER: {
-        // The control would keep it for itself.
-        wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
-        wxGetTopLevelParent(&m_list)->GetEventHandler()->AddPendingEvent(ok);
-        break;
-    }
-    case 'C':
-        if (event.ControlDown() && row >= 0) {
-            copyText(m_list.GetItemText(row, matchColumn));
-        }
-        break;
-    case 'V':
-        if (event.ControlDown() && pasteText(text)) {
-            setChosenMatchTexts(m_list.names().textOfForeign(text));
-        }
-        break;
-    default:
-        event.Skip();
+    const std::function<void()> work = event.AltDown() ? nullptr : workOf(event);
+    if (work) {
+        m_paste.inTurn(work);
+    } else {
+        event.Skip(event.AltDown() || !move(event));
     }
 }
 

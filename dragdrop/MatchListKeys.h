@@ -2,6 +2,11 @@
 
 #pragma once
 
+#include "dragdrop/clipboard.h"
+
+#include <functional>
+#include <vector>
+
 class wxKeyEvent;
 class wxString;
 
@@ -26,6 +31,12 @@ private:
     void onKeyDown(wxKeyEvent &event);
     void onCharacter(wxKeyEvent &event);
 
+    /// What a key does, as far as it is about the texts of rows; null if it is not used for that.
+    std::function<void()> workOf(const wxKeyEvent &key);
+
+    /// Moves the current row or marks, if the key is used for that.
+    bool move(const wxKeyEvent &key);
+
     /// The row that the keys are at, or -1.
     long currentRow() const;
     void setCurrentRow(long row);
@@ -34,9 +45,17 @@ private:
     void moveCurrentRow(long row, const wxKeyEvent &key);
 
     void markCurrentRow(bool alone);
-    void setChosenMatchTexts(const wxString &text);
+
+    /// The marked rows, or else the current one.
+    std::vector<long> chosenRows() const;
+    void setMatchTexts(const std::vector<long> &rows, const wxString &text);
+
+    void copy(long row);
+    void paste(const std::vector<long> &rows);
+    void pressOk();
 
     ListCtrlSource &m_list;
+    Paste m_paste;
     long m_anchor = -1; // of a range that Shift marks; survives a refresh
 };
 

@@ -2,7 +2,7 @@
 
 #include "dragdrop/TextDropTarget.h"
 
-#include "UnicodeText.h" // of the platform
+#include "ForeignText.h" // of the platform
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 #include "names/notUsed.h"
@@ -10,7 +10,7 @@
 namespace columnimport {
 
 TextDropTarget::TextDropTarget(wxWindow &owner) : m_owner(owner) {
-    SetDataObject(new UnicodeText);
+    SetDataObject(new ForeignText(*this));
 }
 
 TextDropTarget::~TextDropTarget() = default;

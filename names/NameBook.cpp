@@ -48,7 +48,8 @@ void NameBook::clear() {
 }
 
 wxString NameBook::enter(const wxString &text, const std::string &bytes) {
-    const std::wstring &alike = text.ToStdWstring();
+    // A drag of no character at all would be no drag.
+    const std::wstring alike = text.empty() ? invisible(1) : text.ToStdWstring();
     auto [entry, isNew] = m_names.emplace(alike, bytes);
     // A name may hold invisible characters of its own.
     while (!isNew) {

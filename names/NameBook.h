@@ -16,13 +16,15 @@ namespace columnimport {
 /// A name is bytes, of any encoding or none. What a control shows is made for a reader: decoded as
 /// well as may be, the head of it if it is long, with stand-ins for control characters. It need not
 /// lead back to the bytes, since the book knows them. No two names have the same text: what would
-/// read the same gets an invisible difference, a number in characters without a width.
+/// read the same gets an invisible difference, a number in characters without a width. No text is
+/// empty, or it could not be dragged.
 ///
 ///     bytes              shown as
 ///     plong\xC3\xA9e     plongée
 ///     plong\xE9e         plongée and an invisible 1
 ///     hole\0name         hole␀name
 ///     5,000 times x      400 times x, and an ellipsis
+///     no byte at all     an invisible 1
 ///
 /// Every way through the dialog, a proposal, a saved match or a drag, carries the text; the bytes
 /// come back from here, whatever becomes of the process's locale meanwhile.

@@ -23,7 +23,8 @@
 namespace columnimport {
 
 /// A pointer of our own beside the toolkit's, which tells whether a drag has begun: a drag takes
-/// the pointer away from the program.
+/// the pointer away from the program. To be made only if the screen has a pointer: a program that
+/// asks for one where there is none is thrown out.
 class WaylandPointer {
 public:
     explicit WaylandPointer(GdkDisplay *display)
@@ -65,6 +66,12 @@ gboolean letItVanish(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
     return TRUE;
 }
 
+// A person may drag with a finger.
+bool hasPointer(GdkDisplay *display) {
+    return (gdk_seat_get_capabilities(gdk_display_get_default_seat(display)) &
+            GDK_SEAT_CAPABILITY_POINTER) != 0;
+}
+
 } // namespace
 
 // Two lines of text are higher than a row. Not every Wayland compositor heeds a place beside the
@@ -72,19 +79,25 @@ gboolean letItVanish(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
 RunningDrag::RunningDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown)
     : m_drag(drag), m_label(makeDragLabel(shown)), m_right(source.GetCharWidth()),
       m_below(2 * source.GetCharHeight()),
-      m_beginning(g_idle_add_full(G_PRIORITY_HIGH, begin, this, nullptr)),
+      m_due(g_idle_add_full(G_PRIORITY_HIGH, begin, this, nullptr)),
       m_failing(g_signal_connect(drag.m_widget, "drag-failed", G_CALLBACK(letItVanish), nullptr)) {
     GdkDisplay *display = gtk_widget_get_display(drag.m_widget);
     if (GDK_IS_WAYLAND_DISPLAY(display)) {
-        m_pointer = std::make_unique<WaylandPointer>(display);
+        if (hasPointer(display)) {
+            m_pointer = std::make_unique<WaylandPointer>(display);
+        }
         gtk_widget_set_margin_start(m_label, std::exchange(m_right, 0));
         gtk_widget_set_margin_top(m_label, std::exchange(m_below, 0));
     }
 }
 
 RunningDrag::~RunningDrag() {
-    if (m_beginning != 0) {
-        g_source_remove(m_beginning);
+    if (m_due != 0) {
+        g_source_remove(m_due);
+    }
+    if (m_context != nullptr) {
+        g_signal_handlers_disconnect_by_data(m_context, this);
+        g_object_unref(m_context);
     }
     g_signal_handler_disconnect(m_drag.m_widget, m_failing);
     gtk_widget_destroy(m_label);
@@ -97,9 +110,15 @@ RunningDrag::~RunningDrag() {
 
 int RunningDrag::begin(void *self) {
     auto &drag = *static_cast<RunningDrag *>(self);
-    drag.m_beginning = 0;
+    drag.m_due = 0;
     drag.endIfIgnored();
-    drag.showLabel();
+    if (drag.m_drag.m_waiting) {
+        drag.m_context = GDK_DRAG_CONTEXT(g_object_ref(drag.m_drag.m_dragContext));
+        g_signal_connect(drag.m_context, "drop-performed", G_CALLBACK(limitDrop), self);
+        // The toolkit's icon can't be given a place beside the pointer, and shows nothing under
+        // Wayland.
+        gtk_drag_set_icon_widget(drag.m_context, drag.m_label, -drag.m_right, -drag.m_below);
+    }
     return G_SOURCE_REMOVE;
 }
 
@@ -116,11 +135,18 @@ void RunningDrag::endIfIgnored() {
     }
 }
 
-// The toolkit's icon can't be given a place beside the pointer, and shows nothing under Wayland.
-void RunningDrag::showLabel() {
-    if (m_drag.m_waiting) {
-        gtk_drag_set_icon_widget(m_drag.m_dragContext, m_label, -m_right, -m_below);
-    }
+// The program that got the drop may hang. GTK would wait five minutes for it, and the toolkit keeps
+// all events from the dialog meanwhile.
+void RunningDrag::limitDrop(GdkDragContext *, int, void *self) {
+    constexpr unsigned milliseconds = 2000;
+    static_cast<RunningDrag *>(self)->m_due = g_timeout_add(milliseconds, endUnfinished, self);
+}
+
+int RunningDrag::endUnfinished(void *self) {
+    auto &drag = *static_cast<RunningDrag *>(self);
+    drag.m_due = 0;
+    gtk_drag_cancel(drag.m_context);
+    return G_SOURCE_REMOVE;
 }
 
 } // namespace columnimport

@@ -6,9 +6,10 @@
 
 namespace columnimport {
 
-/// Text as UTF-8 and in no other encoding, under both names that programs have for it: those of
-/// some toolkits offer only the second one under Wayland. The toolkit's own object has the locale's
-/// encoding in its place, which does not hold every text and may be taken first.
+/// Text for other programs and for the dialog itself, as UTF-8 and in no other encoding, under both
+/// names that programs have for it: those of some toolkits ask only for the second one under
+/// Wayland. The toolkit's own object has the locale's encoding in its place, which does not hold
+/// every text and may be taken first.
 class UnicodeText : public wxTextDataObject {
 public:
     using wxTextDataObject::wxTextDataObject;
@@ -21,15 +22,11 @@ public:
 
     using wxTextDataObject::GetDataHere;
     using wxTextDataObject::GetDataSize;
-    using wxTextDataObject::SetData;
     std::size_t GetDataSize(const wxDataFormat &) const override {
         return wxTextDataObject::GetDataSize(GetPreferredFormat());
     }
     bool GetDataHere(const wxDataFormat &, void *data) const override {
         return wxTextDataObject::GetDataHere(GetPreferredFormat(), data);
-    }
-    bool SetData(const wxDataFormat &, std::size_t size, const void *data) override {
-        return wxTextDataObject::SetData(GetPreferredFormat(), size, data);
     }
 };
 

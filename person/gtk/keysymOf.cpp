@@ -21,6 +21,12 @@ unsigned keysymOf(int key) {
         return GDK_KEY_Shift_L;
     case WXK_CONTROL:
         return GDK_KEY_Control_L;
+    case WXK_ALT:
+        return GDK_KEY_Alt_L;
+    case WXK_PAGEUP:
+        return GDK_KEY_Page_Up;
+    case WXK_PAGEDOWN:
+        return GDK_KEY_Page_Down;
     case WXK_HOME:
         return GDK_KEY_Home;
     case WXK_END:

@@ -28,6 +28,12 @@ std::string nameOf(int key) {
         return "Shift_L";
     case WXK_CONTROL:
         return "Control_L";
+    case WXK_ALT:
+        return "Alt_L";
+    case WXK_PAGEUP:
+        return "Prior";
+    case WXK_PAGEDOWN:
+        return "Next";
     case WXK_HOME:
         return "Home";
     case WXK_END:

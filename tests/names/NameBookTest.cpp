@@ -65,6 +65,7 @@ TEST_P(Locale, LetsTheBytesOfEachNameComeBack) {
     for (const std::string &name : names) {
         const wxString text = book.textOf(name);
         ASSERT_EQ(book.bytesOf(text), name);
+        ASSERT_FALSE(text.empty()) << "nothing would be dragged";
         ASSERT_LT(text.length(), 512U) << "more than every list control gives back";
         // Dragged, it travels as UTF-8, and a name of the dialog is meant by it.
         const wxString dropped = wxString::FromUTF8(text.utf8_string());

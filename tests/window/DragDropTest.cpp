@@ -260,18 +260,20 @@ TEST_F(DragDrop, TheRowUnderThePointerIsShownUnlessOneIsMarked) {
     });
 }
 
-TEST_F(DragDrop, TheRightButtonAndASecondClickLeaveMarksAndHoverAsTheyAre) {
+TEST_F(DragDrop, TheRightButtonAndASecondClickChangeNothing) {
     run.show([](Person &person) {
-        const auto rightClick = [&person](int row) {
-            person.moveTo(Person::matchRow(row));
+        const auto rightClick = [&person](wxPoint place) {
+            person.moveTo(place);
             person.press(3);
             person.release(3);
         };
+        rightClick(Person::fileRow(3));
+        EXPECT_EQ(read([] { return fileList().GetSelection(); }), wxNOT_FOUND);
         person.hoverAt(Person::matchRow(6), "row 6 is in hover", isInHover(6));
-        rightClick(6);
+        rightClick(Person::matchRow(6));
         EXPECT_EQ(hoverRows(), Rows{6});
         clickWith(person, WXK_NONE, 2, {2});
-        rightClick(4);
+        rightClick(Person::matchRow(4));
         EXPECT_EQ(hoverRows(), Rows());
         EXPECT_EQ(markedRows(), Rows{2});
         clickWith(person, WXK_NONE, 5, {5});
@@ -281,6 +283,21 @@ TEST_F(DragDrop, TheRightButtonAndASecondClickLeaveMarksAndHoverAsTheyAre) {
         EXPECT_EQ(matchTexts(), start);
         pressCancel(person);
     });
+}
+
+TEST_F(DragDrop, AColumnWithoutATitleIsDraggedAsOthersAre) {
+    const ScratchFile untitled("HOLE,,FROM\n");
+    run.fileName = untitled.path();
+    run.appColumns = {"hole", "from"};
+    run.matches = {"HOLE", "FROM"};
+    EXPECT_TRUE(run.show([](Person &person) {
+        person.drag(Person::fileRow(1), Person::matchRow(1));
+        EXPECT_EQ(matchTexts()[1], fileTexts()[1]);
+        EXPECT_EQ(boldRows(), Rows());
+        EXPECT_EQ(read([] { return matchList().GetTextExtent(matchList().GetItemText(1)).x; }), 0);
+        pressOk(person);
+    }));
+    EXPECT_EQ(run.matches, (Names{"HOLE", ""}));
 }
 
 TEST_F(DragDrop, AClickInTheFileListSelectsAndLeavesTheMarks) {
@@ -384,6 +401,14 @@ TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
         person.hoverAt(Person::matchRow(298), "the drag is over the row", isInHover(298));
         person.drop();
         EXPECT_EQ(matchTexts()[298], "AS");
+
+        const int rowHeight = Person::matchRow(298).y - Person::matchRow(297).y;
+        person.dragTo(Person::fileRow(8), Person::matchRow(295));
+        person.hoverAt(Person::matchRow(static_cast<int>(read(topRow))) -
+                           wxSize(0, rowHeight / 2 - 2),
+                       "the first row is in view", [&topRow] { return topRow() == 0; });
+        person.drop();
+        EXPECT_EQ(matchTexts()[0], "FE");
         pressCancel(person);
     });
 }

@@ -112,6 +112,44 @@ TEST_F(Keyboard, ArrowsMoveTheCurrentRowAndSpaceMarks) {
     });
 }
 
+TEST_F(Keyboard, TheRowThatIsGoneToIsInView) {
+    run.appColumns = Names(300, "gold");
+    run.useSavedMatches = false;
+    run.show([](Person &person) {
+        tabTo(person, wxImportCSVDialog::LISTBOX_MATCH);
+        const int page = read([] { return matchList().GetCountPerPage(); });
+        const struct {
+            int key;
+            int row;
+        } ways[] = {{WXK_END, 299},
+                    {WXK_PAGEUP, 299 - page},
+                    {WXK_PAGEUP, 299 - 2 * page},
+                    {WXK_PAGEDOWN, 299 - page},
+                    {WXK_HOME, 0}};
+        for (const auto &way : ways) {
+            person.strike(way.key);
+            expectRows({}, {way.row});
+            const long top = read([] { return matchList().GetTopItem(); });
+            EXPECT_TRUE(way.row >= top && way.row < top + page) << way.row << " under " << top;
+        }
+        person.strike(WXK_ESCAPE);
+    });
+}
+
+TEST_F(Keyboard, GoesOnFromAClick) {
+    run.show([](Person &person) {
+        person.click(Person::matchRow(0));
+        person.click(Person::fileRow(1));
+        strike(person, WXK_CONTROL, 'c');
+        person.click(Person::matchRow(3));
+        strike(person, WXK_CONTROL, 'v');
+        expectTexts({"HOLE", "FROM", "TO", "FROM", "CU"});
+        strike(person, WXK_SHIFT, WXK_DOWN);
+        expectRows({3, 4}, {});
+        person.strike(WXK_ESCAPE);
+    });
+}
+
 TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
     EXPECT_TRUE(run.show([](Person &person) {
         tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
@@ -145,15 +183,27 @@ TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
     EXPECT_EQ(run.matches, (Names{"FROM", "", "", "", "HOLE"}));
 }
 
-TEST_F(Keyboard, ReturnIsOkAndEscapeCancelInBothLists) {
+TEST_F(Keyboard, ReturnIsOkAndEscapeAndItsLetterAreCancelInBothLists) {
+    const struct {
+        int modifier;
+        int key;
+        bool isOk;
+    } ways[] = {{WXK_NONE, WXK_RETURN, true}, {WXK_NONE, WXK_ESCAPE, false}, {WXK_ALT, 'c', false}};
     for (const int list : {wxImportCSVDialog::LISTBOX_FILE, wxImportCSVDialog::LISTBOX_MATCH}) {
-        for (const int key : {static_cast<int>(WXK_RETURN), static_cast<int>(WXK_ESCAPE)}) {
+        for (const auto &way : ways) {
             EXPECT_EQ(run.show([=](Person &person) {
                 tabTo(person, list);
                 person.strike(WXK_DOWN);
-                person.strike(key);
+                // Windows gives Cancel no letter.
+                const bool hasLetter =
+                    read([] { return control(wxID_CANCEL).GetLabel().Contains("&"); });
+                if (way.modifier == WXK_ALT && hasLetter) {
+                    strike(person, way.modifier, way.key);
+                } else {
+                    person.strike(way.modifier == WXK_ALT ? WXK_ESCAPE : way.key);
+                }
             }),
-                      key == WXK_RETURN);
+                      way.isOk);
         }
     }
 }

@@ -34,7 +34,6 @@ public:
 
     /// Drops the next text at a place of the dialog.
     void dropAt(Person &person, wxPoint target) {
-        const wxPoint window(1200, 180);
         person.moveTo(window);
         person.press();
         // Another program has a threshold for its drags.
@@ -49,7 +48,9 @@ public:
         waitFor("over\n");
     }
 
-private:
+    /// A place in its window, in the client area of the dialog.
+    const wxPoint window = wxPoint(1200, 180);
+
     void waitFor(const std::string &wanted) {
         char said[10] = "";
         if (fgets(said, sizeof said, m_output) == nullptr || said != wanted) {
@@ -57,18 +58,30 @@ private:
         }
     }
 
+private:
     FILE *m_output;
 };
+
+void pressControlAnd(Person &person, int key) {
+    person.keyDown(WXK_CONTROL);
+    person.strike(key);
+    person.keyUp(WXK_CONTROL);
+}
 
 } // namespace
 
 TEST(ForeignText, IsWrittenIntoARowAsGivenAndOnTheFileListClearsTheMarkedRows) {
     const ScratchFile file("HOLE,FROM\n");
-    const Names texts = {"From elsewhere",         "Not used", "plong\xC3\xA9\x65 (\xC2\xB0)",
-                         std::string(100000, 'x'), "1\n2\n3",  ""};
+    const Names texts = {"From elsewhere",
+                         "Not used",
+                         "plong\xC3\xA9\x65 (\xC2\xB0)",
+                         std::string(100000, 'x'),
+                         "1\n2\n3",
+                         " plong\xE9",
+                         ""};
     DialogRun run;
     run.fileName = file.path();
-    run.appColumns = {"a", "b", "c", "d", "e", "hole", "from"};
+    run.appColumns = {"a", "b", "c", "d", "e", "f", "hole", "from"};
     EXPECT_TRUE(run.show([&texts](Person &person) {
         Names offered = texts;
         offered.insert(offered.end(), 2, "ignored");
@@ -77,45 +90,91 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndOnTheFileListClearsTheMarkedRows) {
             program.dropAt(person, Person::matchRow(row));
         }
         const Names before = matchTexts();
+        EXPECT_EQ(before[4], "1\xE2\x90\x8A\x32\xE2\x90\x8A\x33");
         program.dropAt(person, Person::fileRow(0));
         EXPECT_EQ(matchTexts(), before);
-        person.click(Person::matchRow(6));
-        poll("the last row is marked", [] { return markedRows() == std::vector<int>{6}; });
+        person.click(Person::matchRow(7));
+        poll("the last row is marked", [] { return markedRows() == std::vector<int>{7}; });
         program.dropAt(person, Person::belowFileRows());
         pressOk(person);
     }));
     Names expected = texts;
     expected[1] = "";
-    expected[5] = "HOLE"; // the toolkit hands no empty text over
+    expected[5] = " plong\xC3\xA9";
+    expected[6] = "HOLE"; // the toolkit hands no empty text over
     expected.push_back("");
     EXPECT_TRUE(run.matches == expected);
 }
 
-TEST(ForeignText, IsPastedUnderEitherNameOfItsEncoding) {
+TEST(ForeignText, IsPastedAsUtf8IfThatIsOfferedAndElseReadAsANameIs) {
     const ScratchFile file("HOLE\n");
-    for (const char *name : {"UTF8_STRING", "text/plain;charset=utf-8"}) {
+    const struct {
+        std::vector<std::string> offered;
+        std::string bytes;
+    } cases[] = {{{"UTF8_STRING"}, "\xCE\xA9"},
+                 {{"text/plain", "text/plain;charset=utf-8"}, "\xCE\xA9"},
+                 {{"STRING", "UTF8_STRING"}, "\xCE\xA9"},
+                 {{"STRING"}, "\xC3\xA9"},
+                 {{"text/plain"}, "\xC3\xA9"}};
+    for (const auto &[offered, bytes] : cases) {
         DialogRun run;
         run.fileName = file.path();
         run.appColumns = {"a"};
-        run.show([name](Person &person) {
-            onUserInterface([name] {
-                const std::string format = name;
-                const GtkTargetEntry offered{const_cast<char *>(format.c_str()), 0, 0};
+        run.show([&names = offered](Person &person) {
+            onUserInterface([&names] {
+                std::vector<GtkTargetEntry> formats;
+                for (const std::string &name : names) {
+                    formats.push_back({const_cast<char *>(name.c_str()), 0, 0});
+                }
                 gtk_clipboard_set_with_data(
-                    gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &offered, 1,
+                    gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), formats.data(),
+                    static_cast<unsigned>(formats.size()),
                     [](GtkClipboard *, GtkSelectionData *data, unsigned, void *) {
-                        gtk_selection_data_set(data, gtk_selection_data_get_target(data), 8,
-                                               reinterpret_cast<const guchar *>("\xCE\xA9"), 2);
+                        char *name = gdk_atom_name(gtk_selection_data_get_target(data));
+                        const bool isUtf8 = g_str_match_string("utf", name, TRUE) != FALSE;
+                        g_free(name);
+                        gtk_selection_data_set(
+                            data, gtk_selection_data_get_target(data), 8,
+                            reinterpret_cast<const guchar *>(isUtf8 ? "\xCE\xA9" : "\xE9"),
+                            isUtf8 ? 2 : 1);
                     },
                     [](GtkClipboard *, void *) {}, nullptr);
             });
             person.click(Person::matchRow(0));
-            person.keyDown(WXK_CONTROL);
-            person.strike('v');
-            person.keyUp(WXK_CONTROL);
-            poll("the row reads the text", [] { return matchTexts() == Names{"\xCE\xA9"}; });
+            pressControlAnd(person, 'v');
+            poll("the row reads the text", [] { return matchTexts() != Names{"Not used"}; });
             pressOk(person);
         });
-        EXPECT_EQ(run.matches, Names{"\xCE\xA9"}) << name;
+        EXPECT_EQ(run.matches, Names{bytes}) << offered.front();
     }
+}
+
+TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
+    const ScratchFile file("HOLE,FROM\n");
+    DialogRun run;
+    run.fileName = file.path();
+    run.appColumns = {"hole", "from"};
+    EXPECT_FALSE(run.show([](Person &person) {
+        OtherProgram program({"unused"});
+        person.moveTo(Person::fileRow(0));
+        person.press();
+        person.hoverAt(Person::fileRow(1), "the drag begins", isDragRunning);
+        person.hoverAt(Person::matchRow(0), "the drag is seen", [] { return !!placeOfDrag(); });
+        for (int step = 0; step < 20; ++step) {
+            person.moveTo(program.window + wxSize(step % 2, 0));
+        }
+        person.release();
+        program.waitFor("dropped\n");
+        waitUntil("the drag ends", [] { return !isDragRunning(); });
+        person.click(Person::matchRow(0));
+        pressControlAnd(person, 'v');
+        person.strike(WXK_DOWN);
+        poll("the dialog goes on", [] { return hoverRows() == std::vector<int>{1}; });
+        poll("the wait is over", [&person] {
+            person.strike(WXK_DELETE);
+            return matchTexts() == Names{"HOLE", "Not used"};
+        });
+        pressControlAnd(person, 'v');
+        person.strike(WXK_ESCAPE);
+    }));
 }

@@ -1,12 +1,18 @@
 // SPDX-License-Identifier: MIT
 
 // Another program on the screen, from which text is dragged: its window offers one of its arguments
-// after the other. It says when it is ready and when a drag is over, and ends after the last one.
+// after the other, and those that begin with a blank under a name that tells no encoding. It says
+// when it is ready and when a drag is over, and ends after the last one.
+//
+// It takes drags too, if they may move what is dragged, but finishes none of them, and hangs when
+// it is asked for what it has on the clipboard.
 
+#include <cstdlib>
 #include <cstring>
 #include <iostream>
 
 #include <gtk/gtk.h>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -15,15 +21,41 @@ void say(const char *what) {
     std::cout << what << std::endl;
 }
 
-void hand(GtkWidget *, GdkDragContext *, GtkSelectionData *data, guint, guint, char ***offered) {
-    gtk_selection_data_set_text(data, **offered, static_cast<int>(std::strlen(**offered)));
+void offer(GtkWidget *area, const char *text) {
+    gtk_drag_source_set_target_list(area, nullptr);
+    if (*text != ' ') {
+        gtk_drag_source_add_text_targets(area);
+        return;
+    }
+    GtkTargetEntry name{const_cast<char *>("STRING"), 0, 0};
+    GtkTargetList *names = gtk_target_list_new(&name, 1);
+    gtk_drag_source_set_target_list(area, names);
+    gtk_target_list_unref(names);
 }
 
-void goOn(GtkWidget *, GdkDragContext *, char ***offered) {
+void hand(GtkWidget *, GdkDragContext *, GtkSelectionData *data, guint, guint, char ***offered) {
+    const int length = static_cast<int>(std::strlen(**offered));
+    if (***offered == ' ') {
+        gtk_selection_data_set(data, gtk_selection_data_get_target(data), 8,
+                               reinterpret_cast<guchar *>(**offered), length);
+    } else {
+        gtk_selection_data_set_text(data, **offered, length);
+    }
+}
+
+void goOn(GtkWidget *area, GdkDragContext *, char ***offered) {
     say("over");
     if (*++*offered == nullptr) {
         gtk_main_quit();
+    } else {
+        offer(area, **offered);
     }
+}
+
+void hang(GtkClipboard *, GtkSelectionData *, guint, void *) {
+    pollfd listener{STDOUT_FILENO, 0, 0};
+    poll(&listener, 1, -1);
+    std::_Exit(0);
 }
 
 } // namespace
@@ -37,7 +69,18 @@ int main(int argumentCount, char **arguments) {
     GtkWidget *area = gtk_event_box_new();
     gtk_container_add(GTK_CONTAINER(window), area);
     gtk_drag_source_set(area, GDK_BUTTON1_MASK, nullptr, 0, GDK_ACTION_COPY);
-    gtk_drag_source_add_text_targets(area);
+    offer(area, *offered);
+    gtk_drag_dest_set(area, GTK_DEST_DEFAULT_MOTION, nullptr, 0, GDK_ACTION_MOVE);
+    gtk_drag_dest_add_text_targets(area);
+    g_signal_connect(area, "drag-drop", G_CALLBACK(+[]() -> gboolean {
+                         say("dropped");
+                         return TRUE;
+                     }),
+                     nullptr);
+    const GtkTargetEntry text{const_cast<char *>("UTF8_STRING"), 0, 0};
+    gtk_clipboard_set_with_data(
+        gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &text, 1, hang, [](GtkClipboard *, void *) {},
+        nullptr);
     g_signal_connect(area, "drag-data-get", G_CALLBACK(hand), &offered);
     g_signal_connect(area, "drag-end", G_CALLBACK(goOn), &offered);
     g_signal_connect_after(window, "map-event", G_CALLBACK(+[]() -> gboolean {
