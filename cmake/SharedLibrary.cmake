@@ -21,6 +21,7 @@ target_compile_definitions(columnimport_toolkit INTERFACE ${wxWidgets_DEFINITION
 target_compile_options(columnimport_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
 target_link_libraries(columnimport_toolkit INTERFACE ${wxWidgets_LIBRARIES})
 
+add_subdirectory(languages)
 add_subdirectory(names)
 
 add_library(columnimport SHARED
@@ -45,6 +46,7 @@ add_library(columnimport SHARED
     dragdrop/TextDropTarget.cpp
     dragdrop/clipboard.cpp
     dragdrop/dragText.cpp
+    dragdrop/rowsText.cpp
     dragdrop/tipWhereCut.cpp
     host/${platform}/HostStandIn.cpp
     host/${platform}/modalLoop.cpp
@@ -61,7 +63,8 @@ set_target_properties(columnimport PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 target_compile_features(columnimport PUBLIC cxx_std_17)
 target_link_libraries(columnimport PRIVATE
-    columnimport_matching columnimport_delimited columnimport_names columnimport_toolkit)
+    columnimport_matching columnimport_delimited columnimport_languages columnimport_names
+    columnimport_toolkit)
 if(WIN32)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
@@ -91,7 +94,8 @@ if(WIN32)
     target_include_directories(columnimport_inside INTERFACE
         $<TARGET_PROPERTY:columnimport,INTERFACE_INCLUDE_DIRECTORIES>)
     target_link_libraries(columnimport_inside PUBLIC
-        columnimport_matching columnimport_delimited columnimport_names columnimport_toolkit)
+        columnimport_matching columnimport_delimited columnimport_languages columnimport_names
+        columnimport_toolkit)
 else()
     add_library(columnimport_inside INTERFACE)
     target_link_libraries(columnimport_inside INTERFACE

@@ -3,11 +3,13 @@
 #include "dialogs/DelimiterField.h"
 
 #include "dialogs/nativeControls.h"
+#include "languages/translated.h"
 #include "names/nameText.h"
 
 #include <string>
 
 #include <wx/menu.h>
+#include <wx/translation.h>
 
 namespace columnimport {
 
@@ -19,7 +21,8 @@ struct Delimiter {
 };
 
 constexpr Delimiter usualDelimiters[] = {
-    {"Comma", ','}, {"Semicolon", ';'}, {"Tab", '\t'}, {"Space", ' '}, {"Bar", '|'},
+    {wxTRANSLATE("Comma"), ','}, {wxTRANSLATE("Semicolon"), ';'}, {wxTRANSLATE("Tab"), '\t'},
+    {wxTRANSLATE("Space"), ' '}, {wxTRANSLATE("Bar"), '|'},
 };
 
 } // namespace
@@ -28,9 +31,9 @@ DelimiterField::DelimiterField(wxWindow *parent, wxWindowID id, char delimiter, 
     : wxTextCtrl(parent, id, decoded(std::string(1, delimiter)), wxDefaultPosition, size) {
     SetMaxLength(1);
     fitOneCharacter(*this);
-    setAccessibleName(*this, "Field delimiter");
-    SetToolTip("One character, taken as it stands; a tab can be pasted.\n"
-               "Another one cuts the first line anew and matches its columns afresh.");
+    setAccessibleName(*this, translated("Field delimiter"));
+    SetToolTip(translated("One character, taken as it stands; a tab can be pasted.\n"
+                          "Another one cuts the first line anew and matches its columns afresh."));
     Bind(wxEVT_SET_FOCUS, [this](wxFocusEvent &event) {
         selectSoon();
         event.Skip();
@@ -65,7 +68,7 @@ void DelimiterField::offer(const wxPoint &position) {
     wxMenu menu;
     for (const Delimiter &usual : usualDelimiters) {
         const wxString text(usual.character);
-        wxMenuItem *item = menu.AppendCheckItem(wxID_ANY, usual.name);
+        wxMenuItem *item = menu.AppendCheckItem(wxID_ANY, translated(usual.name));
         item->Check(GetValue() == text);
         menu.Bind(
             wxEVT_MENU, [this, text](wxCommandEvent &) { SetValue(text); }, item->GetId());

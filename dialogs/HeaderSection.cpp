@@ -13,6 +13,7 @@
 #include "dialogs/nativeControls.h"
 #include "dialogs/quietSentence.h"
 #include "dragdrop/controls.h"
+#include "languages/translated.h"
 #include "names/nameText.h"
 
 #include <utility>
@@ -23,6 +24,8 @@
 #include <wx/statbox.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+
+using columnimport::translated;
 
 namespace {
 
@@ -54,22 +57,22 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     }
 
     const columnimport::Scale scale(*this);
-    auto *options = new wxStaticBoxSizer(wxVERTICAL, this, "Options");
+    auto *options = new wxStaticBoxSizer(wxVERTICAL, this, translated("Options"));
     auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
-    auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, "File Preview");
+    auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("File Preview"));
     initImageHandlersOnce();
     sizer->Add(preview, wxSizerFlags(0).Border(wxALL, scale(10)));
 
     auto *label = new wxStaticText(options->GetStaticBox(), wxID_ANY,
-                                   "Field Delimiter ('S' for 'space' 'T' for 'tab')");
+                                   translated("Field Delimiter ('S' for 'space' 'T' for 'tab')"));
     auto *delimiter = new columnimport::DelimiterField(options->GetStaticBox(), TXT_DELIMITER,
                                                        m_delimiter, scale(wxSize(25, 20)));
     delimiterRow->Add(label);
     delimiterRow->AddSpacer(scale(10));
     delimiterRow->Add(delimiter);
 
-    auto *firstLine =
-        new wxCheckBox(options->GetStaticBox(), CHECK_HEADER, "First Line contain title");
+    auto *firstLine = new wxCheckBox(options->GetStaticBox(), CHECK_HEADER,
+                                     translated("First Line contain title"));
     firstLine->SetValue(m_firstLineHeader);
     options->Add(delimiterRow, wxSizerFlags(0).Align(wxALIGN_CENTER));
     options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
@@ -89,7 +92,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     text->SetLabelText(columnimport::previewText(
         columnimport::readPreview(m_fileName, columnimport::tellingLength)));
     text->SetSize(previewSize);
-    columnimport::setAccessibleName(*text, "File preview");
+    columnimport::setAccessibleName(*text, translated("File preview"));
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
 
     loadHeader();

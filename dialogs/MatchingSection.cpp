@@ -14,6 +14,7 @@
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/TextDropTarget.h"
 #include "dragdrop/controls.h"
+#include "languages/translated.h"
 #include "names/nameText.h"
 
 #include <cassert>
@@ -30,6 +31,7 @@ using columnimport::findControl;
 using columnimport::ListBoxSource;
 using columnimport::ListCtrlSource;
 using columnimport::TextDropTarget;
+using columnimport::translated;
 
 static_assert(wxImportCSVDialog::LISTBOX_FILE == columnimport::fileListId);
 static_assert(wxImportCSVDialog::LISTBOX_MATCH == columnimport::matchListId);
@@ -81,8 +83,8 @@ std::vector<std::string> positionalNames(std::size_t count) {
 
 void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     const columnimport::Scale scale(*this);
-    auto *rematch = new wxButton(this, BTN_REMATCH, "Reset to Default");
-    auto *matching = new wxStaticBoxSizer(wxHORIZONTAL, this, "Column Matching");
+    auto *rematch = new wxButton(this, BTN_REMATCH, translated("Reset to Default"));
+    auto *matching = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("Column Matching"));
     auto *arrow = new wxStaticBitmap(
         matching->GetStaticBox(), wxID_ANY,
         columnimport::arrowBitmap(*matching->GetStaticBox(), scale(wxSize(50, 50))));
@@ -108,10 +110,10 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     sizer->AddSpacer(scale(20));
     sizer->Add(buttons, wxSizerFlags(0).Align(wxALIGN_RIGHT));
 
-    matches->InsertColumn(COLUMN_MATCH, "Matching", wxLIST_FORMAT_LEFT, scale(245));
-    matches->InsertColumn(COLUMN_APP, "Application", wxLIST_FORMAT_LEFT, scale(245));
+    matches->InsertColumn(COLUMN_MATCH, translated("Matching"), wxLIST_FORMAT_LEFT, scale(245));
+    matches->InsertColumn(COLUMN_APP, translated("Application"), wxLIST_FORMAT_LEFT, scale(245));
 
-    columnimport::setAccessibleName(*files, "File columns");
+    columnimport::setAccessibleName(*files, translated("File columns"));
 
     m_matchDropTarget = new TextDropTarget(*matches);
     matches->SetDropTarget(m_matchDropTarget);

@@ -3,6 +3,7 @@
 #include "dialogs/headerSentence.h"
 
 #include "delimited/readHeader.h"
+#include "languages/translated.h"
 #include "names/nameText.h"
 
 namespace columnimport {
@@ -12,15 +13,15 @@ wxString headerSentence(const Header &header) {
     case FirstLine::cut:
         break;
     case FirstLine::undelimited:
-        return "The first line of the file does not contain this delimiter.";
+        return translated("The first line of the file does not contain this delimiter.");
     case FirstLine::blank:
-        return "The first line of the file is blank.";
+        return translated("The first line of the file is blank.");
     case FirstLine::missing:
-        return "The file is empty.";
+        return translated("The file is empty.");
     case FirstLine::unreadable:
-        return header.reason ? wxString::Format("The file can't be read: %s",
+        return header.reason ? wxString::Format(translated("The file can't be read: %s"),
                                                 decoded(header.reason.message()))
-                             : wxString("The file can't be read.");
+                             : translated("The file can't be read.");
     }
     return {};
 }

@@ -4,6 +4,7 @@
 
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
+#include "languages/translated.h"
 #include "names/notUsed.h"
 
 #include <algorithm>
@@ -55,6 +56,7 @@ wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
 wxImportCSVDialog::~wxImportCSVDialog() = default;
 
 void wxImportCSVDialog::create() {
+    columnimport::chooseLanguage();
     auto *sizer = new wxBoxSizer(wxVERTICAL);
     createHeaderDlg(sizer);
     createMainDlg(sizer);

@@ -2,6 +2,8 @@
 
 #include "dialogs/wxImportODBCDialog.h"
 
+#include "languages/translated.h"
+
 #include <utility>
 
 #include <wx/sizer.h>
@@ -18,5 +20,6 @@ wxImportODBCDialog::wxImportODBCDialog(wxWindow *parent, const wxString &title,
 wxImportODBCDialog::~wxImportODBCDialog() = default;
 
 void wxImportODBCDialog::create() {
+    columnimport::chooseLanguage();
     createMainDlg(new wxBoxSizer(wxVERTICAL));
 }

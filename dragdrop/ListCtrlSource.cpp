@@ -4,7 +4,9 @@
 
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
+#include "dragdrop/rowsText.h"
 #include "dragdrop/tipWhereCut.h"
+#include "languages/translated.h"
 #include "names/notUsed.h"
 
 #include <algorithm>
@@ -14,7 +16,7 @@ namespace columnimport {
 ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                                const wxSize &size)
     : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this),
-      m_accessible(*this, m_marks, "Column matching"), m_keys(*this) {
+      m_accessible(*this, m_marks, translated("Column matching")), m_keys(*this) {
     Bind(wxEVT_LEFT_DOWN, &ListCtrlSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_UP, &ListCtrlSource::onLeftUp, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListCtrlSource::onMouseMove, this, wxID_ANY, wxID_ANY);
@@ -166,8 +168,7 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
         m_marks.set(row, true);
     }
     const wxString name = GetItemText(row, matchColumn);
-    const int count = countMarkedRows();
-    dragText(*this, name, count == 1 ? name : wxString::Format("%s (%d rows)", name, count));
+    dragText(*this, name, rowsText(name, static_cast<std::size_t>(countMarkedRows())));
 }
 
 void ListCtrlSource::tipWhereCutAt(const wxPoint &position, long row) {

@@ -4,6 +4,7 @@
 
 #include "AccessibleRow.h"
 #include "RowMarks.h"
+#include "dragdrop/rowsText.h"
 
 #include <gtk/gtk-a11y.h>
 #include <wx/listctrl.h>
@@ -226,10 +227,7 @@ void AccessibleRows::tell(const std::vector<long> &rows) {
             g_object_notify(G_OBJECT(known->second), "accessible-name");
         }
     }
-    const wxString first = textOf(rows.front());
-    const wxString text =
-        rows.size() == 1 ? first
-                         : wxString::Format("%s (%d rows)", first, static_cast<int>(rows.size()));
+    const wxString text = rowsText(textOf(rows.front()), rows.size());
     g_signal_emit_by_name(m_accessible, "announcement", text.utf8_str().data());
 }
 

@@ -71,6 +71,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (std::string &name : names) {
         name = without("\"", name);
     }
-    require(readHeader(file, bytes[1]).columns == names, "the fields of the first line without quotes");
+    require(readHeader(file, bytes[1]).columns == names,
+            "the fields of the first line without quotes");
     return 0;
 }

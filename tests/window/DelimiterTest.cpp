@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-// How a person gets another delimiter into its field.
+// How a person gets another delimiter into its field, and what is said of a file that it does not
+// cut.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
+
+#include <tuple>
 
 #include <gtest/gtest.h>
 #include <wx/menu.h>
@@ -14,10 +17,47 @@ namespace {
 
 using D = wxImportCSVDialog;
 
-void waitForSelection(Person &) {
+void waitForSelection() {
     waitUntil("the delimiter is selected", [] {
         const auto &field = control<wxTextCtrl>(D::TXT_DELIMITER);
         return field.HasFocus() && field.GetStringSelection() == field.GetValue();
+    });
+}
+
+void clickIntoField(Person &person) {
+    person.click(D::TXT_DELIMITER);
+    waitForSelection();
+}
+
+/// Opens the menu of the field by `open`, and takes the item in `place`.
+Steps choose(int place, const Steps &open) {
+    return [place, open](Person &person) {
+        bool isOpen = false;
+        onUserInterface([&isOpen] {
+            control(D::TXT_DELIMITER).Bind(wxEVT_MENU_OPEN, [&isOpen](wxMenuEvent &) {
+                isOpen = true;
+            });
+        });
+        open(person);
+        waitUntil("the menu is open", [&isOpen] { return isOpen; });
+        for (int step = 0; step < place; ++step) {
+            person.strike(WXK_DOWN);
+        }
+        person.strike(WXK_RETURN);
+    };
+}
+
+void rightClick(Person &person) {
+    person.moveTo(Person::middleOf(D::TXT_DELIMITER));
+    person.press(3);
+    person.release(3);
+}
+
+/// What is said beside the options; empty if nothing is.
+std::string sentence() {
+    return read([] {
+        const wxWindow &place = control(11);
+        return place.IsShown() ? place.GetLabel().utf8_string() : std::string();
     });
 }
 
@@ -25,12 +65,12 @@ void expectToGive(char delimiter, const Steps &steps) {
     const ScratchFile file("a;b\tc d|e,f\n");
     DialogRun run;
     run.fileName = file.path();
-    run.show([&steps, delimiter](Person &person) {
+    EXPECT_TRUE(run.show([&steps, delimiter](Person &person) {
         steps(person);
-        poll(std::string("the line is cut at ") + delimiter,
-             [delimiter] { return fileTexts().size() == 2; });
+        poll("the line is cut at " + std::string(1, delimiter),
+             [] { return fileTexts().front() != "a;b\tc d|e"; });
         pressOk(person);
-    });
+    }));
     EXPECT_EQ(run.delimiter, delimiter);
 }
 
@@ -38,8 +78,7 @@ void expectToGive(char delimiter, const Steps &steps) {
 
 TEST(Delimiter, IsReplacedByWhatIsTypedAfterAClickOrTab) {
     expectToGive(';', [](Person &person) {
-        person.click(D::TXT_DELIMITER);
-        waitForSelection(person);
+        clickIntoField(person);
         person.strike(';');
     });
     expectToGive('|', [](Person &person) {
@@ -47,56 +86,42 @@ TEST(Delimiter, IsReplacedByWhatIsTypedAfterAClickOrTab) {
         person.keyDown(WXK_SHIFT);
         person.strike(WXK_TAB);
         person.keyUp(WXK_SHIFT);
-        waitForSelection(person);
+        waitForSelection();
         person.strike('|');
     });
 }
 
 TEST(Delimiter, IsChosenByNameInTheMenuOfItsField) {
-    const struct {
-        char delimiter;
-        const char *name;
-        Steps open;
-    } cases[] = {
-        {';', "Semicolon",
-         [](Person &person) {
-             person.moveTo(Person::middleOf(D::TXT_DELIMITER));
-             person.press(3);
-             person.release(3);
-         }},
-        {'\t', "Tab",
-         [](Person &person) {
-             person.click(D::TXT_DELIMITER);
-             waitForSelection(person);
-             person.strike(WXK_DOWN);
-         }},
-        {' ', "Space",
-         [](Person &person) {
-             person.click(D::TXT_DELIMITER);
-             waitForSelection(person);
-             person.strike(WXK_WINDOWS_MENU);
-         }},
+    expectToGive(';', choose(2, rightClick));
+    for (const auto &[delimiter, place, key] :
+         {std::tuple('\t', 3, WXK_DOWN), std::tuple(' ', 4, WXK_WINDOWS_MENU)}) {
+        expectToGive(delimiter, choose(place, [key = key](Person &person) {
+                         clickIntoField(person);
+                         person.strike(key);
+                     }));
+    }
+}
+
+TEST(Delimiter, IsSaidNotToCutTheLineUntilItDoes) {
+    const std::string undelimited = "The first line of the file does not contain this delimiter.";
+    const std::string blank = "The first line of the file is blank.";
+    const std::string missing = "The file can't be read: No such file or directory";
+    const ScratchFile one("BHID;X\na,b\n"), quoted("\"a,b\""), spaces(" \t\na,b\n"), empty("");
+    const std::tuple<std::string, std::string, std::string> cases[] = {
+        {one.path(), undelimited, ""},
+        {quoted.path(), "", undelimited},
+        {spaces.path(), blank, blank},
+        {empty.path(), "The file is empty.", "The file is empty."},
+        {"/nowhere/collar.csv", missing, missing},
     };
-    for (const auto &[delimiter, name, open] : cases) {
-        wxMenu *menu = nullptr;
-        wxString current;
-        expectToGive(delimiter, [&, &open = open, &name = name](Person &person) {
-            onUserInterface([&] {
-                wxWindow &field = control(D::TXT_DELIMITER);
-                field.Bind(wxEVT_MENU_OPEN, [&](wxMenuEvent &event) { menu = event.GetMenu(); });
-                field.Bind(wxEVT_MENU_HIGHLIGHT, [&](wxMenuEvent &event) {
-                    const wxMenuItem *item = menu->FindItem(event.GetMenuId());
-                    current = item == nullptr ? wxString() : item->GetItemLabelText();
-                });
-            });
-            open(person);
-            waitUntil("the menu is open", [&] { return menu != nullptr; });
-            for (wxString before; before != name; before = read([&] { return current; })) {
-                person.strike(WXK_DOWN);
-                waitUntil("another item is the current one",
-                          [&] { return !current.empty() && current != before; });
-            }
-            person.strike(WXK_RETURN);
-        });
+    for (const auto &[path, atFirst, withSemicolon] : cases) {
+        DialogRun run;
+        run.fileName = path;
+        EXPECT_TRUE(run.show([&atFirst = atFirst, &withSemicolon = withSemicolon](Person &person) {
+            EXPECT_EQ(sentence(), atFirst);
+            person.typeDelimiter(';');
+            poll("it says: " + withSemicolon, [&] { return sentence() == withSemicolon; });
+            pressOk(person);
+        }));
     }
 }

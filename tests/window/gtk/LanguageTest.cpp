@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: MIT
+
+// The dialog in each language that it has, as a host sets it for messages.
+
+#include "person/DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <clocale>
+#include <cstdlib>
+
+#include <gtest/gtest.h>
+#include <wx/translation.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+using D = wxImportCSVDialog;
+
+/// That the captions are whole, the button is in its place, and the sentence has room beside the
+/// options.
+void expectRoom(const std::string &language) {
+    for (const wxWindow *box : openDialog().GetChildren()) {
+        for (const wxWindow *caption : box->GetChildren()) {
+            if (caption->GetId() == D::CHECK_HEADER || caption->GetId() < 0) {
+                EXPECT_GE(caption->GetSize().x, caption->GetBestSize().x) << language;
+            }
+        }
+    }
+    const wxRect button = control(D::BTN_REMATCH).GetRect();
+    EXPECT_EQ(button.GetRight() + 1, openDialog().GetClientSize().x - 25) << language;
+    EXPECT_GE(button.width, control(D::BTN_REMATCH).GetBestSize().x) << language;
+    const wxWindow &sentence = control(11);
+    EXPECT_GE(sentence.GetSize().x * (sentence.GetSize().y / sentence.GetCharHeight()),
+              sentence.GetTextExtent(sentence.GetLabel()).x * 5 / 4)
+        << language;
+}
+
+} // namespace
+
+TEST(Language, IsTheOneOfTheProcessForMessagesAndLeavesRoomForAllCaptions) {
+    const ScratchFile file("BHID;X\n");
+    const std::string usual = std::setlocale(LC_MESSAGES, nullptr);
+    const struct {
+        const char *locale, *languages, *caption;
+    } cases[] = {
+        {"C", "de", "Reset to Default"},
+        {"C.UTF-8", "it:en_GB:de", "Reset to Default"},
+        {"C.UTF-8", "it:de_AT.UTF-8@euro:fr", "Auf Standard zurücksetzen"},
+        {"C.UTF-8", "es", "Restablecer valores predeterminados"},
+        {"C.UTF-8", "fr", "Rétablir les valeurs par défaut"},
+        {"C.UTF-8", "pt_BR", "Restaurar padrão"},
+        {"C.UTF-8", "ru", "Восстановить по умолчанию"},
+        {"C.UTF-8", "zh_CN", "恢复默认"},
+    };
+    const wxTranslations *const host = wxTranslations::Get();
+    for (const auto &[locale, languages, caption] : cases) {
+        std::setlocale(LC_MESSAGES, locale);
+        setenv("LANGUAGE", languages, 1);
+        DialogRun run;
+        run.fileName = file.path();
+        EXPECT_FALSE(run.show([&languages = languages, &caption = caption](Person &person) {
+            onUserInterface([&] {
+                EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), wxString::FromUTF8(caption));
+                expectRoom(languages);
+            });
+            pressCancel(person);
+        }));
+        EXPECT_EQ(wxTranslations::Get(), host);
+    }
+    std::setlocale(LC_MESSAGES, usual.c_str());
+    unsetenv("LANGUAGE");
+}
