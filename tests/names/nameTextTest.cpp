@@ -29,8 +29,11 @@ TEST(ShownText, IsUtf8ElseTheLocalesElseLatin1) {
         {"\x85", L"\xFFFD", L"\xFFFD"},
         {std::string(401, 'x'), std::wstring(400, 'x') + L'\x2026',
          std::wstring(400, 'x') + L'\x2026'},
+        // Cut inside a character of two bytes, and inside one of three.
         {std::string(399, 'x') + "\xC3\xA9", std::wstring(399, 'x') + L'\x2026',
          std::wstring(399, 'x') + L'\x2026'},
+        {std::string(398, 'x') + "\xE2\x82\xAC", std::wstring(398, 'x') + L'\x2026',
+         std::wstring(398, 'x') + L'\x2026'},
         {"", L"", L""},
     };
     for (const Case &row : cases) {
