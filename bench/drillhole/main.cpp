@@ -55,7 +55,7 @@ int main(int argc, char **argv) {
     ImportProgress progress;
     ImportOutcome outcome;
     std::string failure;
-    DatabaseThread thread(connectionFor(database));
+    DatabaseThread thread(connectionFor(database), openHoles);
     thread.run(
         [&](soci::session &holes) {
             const Table &assays = *findTable("assay");

@@ -3,35 +3,39 @@
 #pragma once
 
 #include "examples/drillhole/rows/RowSource.h"
+#include "examples/drillhole/rows/findFields.h"
 
-#include <optional>
-#include <string>
-
-#include <soci/soci.h>
+#include <atomic>
+#include <future>
+#include <memory>
 
 namespace drillhole {
 
-/// The rows of a table, one at a time as the database sends them. A row's line is its number.
+/// The rows of a table in another database, read on a thread of their own some ahead of the import.
+/// A row's line is its number; its fields are there for the columns that are wanted.
 class TableRows : public RowSource {
 public:
-    /// Throws a Fault if the table has other columns than it had when the user matched them.
+    /// @param columns      those that the user saw; a Fault comes with the first row if the table
+    ///                     has others now
+    /// @param wanted       the positions of those that are read
+    /// @param isCancelled  ends the wait for a row, also for that of a server that is silent
     TableRows(const std::string &connection, const std::string &table,
-              const std::vector<std::string> &columns);
+              const std::vector<std::string> &columns, const FieldPositions &wanted,
+              const std::atomic<bool> &isCancelled);
 
     bool next(Row &row) override;
     double share() const override;
 
 private:
-    bool fetch();
+    using Batch = std::vector<std::vector<std::string>>;
+    struct Source;
 
-    soci::session m_source;
-    double m_count = 0;
+    std::shared_ptr<Source> m_source;
+    const std::atomic<bool> &m_isCancelled;
+    std::future<Batch> m_ahead;
+    Batch m_batch;
+    std::size_t m_nextOfBatch = 0;
     std::size_t m_read = 0;
-    bool m_isCursor = false;
-    std::size_t m_readOfBatch = 0;
-    std::vector<std::string> m_fields;
-    std::vector<soci::indicator> m_indicators;
-    std::optional<soci::statement> m_statement; // of the open session
 };
 
 } // namespace drillhole

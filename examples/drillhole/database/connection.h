@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include <soci/soci.h>
@@ -19,7 +20,7 @@ std::string connectionFor(const std::string &pathOrConnection);
 /// The connection string with a password added, as its backend wants it. An empty one adds nothing.
 std::string withPassword(const std::string &connection, const std::string &password);
 
-/// The connection string with the passwords in it left out, to be shown and kept.
+/// The connection string with passwords of every kind left out, to be shown and kept.
 std::string withoutPassword(const std::string &connection);
 
 /// The database in short: the path of an SQLite file, or the connection string without password.
@@ -28,10 +29,14 @@ std::string placeOf(const std::string &connection);
 /// The text with three asterisks for every password of the connection string.
 std::string hidePasswords(std::string text, const std::string &connection);
 
-/// Opens a database to write to; an SQLite file is made if it is missing. Throws a Fault.
-void openDatabase(soci::session &session, const std::string &connection);
+using Session = std::shared_ptr<soci::session>;
 
-/// Opens a database to read from; nothing is made. Throws a Fault.
-void openSource(soci::session &session, const std::string &connection);
+/// Opens a database to write to; an SQLite file is made if it is missing. Throws a Fault, also
+/// after ten seconds without an answer, or after as many as a timeout in the connection string
+/// says.
+Session openDatabase(const std::string &connection);
+
+/// Opens a database to read from; nothing is made. Throws a Fault, as openDatabase.
+Session openSource(const std::string &connection);
 
 } // namespace drillhole

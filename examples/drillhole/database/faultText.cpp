@@ -2,80 +2,94 @@
 
 #include "examples/drillhole/database/faultText.h"
 
-#include <sstream>
+#include "examples/drillhole/database/connection.h"
+#include "examples/drillhole/rows/Fault.h"
+
+#include <regex>
+
+#include <soci/odbc/soci-odbc.h>
+#include <soci/postgresql/soci-postgresql.h>
+#include <soci/sqlite3/soci-sqlite3.h>
 
 namespace drillhole {
 
 namespace {
 
 struct Advice {
-    const char *reported; ///< a part of the database's words
+    const char *code; ///< as codeOf gives it, or how that begins
     const char *advice;
 };
 
+constexpr const char *noAnswer =
+    "No server answers there. See that it runs, that host and port are "
+    "right, and that the network is there.";
+constexpr const char *mayNot =
+    "You may not do that there. Ask the owner of the database for access, "
+    "or take a copy of your own.";
+constexpr const char *isFull = "The disk is full. Make room on it and import again.";
+constexpr const char *isGone = "A table or a column is not there, or not any more. Look again and "
+                               "import anew.";
+
 constexpr Advice advices[] = {
-    {"is locked",
-     "Another program is writing to the database. Wait until it has ended, or close it "
-     "there, and import again."},
-    {"is full", "The disk is full. Make room on it and import again."},
-    {"No space left", "The disk is full. Make room on it and import again."},
-    {"unable to open database file",
-     "See that the file and its folder exist, and that you may read and write there."},
-    {"readonly database",
-     "You may not write to it. Ask its owner for access, or copy it to a folder "
-     "of yours."},
-    {"not a database", "The file is no SQLite database. Choose another one."},
-    {"disk image is malformed", "The database file is damaged. Take its last copy."},
-    {"Failed to find shared library",
-     "The driver for this kind of database is not installed. Install "
-     "the package libsoci-sqlite3-4.0, libsoci-postgresql4.0 or "
-     "libsoci-odbc4.0."},
-    {"No backend name found", "Begin the connection with its kind, as in postgresql://host=..."},
-    {"Can't open lib", "The ODBC driver is not installed. Install it, or correct its name after "
-                       "DRIVER=."},
-    {"Data source name not found",
-     "ODBC knows no source and no driver of this name. Correct it, or "
-     "set it up in odbc.ini."},
-    {"authentication failed",
-     "The server refused the user or the password. Correct them and connect "
-     "again."},
-    {"no password supplied", "The server wants a password. Type it and connect again."},
-    {"Connection refused", "No server answers there. See that it runs, and that host and port are "
-                           "right."},
-    {"could not translate host name",
-     "No computer has this name. Correct the host, or see that the "
-     "network is there."},
-    {"timeout expired", "The server did not answer in time. See that the network is there."},
-    {"server closed the connection", "The server went away. See that it runs, and import again."},
-    {"permission denied", "The database does not let you. Ask its owner for access."},
-    {"no such table", "The table is no longer there. List the tables again."},
-    {"no such column", "A column is no longer there. Import again to see the present ones."},
-    {"has no column", "The table of this name has other columns than the program's own. Choose "
-                      "another database for the drill holes."},
-    {"does not exist", "A table, a column or a database is not there, or not any more. Look again "
-                       "and import anew."},
+    {"SQLite 5", "Another program is writing to the database. Wait until it has ended, or close it "
+                 "there, and import again."},
+    {"SQLite 8", mayNot},
+    {"SQLite 11", "The database file is damaged. Take its last copy."},
+    {"SQLite 13", isFull},
+    {"SQLite 14", "See that the file and its folder exist, and that you may read and write there."},
+    {"SQLite 26", "The file is no SQLite database. Choose another one."},
+    {"01000", "The ODBC driver is not installed. Install it, or correct its name after DRIVER=."},
+    {"08", noAnswer},
+    {"28", "The server wants a password, or refused the user or the password. Correct them and "
+           "connect again."},
+    {"3D000", "The server has no database of this name. Correct the name after dbname=."},
+    {"42501", mayNot},
+    {"42703", isGone},
+    {"42P01", isGone},
+    {"42S", isGone},
+    {"53100", isFull},
+    {"53300", "The server has too many users at present. Try it again later."},
+    {"57", "The server is being started or stopped. Try it again in a minute."},
+    {"HYT0", noAnswer},
+    {"IM002", "ODBC knows no source and no driver of this name. Correct it, or set it up in "
+              "odbc.ini."},
 };
 
-/// Servers end their words with a line end, and indent what they add.
-std::string inOneLine(const std::string &words) {
-    std::istringstream stream(words);
-    std::string line;
-    for (std::string word; stream >> word;) {
-        line += (line.empty() ? "" : " ") + word;
+std::string codeOf(const soci::soci_error &error) {
+    if (const auto *file = dynamic_cast<const soci::sqlite3_soci_error *>(&error)) {
+        return "SQLite " + std::to_string(file->result() & 0xff);
     }
-    return line;
+    if (const auto *server = dynamic_cast<const soci::postgresql_soci_error *>(&error)) {
+        return server->sqlstate();
+    }
+    const auto *source = dynamic_cast<const soci::odbc_soci_error *>(&error);
+    return source ? reinterpret_cast<const char *>(source->odbc_error_code()) : std::string();
 }
 
 } // namespace
 
-std::string faultText(const std::string &words) {
-    const std::string reported = inOneLine(words);
+std::string faultText(const soci::soci_error &error, const std::string &connection) {
+    // The names of functions are for the one who wrote them, as are indents and line ends.
+    static const std::regex functions(R"re(\w+(?:::\w+)+:\s*)re");
+    static const std::regex blanks(R"re(\s+)re");
+    std::string words = std::regex_replace(error.get_error_message(), functions, "");
+    words = std::regex_replace(std::regex_replace(words, blanks, " "), std::regex(" $"), "");
+    words = hidePasswords(words, connection);
+    const std::string code = codeOf(error);
     for (const Advice &each : advices) {
-        if (reported.find(each.reported) != std::string::npos) {
-            return std::string(each.advice) + " (" + reported + ')';
+        if (code.rfind(each.code, 0) == 0) {
+            return std::string(each.advice) + " (" + words + ')';
         }
     }
-    return "The database reports: " + reported;
+    return "The database reports: " + words;
+}
+
+void inPlainWords(const std::string &connection, const std::function<void()> &work) {
+    try {
+        work();
+    } catch (const soci::soci_error &error) {
+        throw Fault(faultText(error, connection));
+    }
 }
 
 } // namespace drillhole

@@ -2,11 +2,18 @@
 
 #pragma once
 
+#include <functional>
 #include <string>
+
+#include <soci/soci.h>
 
 namespace drillhole {
 
-/// What to do about a fault that a database reports in these words, followed by the words.
-std::string faultText(const std::string &words);
+/// What to do about a fault that the database of that connection reports, by its SQLSTATE or its
+/// result code, followed by its words without a password in them.
+std::string faultText(const soci::soci_error &error, const std::string &connection);
+
+/// Does the work, and throws what the database reports meanwhile as a Fault.
+void inPlainWords(const std::string &connection, const std::function<void()> &work);
 
 } // namespace drillhole

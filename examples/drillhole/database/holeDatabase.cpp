@@ -2,6 +2,7 @@
 
 #include "examples/drillhole/database/holeDatabase.h"
 
+#include "examples/drillhole/database/faultText.h"
 #include "examples/drillhole/rows/Fault.h"
 
 #include <array>
@@ -82,18 +83,20 @@ void expectOf(PGconn *server, PGresult *given, ExecStatusType expected) {
 
 } // namespace
 
-void makeHoleTables(soci::session &session) {
+Session openHoles(const std::string &connection) {
+    const Session session = openDatabase(connection);
     for (const Table &table : holeTables()) {
-        if (hasColumns(session, table)) {
+        if (hasColumns(*session, table)) {
             continue; // also where the account may not make a table
         }
-        session << definitionOf(table);
-        if (!hasColumns(session, table)) {
+        inPlainWords(connection, [&] { *session << definitionOf(table); });
+        if (!hasColumns(*session, table)) {
             throw Fault("The table " + table.name +
                         " there has other columns than the program's "
                         "own. Choose another database for the drill holes.");
         }
     }
+    return session;
 }
 
 std::size_t rowCount(soci::session &session, const Table &table) {

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "examples/drillhole/database/connection.h"
 #include "examples/drillhole/rows/RowCheck.h"
 
 #include <libpq-fe.h>
@@ -11,8 +12,9 @@ namespace drillhole {
 
 // What the program asks of the database that its drill holes are in.
 
-/// Makes those of the tables that are missing. Throws a Fault if one has other columns.
-void makeHoleTables(soci::session &session);
+/// Opens the database of the drill holes, as openDatabase, and makes those of the tables that are
+/// missing. Throws a Fault also if one has other columns.
+Session openHoles(const std::string &connection);
 
 std::size_t rowCount(soci::session &session, const Table &table);
 

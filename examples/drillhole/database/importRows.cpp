@@ -164,9 +164,9 @@ ImportOutcome importFile(const Destination &destination, const std::string &path
 ImportOutcome importTable(const Destination &destination, const std::string &connection,
                           const std::string &table, const std::vector<std::string> &columns,
                           const std::vector<std::string> &matches, ImportProgress &progress) {
-    TableRows rows(connection, table, columns);
-    return importRows(destination, rows,
-                      {findColumns(matches, columns), columns.size(), '\0', columns}, progress);
+    const FieldPositions positions = findColumns(matches, columns);
+    TableRows rows(connection, table, columns, positions, progress.isCancelled);
+    return importRows(destination, rows, {positions, columns.size(), '\0', columns}, progress);
 }
 
 } // namespace drillhole

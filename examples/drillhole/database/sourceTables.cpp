@@ -2,56 +2,106 @@
 
 #include "examples/drillhole/database/sourceTables.h"
 
-#include "examples/drillhole/database/odbcTableNames.h"
+#include "examples/drillhole/rows/Fault.h"
 
-#include <algorithm>
+#include <array>
+
+#include <soci/odbc/soci-odbc.h>
+#include <soci/postgresql/soci-postgresql.h>
 
 namespace drillhole {
 
 namespace {
 
-std::vector<std::string> namesFrom(soci::session &source, const std::string &query) {
-    const soci::rowset<std::string> names = source.prepare << query;
-    return {names.begin(), names.end()};
+constexpr const char *sqliteTables =
+    "select '', name from sqlite_master where type in ('table', 'view') "
+    "and name not like 'sqlite~_%' escape '~'";
+constexpr const char *serverTables =
+    "select case when pg_table_is_visible(c.oid) then '' else cast(nspname as text) end, "
+    "cast(relname as text) from pg_class c join pg_namespace n on n.oid = relnamespace "
+    "where relkind in ('r', 'p', 'v', 'm', 'f') and has_table_privilege(c.oid, 'select') "
+    "and nspname !~ '^pg_|^information_schema$'";
+
+using Names = std::map<std::string, std::string>;
+
+void add(Names &names, const std::string &schema, const std::string &name) {
+    names[schema.empty() ? name : schema + '.' + name] =
+        (schema.empty() ? "" : quotedName(schema) + '.') + quotedName(name);
 }
 
-std::vector<std::string> namesFromBackend(soci::session &source) {
-    const std::string backend = source.get_backend_name();
-    if (backend == "odbc") {
-        return odbcTableNames(source);
+// Each database keeps its tables in another place, but an ODBC driver lists them.
+Names odbcTables(soci::session &source) {
+    constexpr SQLUSMALLINT schemaColumn = 2; // of the result of SQLTables
+    constexpr SQLUSMALLINT nameColumn = 3;
+    SQLHSTMT handle = nullptr;
+    SQLAllocHandle(SQL_HANDLE_STMT,
+                   static_cast<soci::odbc_session_backend *>(source.get_backend())->hdbc_, &handle);
+    const std::unique_ptr<void, void (*)(SQLHSTMT)> statement(
+        handle, [](SQLHSTMT each) { SQLFreeHandle(SQL_HANDLE_STMT, each); });
+    std::string types = "TABLE,VIEW";
+    if (!SQL_SUCCEEDED(SQLTables(handle, nullptr, 0, nullptr, 0, nullptr, 0,
+                                 reinterpret_cast<SQLCHAR *>(types.data()), SQL_NTS))) {
+        throw soci::odbc_soci_error(SQL_HANDLE_STMT, handle, "listing the tables");
     }
-    if (backend == "sqlite3") {
-        return namesFrom(source, "select name from sqlite_master where type in ('table', 'view') "
-                                 "and name not like 'sqlite~_%' escape '~'");
-    }
-    if (backend == "postgresql") {
-        return namesFrom(source, "select table_name::text from information_schema.tables "
-                                 "where table_schema = any (current_schemas(false))");
-    }
-    std::string name;
-    soci::statement statement = (source.prepare_table_names(), soci::into(name));
-    statement.execute();
-    std::vector<std::string> names;
-    while (statement.fetch()) {
-        names.push_back(name);
+    std::array<char, 1024> schema{};
+    std::array<char, 1024> name{};
+    SQLLEN length = 0;
+    SQLBindCol(handle, schemaColumn, SQL_C_CHAR, schema.data(), schema.size(), &length);
+    SQLBindCol(handle, nameColumn, SQL_C_CHAR, name.data(), name.size(), &length);
+    Names names;
+    while (SQL_SUCCEEDED(SQLFetch(handle))) {
+        add(names, schema.data(), name.data());
+        schema.front() = '\0';
     }
     return names;
 }
 
 } // namespace
 
-std::vector<std::string> tableNames(soci::session &source) {
-    std::vector<std::string> names = namesFromBackend(source);
-    std::sort(names.begin(), names.end());
+Names sourceTables(soci::session &source) {
+    const std::string backend = source.get_backend_name();
+    if (backend == "odbc") {
+        return odbcTables(source);
+    }
+    std::string schema;
+    std::string name;
+    soci::statement statement =
+        (source.prepare << (backend == "postgresql" ? serverTables : sqliteTables),
+         soci::into(schema), soci::into(name));
+    statement.execute();
+    Names names;
+    while (statement.fetch()) {
+        add(names, schema, name);
+    }
     return names;
 }
 
-std::vector<std::string> columnNames(soci::session &source, const std::string &table) {
-    soci::row row;
-    soci::statement statement =
-        (source.prepare << "select * from " + quotedName(table) + " where 1 = 0", soci::into(row));
-    statement.execute();
+std::string nameInQuery(soci::session &source, const std::string &shown) {
+    const Names names = sourceTables(source);
+    const auto found = names.find(shown);
+    if (found == names.end()) {
+        throw Fault("There is no table " + shown + " that you may read. List the tables again.");
+    }
+    return found->second;
+}
+
+std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery) {
+    const std::string query = "select * from " + nameInQuery + " where 1 = 0";
     std::vector<std::string> names;
+    if (source.get_backend_name() == "postgresql") {
+        // A row of SOCI throws at types that it does not know.
+        soci::statement statement = (source.prepare << query);
+        statement.execute();
+        const PGresult *result =
+            static_cast<soci::postgresql_statement_backend *>(statement.get_backend())->result_;
+        for (int i = 0; i < PQnfields(result); ++i) {
+            names.emplace_back(PQfname(result, i));
+        }
+        return names;
+    }
+    soci::row row;
+    soci::statement statement = (source.prepare << query, soci::into(row));
+    statement.execute();
     for (std::size_t i = 0; i < row.size(); ++i) {
         names.push_back(row.get_properties(i).get_name());
     }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -9,11 +10,15 @@
 
 namespace drillhole {
 
-/// The tables and views that can be read through the connection. Throws a Fault.
-std::vector<std::string> tableNames(soci::session &source);
+/// The tables and views that can be read, by the names that they are shown with: with the schema in
+/// front, as in "lab.assays", where it is not the account's own. Beside them the names for a query.
+std::map<std::string, std::string> sourceTables(soci::session &source);
 
-/// The names of the table's columns, in its order. Throws a Fault.
-std::vector<std::string> columnNames(soci::session &source, const std::string &table);
+/// The name for a query of a table that is shown so. Throws a Fault if it is not there.
+std::string nameInQuery(soci::session &source, const std::string &shown);
+
+/// The names of the table's columns, in its order.
+std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery);
 
 /// The name as it stands in a query.
 std::string quotedName(const std::string &name);

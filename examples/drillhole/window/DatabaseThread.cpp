@@ -2,84 +2,63 @@
 
 #include "examples/drillhole/window/DatabaseThread.h"
 
-#include "examples/drillhole/database/connection.h"
 #include "examples/drillhole/database/faultText.h"
-#include "examples/drillhole/database/holeDatabase.h"
-#include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/database/onOwnThread.h"
 
-#include <utility>
+#include <glibmm/main.h>
 
 namespace drillhole {
 
-DatabaseThread::DatabaseThread(std::string connection) : m_connection(std::move(connection)) {
-    m_isFinished.connect([this] { tellDone(); });
-    m_thread = std::thread([this] { doTasks(); });
-}
+namespace {
+
+constexpr unsigned int interval = 5; // milliseconds
+
+} // namespace
+
+DatabaseThread::DatabaseThread(const std::string &connection, Open open)
+    : m_database(std::make_shared<Database>(Database{connection, open, nullptr})) {}
 
 DatabaseThread::~DatabaseThread() {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_isEnding = true;
-    }
-    m_isWanted.notify_one();
-    m_thread.join();
+    m_timer.disconnect();
 }
 
 void DatabaseThread::run(Work work, Done done) {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_waiting.push_back({std::move(work), std::move(done), {}});
+    m_tasks.emplace_back(std::move(work), std::move(done));
+    if (m_tasks.size() == 1) {
+        startNext();
     }
-    m_isWanted.notify_one();
 }
 
-void DatabaseThread::doTasks() {
-    soci::session session;
-    std::unique_lock lock(m_mutex);
-    while (true) {
-        m_isWanted.wait(lock, [this] { return m_isEnding || !m_waiting.empty(); });
-        if (m_isEnding) {
-            return;
+void DatabaseThread::startNext() {
+    m_fault = onOwnThread([database = m_database, work = m_tasks.front().first]() -> std::string {
+        try {
+            inPlainWords(database->connection, [&] {
+                if (!database->session) {
+                    database->session = database->open(database->connection);
+                }
+                work(*database->session);
+            });
+            return {};
+        } catch (const std::exception &error) {
+            database->session.reset();
+            return error.what();
         }
-        Task task = std::move(m_waiting.front());
-        m_waiting.pop_front();
-        lock.unlock();
-        task.fault = doWork(session, task.work);
-        lock.lock();
-        m_finished.push_back(std::move(task));
-        m_isFinished.emit();
-    }
+    });
+    m_timer = Glib::signal_timeout().connect([this] { return tellEnd(); }, interval);
 }
 
-std::string DatabaseThread::doWork(soci::session &session, const Work &work) const {
-    std::string fault;
-    try {
-        if (!session.is_connected()) {
-            openDatabase(session, m_connection);
-            makeHoleTables(session);
-        }
-        work(session);
-        return {};
-    } catch (const Fault &said) {
-        return said.what();
-    } catch (const soci::soci_error &error) {
-        fault = faultText(error.get_error_message());
-    } catch (const std::exception &error) {
-        fault = error.what();
+bool DatabaseThread::tellEnd() {
+    if (m_fault.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
+        return true;
     }
-    session.close();
-    return fault;
-}
-
-void DatabaseThread::tellDone() {
-    std::deque<Task> finished;
-    {
-        const std::lock_guard lock(m_mutex);
-        finished.swap(m_finished);
+    const std::string fault = m_fault.get();
+    const Done done = std::move(m_tasks.front().second);
+    m_tasks.pop_front();
+    if (!m_tasks.empty()) {
+        startNext();
     }
-    for (const Task &task : finished) {
-        task.done(task.fault);
-    }
+    done(fault); // may end this
+    return false;
 }
 
 } // namespace drillhole

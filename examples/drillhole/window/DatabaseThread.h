@@ -2,56 +2,52 @@
 
 #pragma once
 
-#include <condition_variable>
+#include "examples/drillhole/database/connection.h"
+
 #include <deque>
 #include <functional>
-#include <mutex>
-#include <string>
-#include <thread>
+#include <future>
 
-#include <glibmm/dispatcher.h>
-#include <soci/soci.h>
+#include <sigc++/connection.h>
 
 namespace drillhole {
 
-/// The thread that the connection to the drill holes lives on, so that the window stays alive
-/// however long the database takes. Work is done in the order in which it was given.
+/// The thread that a database lives on, so that the window stays alive however long it takes. Work
+/// is done in the order in which it was given; the database is opened when there is some, and
+/// again after work that failed.
+///
+/// When this ends, work that waits is dropped, and of work that runs nobody hears any more.
 class DatabaseThread {
 public:
-    using Work = std::function<void(soci::session &holes)>;
+    using Open = Session (*)(const std::string &connection);
+    using Work = std::function<void(soci::session &session)>;
     using Done = std::function<void(const std::string &fault)>;
 
-    /// The database is opened when there is work, and opened again after work that failed.
-    explicit DatabaseThread(std::string connection);
-
-    /// Waits for the work that has begun; what else was given is dropped.
+    DatabaseThread(const std::string &connection, Open open);
     ~DatabaseThread();
     DatabaseThread(const DatabaseThread &) = delete;
     DatabaseThread &operator=(const DatabaseThread &) = delete;
 
+    const std::string &connection() const { return m_database->connection; }
+
     /// Has the work done on the thread, and then calls `done` on the window's thread with what to
-    /// tell the user, or an empty string if all went well.
+    /// tell the user, or an empty string if all went well. The work shares all that it uses.
     void run(Work work, Done done);
 
 private:
-    struct Task {
-        Work work;
-        Done done;
-        std::string fault;
+    struct Database {
+        std::string connection;
+        Open open;
+        Session session;
     };
 
-    void doTasks();
-    std::string doWork(soci::session &session, const Work &work) const;
-    void tellDone();
+    void startNext();
+    bool tellEnd();
 
-    const std::string m_connection;
-    std::mutex m_mutex;
-    std::condition_variable m_isWanted;
-    std::deque<Task> m_waiting;
-    std::deque<Task> m_finished;
-    bool m_isEnding = false;
-    Glib::Dispatcher m_isFinished;
-    std::thread m_thread;
+    std::shared_ptr<Database> m_database;
+    std::deque<std::pair<Work, Done>> m_tasks; // the first one runs
+    std::future<std::string> m_fault;          // of that one
+    sigc::connection m_timer;
 };
 
 } // namespace drillhole

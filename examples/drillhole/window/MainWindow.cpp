@@ -48,7 +48,7 @@ MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
     : m_settings(settings), m_dialog(peer, settings), m_reportFolder(reportFolder),
       m_table(&holeTables().front()), m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
       m_replace("_Replace the rows that are there", true),
-      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing), m_thread(connection) {
+      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing), m_thread(connection, openHoles) {
     set_title("Drill holes in " + placeOf(connection));
     set_default_size(1120, 720);
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
@@ -109,11 +109,10 @@ void MainWindow::importTable(const std::string &connection, const std::string &s
     story.source = sourceTable;
     const auto columns = std::make_shared<std::vector<std::string>>();
     setBusy(true);
-    m_thread.run(
-        [connection, sourceTable, columns](soci::session &) {
-            soci::session source;
-            openSource(source, connection);
-            *columns = columnNames(source, sourceTable);
+    m_source = std::make_unique<DatabaseThread>(connection, openSource);
+    m_source->run(
+        [sourceTable, columns](soci::session &source) {
+            *columns = columnNames(source, nameInQuery(source, sourceTable));
         },
         [this, story, connection, columns](const std::string &fault) mutable {
             story.fault = fault;
@@ -243,7 +242,7 @@ void MainWindow::chooseFile() {
 void MainWindow::chooseSourceTable(const std::string &connection) {
     std::optional<SourceTable> chosen;
     {
-        SourceDialog dialog(*this, m_thread, connection.empty() ? m_settings.source() : connection);
+        SourceDialog dialog(*this, connection.empty() ? m_settings.source() : connection);
         chosen = dialog.choose();
     }
     if (chosen) {

@@ -85,7 +85,8 @@ private:
     Gtk::Box m_progressLine;
     Gtk::ProgressBar m_progressBar;
 
-    DatabaseThread m_thread; // the last: it ends before what its work is for
+    std::unique_ptr<DatabaseThread> m_source; // while its columns are asked for
+    DatabaseThread m_thread;
 };
 
 } // namespace drillhole

@@ -16,9 +16,8 @@ constexpr int spacing = 8;
 
 } // namespace
 
-SourceDialog::SourceDialog(Gtk::Window &owner, DatabaseThread &thread,
-                           const std::string &connection)
-    : Gtk::Dialog("Choose a Table to Import", owner, true), m_thread(thread), m_given(connection),
+SourceDialog::SourceDialog(Gtk::Window &owner, const std::string &connection)
+    : Gtk::Dialog("Choose a Table to Import", owner, true), m_given(connection),
       m_grid(Gtk::make_managed<Gtk::Grid>()), m_file("SQLite _File...", true),
       m_connect("C_onnect", true) {
     set_default_size(640, 420);
@@ -70,16 +69,12 @@ SourceDialog::SourceDialog(Gtk::Window &owner, DatabaseThread &thread,
     show_all_children();
 }
 
-SourceDialog::~SourceDialog() {
-    *m_isOpen = false;
-}
-
 std::optional<SourceTable> SourceDialog::choose() {
     if (run() != Gtk::RESPONSE_OK) {
         return std::nullopt;
     }
     const auto *label = dynamic_cast<Gtk::Label *>(m_tables.get_selected_row()->get_child());
-    return SourceTable{m_listed, label->get_text()};
+    return SourceTable{m_source->connection(), label->get_text()};
 }
 
 void SourceDialog::addRow(int row, const Glib::ustring &text, Gtk::Widget &control) {
@@ -107,33 +102,26 @@ void SourceDialog::listTables() {
     const bool isAsGiven = typed == withoutPassword(m_given) && m_password.get_text_length() == 0;
     const std::string connection =
         isAsGiven ? m_given : withPassword(connectionFor(typed), m_password.get_text());
-    const auto names = std::make_shared<std::vector<std::string>>();
+    const auto names = std::make_shared<std::map<std::string, std::string>>();
     showTables({});
     m_connect.set_sensitive(false);
     m_message.set_text("Connecting...");
-    m_thread.run(
-        [connection, names](soci::session &) {
-            soci::session source;
-            openSource(source, connection);
-            *names = tableNames(source);
-        },
-        [this, connection, names, isOpen = m_isOpen](const std::string &fault) {
-            if (!*isOpen) {
-                return;
-            }
-            m_connect.set_sensitive(true);
-            m_listed = connection;
-            showTables(*names);
-            m_message.set_text(fault.empty() && names->empty() ? "The database has no tables."
-                                                               : fault);
-        });
+    m_source = std::make_unique<DatabaseThread>(connection, openSource);
+    m_source->run([names](soci::session &source) { *names = sourceTables(source); },
+                  [this, names](const std::string &fault) {
+                      m_connect.set_sensitive();
+                      showTables(*names);
+                      m_message.set_text(fault.empty() && names->empty()
+                                             ? "The database has no tables that you may read."
+                                             : fault);
+                  });
 }
 
-void SourceDialog::showTables(const std::vector<std::string> &names) {
+void SourceDialog::showTables(const std::map<std::string, std::string> &names) {
     for (Gtk::Widget *row : m_tables.get_children()) {
         m_tables.remove(*row);
     }
-    for (const std::string &name : names) {
+    for (const auto &[name, inQuery] : names) {
         auto *label = Gtk::make_managed<Gtk::Label>(name, Gtk::ALIGN_START);
         label->property_margin() = 4;
         m_tables.append(*label);

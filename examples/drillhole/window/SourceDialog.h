@@ -4,8 +4,8 @@
 
 #include "examples/drillhole/window/DatabaseThread.h"
 
+#include <map>
 #include <optional>
-#include <vector>
 
 #include <gtkmm/button.h>
 #include <gtkmm/dialog.h>
@@ -26,8 +26,7 @@ struct SourceTable {
 class SourceDialog : public Gtk::Dialog {
 public:
     /// @param connection  what to begin with, perhaps with a password
-    SourceDialog(Gtk::Window &owner, DatabaseThread &thread, const std::string &connection);
-    ~SourceDialog() override;
+    SourceDialog(Gtk::Window &owner, const std::string &connection);
 
     /// Nothing if the user pressed Cancel.
     std::optional<SourceTable> choose();
@@ -36,12 +35,10 @@ private:
     void addRow(int row, const Glib::ustring &text, Gtk::Widget &control);
     void chooseFile();
     void listTables();
-    void showTables(const std::vector<std::string> &names);
+    void showTables(const std::map<std::string, std::string> &names);
 
-    DatabaseThread &m_thread;
-    std::shared_ptr<bool> m_isOpen = std::make_shared<bool>(true);
-    std::string m_given;  ///< the connection to begin with; its password is not shown
-    std::string m_listed; ///< the connection whose tables are shown
+    std::string m_given; ///< the connection to begin with; its password is not shown
+    std::unique_ptr<DatabaseThread> m_source; ///< whose tables are shown
     Gtk::Grid *m_grid;
     Gtk::Entry m_connection;
     Gtk::Entry m_password;
