@@ -27,11 +27,14 @@ add_subdirectory(names)
 add_library(columnimport SHARED
     dialogs/${platform}/Scale.cpp
     dialogs/${platform}/nativeControls.cpp
+    dialogs/${platform}/screenRoom.cpp
     dialogs/DelimiterField.cpp
     dialogs/HeaderSection.cpp
     dialogs/MatchingSection.cpp
     dialogs/Scale.cpp
+    dialogs/ScreenColumn.cpp
     dialogs/arrowBitmap.cpp
+    dialogs/fitToScreen.cpp
     dialogs/headerSentence.cpp
     dialogs/matchTexts.cpp
     dialogs/quietSentence.cpp

@@ -7,6 +7,7 @@
 
 #include "dialogs/Scale.h"
 #include "dialogs/arrowBitmap.h"
+#include "dialogs/fitToScreen.h"
 #include "dialogs/matchTexts.h"
 #include "dialogs/nativeControls.h"
 #include "dialogs/quietSentence.h"
@@ -121,6 +122,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     files->SetDropTarget(m_fileDropTarget);
     m_fileDropTarget->setMatchList(matches);
 
+    columnimport::fitToScreen(*this, *sizer);
     SetSizerAndFit(sizer, true);
     // In a smaller frame the controls keep their sizes too, and are cut off by it.
     SetVirtualSize(sizer->GetMinSize());

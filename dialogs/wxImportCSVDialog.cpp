@@ -2,6 +2,7 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
+#include "dialogs/ScreenColumn.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
@@ -9,8 +10,6 @@
 
 #include <algorithm>
 #include <utility>
-
-#include <wx/sizer.h>
 
 // For a host that takes one by reference.
 const int wxImportCSVDialog::BTN_ADD;
@@ -57,7 +56,7 @@ wxImportCSVDialog::~wxImportCSVDialog() = default;
 
 void wxImportCSVDialog::create() {
     columnimport::chooseLanguage();
-    auto *sizer = new wxBoxSizer(wxVERTICAL);
+    auto *sizer = new columnimport::ScreenColumn(*this);
     createHeaderDlg(sizer);
     createMainDlg(sizer);
 }

@@ -2,11 +2,10 @@
 
 #include "dialogs/wxImportODBCDialog.h"
 
+#include "dialogs/ScreenColumn.h"
 #include "languages/translated.h"
 
 #include <utility>
-
-#include <wx/sizer.h>
 
 wxImportODBCDialog::wxImportODBCDialog(wxWindow *parent, const wxString &title,
                                        std::vector<std::string> appColumns, std::string fileName,
@@ -21,5 +20,5 @@ wxImportODBCDialog::~wxImportODBCDialog() = default;
 
 void wxImportODBCDialog::create() {
     columnimport::chooseLanguage();
-    createMainDlg(new wxBoxSizer(wxVERTICAL));
+    createMainDlg(new columnimport::ScreenColumn(*this));
 }

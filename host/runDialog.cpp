@@ -3,6 +3,7 @@
 #include "host/runDialog.h"
 
 #include "dialogs/Scale.h"
+#include "dialogs/screenRoom.h"
 #include "dialogs/wxImportCSVDialog.h"
 #include "host/modalLoop.h"
 
@@ -12,7 +13,6 @@ namespace columnimport {
 
 namespace {
 
-const wxPoint place(100, 100);
 constexpr int greatestSize = 32000; // no screen has as many pixels
 
 /// The size of the frame for a host that asks for `size`: that very size where the layout has its
@@ -23,11 +23,9 @@ wxSize frameSize(const wxWindow &dialog, wxSize size) {
     if (scale.isUsual()) {
         return size;
     }
-    const wxRect screen = wxGetClientDisplayRect();
-    const wxSize room(screen.x + screen.width - place.x, screen.y + screen.height - place.y);
     size.DecTo(wxSize(greatestSize, greatestSize));
     size = scale(size);
-    size.DecTo(room);
+    size.DecTo(frameRoom());
     return size;
 }
 
@@ -38,7 +36,7 @@ bool runDialog(wxImportCSVDialog &dialog, const wxSize &size) {
     // The fitted size is only a default: the host may ask for less.
     dialog.SetMinSize(wxDefaultSize);
     resize(dialog, frameSize(dialog, size));
-    dialog.SetPosition(place);
+    dialog.SetPosition(framePlace);
     return showModal(dialog) == wxID_OK;
 }
 

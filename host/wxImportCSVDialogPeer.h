@@ -61,7 +61,8 @@ public:
     /// @param firstLineHeader  in and out: whether the first line holds titles. If false at the
     ///                         end, the matches are positional names such as "Column1"
     /// @param width, height    size of the dialog's frame in pixels; it stands at 100, 100. The
-    ///                         controls keep their sizes, and a frame too small cuts them off
+    ///                         controls keep their sizes, and a frame too small cuts them off; on a
+    ///                         screen that ends above the buttons both lists are lower
     /// @return true exactly if the user pressed OK. False with all variables unchanged if the
     ///         dialog could not be shown: there is no display, no peer was ever made, or a run is
     ///         open already

@@ -6,6 +6,8 @@
 #include "tests/ScratchFile.h"
 
 #include <algorithm>
+#include <cmath>
+#include <cstdlib>
 
 #include <gtest/gtest.h>
 #include <wx/statbmp.h>
@@ -55,8 +57,14 @@ struct Figure {
     int wanted;
 };
 
-/// All that is fixed of the places and sizes, in pixels, however wide the platform's own texts and
-/// the frames of its boxes are.
+/// A figure of the layout where fonts are larger, as the environment of the test says.
+int scaled(int pixels) {
+    const char *scale = std::getenv("GDK_DPI_SCALE");
+    return static_cast<int>(std::lround((scale != nullptr ? std::atof(scale) : 1) * pixels));
+}
+
+/// All that is fixed of the places and sizes, however wide the platform's own texts and the frames
+/// of its boxes are.
 std::vector<Figure> figures() {
     const wxRect preview = place(labelled("File Preview"));
     const wxRect text = place(control(D::TEXT_FILE_PREVIEW));
@@ -76,43 +84,47 @@ std::vector<Figure> figures() {
     const wxSize frame = preview.GetSize() - text.GetSize();
     const wxPoint inside = text.GetPosition() - preview.GetPosition();
     return {
-        {"preview box: left", preview.x, 10},
-        {"preview box: top", preview.y, 10},
-        {"preview: width", text.width, 850},
-        {"preview: height", text.height, 125},
-        {"options: left", options.x, 10},
-        {"options: below the preview", options.y, bottom(preview) + 10},
+        {"frame: width", frameOfDialog().width, scaled(900)},
+        {"frame: height, to the end of the screen", frameOfDialog().height,
+         std::min(scaled(900), wxGetDisplaySize().y - 100)},
+        {"preview box: left", preview.x, scaled(10)},
+        {"preview box: top", preview.y, scaled(10)},
+        {"preview: width", text.width, scaled(850)},
+        {"preview: height", text.height, scaled(125)},
+        {"options: left", options.x, scaled(10)},
+        {"options: below the preview", options.y, bottom(preview) + scaled(10)},
         {"options: width", options.width, right(delimiter) - label.x + frame.x},
         {"options: height", options.height, bottom(check) - label.y + frame.y},
         {"label: left", label.x, options.x + inside.x},
         {"label: top", label.y, options.y + inside.y},
-        {"delimiter: left", delimiter.x, right(label) + 10},
+        {"delimiter: left", delimiter.x, right(label) + scaled(10)},
         {"delimiter: top", delimiter.y, label.y},
-        {"delimiter: width", delimiter.width, 25},
-        {"delimiter: height", delimiter.height, 20},
+        {"delimiter: width", delimiter.width, scaled(25)},
+        {"delimiter: height", delimiter.height, scaled(20)},
         {"check box: top", check.y, bottom(delimiter)},
         {"check box: middle", check.x + right(check), label.x + right(delimiter)},
         {"reset: top", reset.y, bottom(options)},
-        {"reset: right", right(reset), client - 25},
-        {"matching box: left", matching.x, 10},
+        {"reset: right", right(reset), client - scaled(25)},
+        {"matching box: left", matching.x, scaled(10)},
         {"matching box: top", matching.y, bottom(reset)},
-        {"matching box: width", matching.width, 250 + 50 + 525 + 20 + frame.x},
-        {"matching box: height", matching.height, 450 + frame.y},
+        {"matching box: width", matching.width,
+         scaled(250) + scaled(50) + scaled(525) + scaled(20) + frame.x},
+        {"matching box: height", matching.height, scaled(450) + frame.y},
         {"file list: left", files.x, matching.x + inside.x},
         {"file list: top", files.y, matching.y + inside.y},
-        {"file list: width", files.width, 250},
-        {"file list: height", files.height, 450},
+        {"file list: width", files.width, scaled(250)},
+        {"file list: height", files.height, scaled(450)},
         {"arrow: left", arrow.x, right(files)},
-        {"arrow: top", arrow.y, files.y + 200},
-        {"arrow: width", arrow.width, 50},
-        {"arrow: height", arrow.height, 50},
+        {"arrow: top", arrow.y, files.y + scaled(200)},
+        {"arrow: width", arrow.width, scaled(50)},
+        {"arrow: height", arrow.height, scaled(50)},
         {"match list: left", matches.x, right(arrow)},
         {"match list: top", matches.y, files.y},
-        {"match list: width", matches.width, 525},
-        {"match list: height", matches.height, 450},
-        {"match list: first column", matchList().GetColumnWidth(D::COLUMN_MATCH), 245},
-        {"match list: second column", matchList().GetColumnWidth(D::COLUMN_APP), 245},
-        {"OK: top", ok.y, bottom(matching) + 20},
+        {"match list: width", matches.width, scaled(525)},
+        {"match list: height", matches.height, scaled(450)},
+        {"match list: first column", matchList().GetColumnWidth(D::COLUMN_MATCH), scaled(245)},
+        {"match list: second column", matchList().GetColumnWidth(D::COLUMN_APP), scaled(245)},
+        {"OK: top", ok.y, bottom(matching) + scaled(20)},
         {"Cancel: top", cancel.y, ok.y},
         {"OK and Cancel: at the right",
          static_cast<int>(std::max(right(ok), right(cancel)) > reset.x), 1},

@@ -32,21 +32,6 @@ protected:
     DialogRun run;
 };
 
-/// How much larger than usual fonts are, as the environment of the test says.
-double scale() {
-    const char *given = std::getenv("GDK_DPI_SCALE");
-    return given != nullptr ? std::atof(given) : 1;
-}
-
-wxSize sizeOf(int controlId) {
-    return control(controlId).GetSize();
-}
-
-wxSize scaled(int width, int height) {
-    return {static_cast<int>(std::lround(width * scale())),
-            static_cast<int>(std::lround(height * scale()))};
-}
-
 const wxStaticBitmap &arrow() {
     for (const wxWindow *sibling : fileList().GetParent()->GetChildren()) {
         if (const auto *picture = dynamic_cast<const wxStaticBitmap *>(sibling)) {
@@ -101,24 +86,6 @@ TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
         person.dragTo(Person::matchRow(0), Person::fileRow(2));
         waitUntil("so is their number", [] { return labelOfDrag() == "HOLE (2 rows)"; });
         person.drop();
-        person.strike(WXK_ESCAPE);
-    });
-}
-
-TEST_F(Look, ControlsHaveTheirSizesAtAnySizeOfFonts) {
-    run.show([](Person &person) {
-        onUserInterface([] {
-            EXPECT_EQ(sizeOf(wxImportCSVDialog::TEXT_FILE_PREVIEW), scaled(850, 125));
-            EXPECT_EQ(sizeOf(wxImportCSVDialog::TXT_DELIMITER), scaled(25, 20));
-            EXPECT_EQ(sizeOf(wxImportCSVDialog::LISTBOX_FILE), scaled(250, 450));
-            EXPECT_EQ(sizeOf(wxImportCSVDialog::LISTBOX_MATCH), scaled(525, 450));
-            EXPECT_EQ(arrow().GetSize(), scaled(50, 50));
-            EXPECT_EQ(matchList().GetColumnWidth(1), scaled(245, 0).x);
-            const wxSize room(1500, 1100); // from the frame's place to the end of the screen
-            wxSize frame = scaled(900, 900);
-            frame.DecTo(room);
-            EXPECT_EQ(frameOfDialog().GetSize(), frame);
-        });
         person.strike(WXK_ESCAPE);
     });
 }

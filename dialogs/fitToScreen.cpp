@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: MIT
+
+#include "dialogs/fitToScreen.h"
+
+#include "dialogs/Scale.h"
+#include "dialogs/screenRoom.h"
+#include "dialogs/wxImportCSVDialog.h"
+#include "dragdrop/controls.h"
+
+#include <algorithm>
+
+#include <wx/listctrl.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+namespace columnimport {
+
+namespace {
+
+/// Takes from the height of both lists what is missing, as far as it leaves five rows and the
+/// headings, and returns the rest.
+int lowerLists(wxWindow &files, wxWindow &matches, int missing) {
+    const int least = Scale(matches)(150);
+    const int lower = std::min(missing, matches.GetMinSize().y - least);
+    for (wxWindow *list : {&files, &matches}) {
+        list->SetMinSize(list->GetMinSize() - wxSize(0, lower));
+    }
+    return missing - lower;
+}
+
+/// Takes as many lines from the preview as are missing; one stays.
+void lowerPreview(wxStaticText &preview, int missing) {
+    const int lineHeight = preview.GetCharHeight();
+    const int lines = std::max((preview.GetMinSize().y - missing) / lineHeight, 1);
+    const wxArrayString all = wxSplit(preview.GetLabelText(), '\n', '\0');
+    wxString shown;
+    for (std::size_t line = 0; line < all.size() && line < static_cast<std::size_t>(lines);
+         ++line) {
+        shown += all[line] + '\n';
+    }
+    preview.SetLabelText(shown);
+    preview.SetMinSize(wxSize(preview.GetMinSize().x, lines * lineHeight));
+}
+
+/// Takes from the width of the match list what is missing, as far as it leaves a third, and from
+/// both columns half of it.
+void narrowMatches(wxListCtrl &matches, int missing) {
+    const wxSize size = matches.GetMinSize();
+    const int narrower = std::min(missing, size.x * 2 / 3);
+    matches.SetMinSize(size - wxSize(narrower, 0));
+    for (int column = 0; column < matches.GetColumnCount(); ++column) {
+        matches.SetColumnWidth(column, matches.GetColumnWidth(column) - narrower / 2);
+    }
+}
+
+/// Of a row that asks for a width, takes what is missing.
+void letRowsBeNarrower(wxSizer &sizer, int missing) {
+    for (const wxSizerItem *item : sizer.GetChildren()) {
+        if (wxSizer *row = item->GetSizer()) {
+            row->SetMinSize(row->GetMinSize().x - missing, -1);
+        }
+    }
+}
+
+} // namespace
+
+void fitToScreen(wxWindow &dialog, wxSizer &sizer) {
+    auto &files = *findControl<wxWindow>(dialog, wxImportCSVDialog::LISTBOX_FILE);
+    auto &matches = *findControl<wxListCtrl>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
+    auto *preview = findControl<wxStaticText>(dialog, wxImportCSVDialog::TEXT_FILE_PREVIEW);
+    const wxSize missing = sizer.GetMinSize() - contentRoom(dialog);
+    if (missing.x > 0) {
+        narrowMatches(matches, missing.x);
+        if (preview != nullptr) {
+            preview->SetMinSize(preview->GetMinSize() - wxSize(missing.x, 0));
+        }
+        letRowsBeNarrower(sizer, missing.x);
+    }
+    if (missing.y > 0) {
+        const int rest = lowerLists(files, matches, missing.y);
+        if (preview != nullptr && rest > 0) {
+            lowerPreview(*preview, rest);
+        }
+    }
+}
+
+} // namespace columnimport

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+
+// What is in view of the dialog, with whatever screen and size of fonts the test runs.
+
+#include "person/DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <gtest/gtest.h>
+#include <wxImportCSVDialog.h>
+
+namespace {
+
+using D = wxImportCSVDialog;
+
+/// What is in view of the dialog, as far as a program knows.
+wxRect view() {
+    const wxDialog &dialog = openDialog();
+    const wxRect inside(dialog.ClientToScreen(wxPoint()), dialog.GetClientSize());
+    return placesWindows() ? inside.Intersect(wxGetClientDisplayRect()) : inside;
+}
+
+Steps seeAndPressOk(const std::vector<int> &controls) {
+    return [controls](Person &person) {
+        onUserInterface([&controls] {
+            for (const int id : controls) {
+                const wxWindow &seen = control(id);
+                const wxPoint place = seen.GetParent()->ClientToScreen(seen.GetPosition());
+                EXPECT_TRUE(view().Contains(wxRect(place, seen.GetSize()))) << id;
+            }
+            EXPECT_GE(matchList().GetCountPerPage(), 5);
+        });
+        pressOk(person);
+    };
+}
+
+} // namespace
+
+TEST(Screen, HasAllInViewThatAnswers) {
+    const ScratchFile file("BHID,Dip\n");
+    DialogRun run;
+    run.fileName = file.path();
+    run.appColumns = {"holename", "dip"};
+    run.height = 840;
+    for (const int width : {900, 3000}) {
+        run.width = width;
+        EXPECT_TRUE(run.show(seeAndPressOk(
+            {D::TXT_DELIMITER, D::CHECK_HEADER, D::BTN_REMATCH, wxID_OK, wxID_CANCEL})));
+        EXPECT_TRUE(
+            run.showTable({"BHID", "Dip"}, seeAndPressOk({D::BTN_REMATCH, wxID_OK, wxID_CANCEL})));
+    }
+}
