@@ -9,7 +9,6 @@
 #include "matching/columnNameScore.h"
 #include "matching/matchColumns.h"
 #include "matching/normalizeColumnName.h"
-#include "matching/synonymTable.h"
 
 using namespace columnimport;
 
@@ -26,26 +25,6 @@ TEST(NormalizeColumnName, BringsEverySpellingOfANameToOneForm) {
     };
     for (const auto &[written, normalised] : cases) {
         EXPECT_EQ(normalizeColumnName(written), normalised) << '"' << written << '"';
-    }
-}
-
-TEST(ReplaceAll, GoesFromLeftToRightAndPassesOverWhatItPutIn) {
-    EXPECT_EQ(replaceAll("aaaaa", "aa", "a"), "aaa");
-    EXPECT_EQ(replaceAll("aba", "a", "aa"), "aabaa");
-}
-
-TEST(AreSynonyms, LinksHeadsToTheListedWordsOfTheirRowAndNothingElse) {
-    const struct {
-        std::string a, b;
-        bool areSynonyms;
-    } cases[] = {
-        {"holename", "bhid", true}, {"holeid", "bhid", false},    {"x", "xc", true},
-        {"easting", "xc", true},    {"easting", "x", true},       {"easting", "y", false},
-        {"depth", "length", true},  {"length", "plongee", false}, {"depth", "profondeur", false},
-    };
-    for (const auto &[a, b, are] : cases) {
-        EXPECT_EQ(areSynonyms(a, b), are) << a << ' ' << b;
-        EXPECT_EQ(areSynonyms(b, a), are) << b << ' ' << a;
     }
 }
 

@@ -273,7 +273,7 @@ TEST_F(Host, KeepsItsWindowsStyleAndOwnsTheDialogByWhateverHandle) {
     EXPECT_EQ(GetWindowLongPtrW(child, GWL_EXSTYLE), 0);
 }
 
-TEST_F(Host, OfAHandleThatIsNoWindowHasADialogWithoutAnOwner) {
+TEST_F(Host, GetsADialogWithoutAnOwnerForAHandleThatIsNoWindow) {
     DestroyWindow(window);
     for (HWND handle : {window, static_cast<HWND>(nullptr), GetDesktopWindow()}) {
         window = handle;
@@ -285,7 +285,7 @@ TEST_F(Host, OfAHandleThatIsNoWindowHasADialogWithoutAnOwner) {
     EXPECT_TRUE(IsWindowEnabled(GetDesktopWindow()));
 }
 
-TEST_F(Host, ThatQuitsDuringARunCanQuitAfterIt) {
+TEST_F(Host, CanQuitDuringARunAndAfterIt) {
     EXPECT_FALSE(
         show([thread = GetCurrentThreadId()](HWND) { PostThreadMessageW(thread, WM_QUIT, 7, 0); }));
     EXPECT_TRUE(IsWindowEnabled(window));
@@ -297,7 +297,7 @@ TEST_F(Host, ThatQuitsDuringARunCanQuitAfterIt) {
     EXPECT_FALSE(PeekMessageW(&message, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE));
 }
 
-TEST_F(Host, ThatDestroysItsWindowDuringARunKeepsItsOutputs) {
+TEST_F(Host, KeepsItsOutputsWhenItDestroysItsWindowDuringARun) {
     matches = {"from before"};
     delimiter = ',';
     firstLineHeader = false;

@@ -6,7 +6,6 @@
 #include "tests/ScratchFile.h"
 
 #include <clocale>
-#include <filesystem>
 
 #include <gtest/gtest.h>
 
@@ -81,18 +80,4 @@ TEST_F(AnyFile, AnyByteServesAsADelimiter) {
         EXPECT_EQ(run.delimiter, delimiter);
         EXPECT_EQ(run.matches, (Names{"holename", "depth"})) << static_cast<int>(delimiter);
     }
-}
-
-TEST_F(AnyFile, OneThatShrinksOrVanishesMeanwhileIsReadAsItIs) {
-    const ScratchFile file("holename,depth\n");
-    run.fileName = file.path();
-    EXPECT_TRUE(run.show([&file](Person &person) {
-        file.write("");
-        person.typeDelimiter(';');
-        poll("the emptied file has no columns", [] { return fileTexts().empty(); });
-        std::filesystem::remove(std::filesystem::u8path(file.path()));
-        person.typeDelimiter(',');
-        pressOk(person);
-    }));
-    EXPECT_EQ(run.matches, (Names{"", ""}));
 }

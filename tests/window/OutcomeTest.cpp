@@ -132,7 +132,7 @@ TEST_F(Outcome, HasNoWordOfTheToolkitForTheUser) {
     EXPECT_TRUE(wxLog::IsEnabled());
 }
 
-TEST_F(Outcome, OfAnExceptionIsTheHostsToCatch) {
+TEST_F(Outcome, LeavesAnExceptionToTheHost) {
     struct Mishap {};
     EXPECT_THROW(run.show([](Person &person) {
         onUserInterface([] {

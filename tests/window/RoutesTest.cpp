@@ -6,6 +6,7 @@
 #include "tests/ScratchFile.h"
 
 #include <algorithm>
+#include <filesystem>
 
 #include <gtest/gtest.h>
 #include <wx/checkbox.h>
@@ -60,7 +61,7 @@ struct Step {
     Lists shown;
 };
 
-enum Source : unsigned char { aFile, noFile, aTable, emptyTable };
+enum Source : unsigned char { aFile, aTable, emptyTable };
 
 struct Route {
     const char *name;
@@ -90,7 +91,7 @@ void expectShown(const Lists &lists, const std::string &where) {
 void expectToTake(const Route &route, const std::string &path) {
     DialogRun run;
     run.appColumns = collar;
-    run.fileName = route.source == noFile ? "/nowhere/collar.csv" : path;
+    run.fileName = path;
     run.useSavedMatches = route.useSaved;
     run.matches = route.saved;
     run.firstLineHeader = route.firstLineHeader;
@@ -137,8 +138,6 @@ TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
           {type(';'), unmatched({"BHID,UTM X,Depth (m)"})}}},
         {"a drag, and what keeps and drops it", {}, false, true, aFile,
          {{drag, withDepth}, {type(','), withDepth}, {reset, proposed}}},
-        {"a missing file", {}, false, true, noFile,
-         {{look, empty}, {type(';'), empty}, {tick, empty}, {reset, empty}}},
         {"a table by position", depth, false, true, aTable,
          {{look, numbered}, {reset, numbered}}},
         {"a table's proposal", {"", ""}, true, true, aTable,
@@ -168,6 +167,9 @@ TEST(Routes, TheFileIsReadAgainForAnotherDelimiterAlone) {
         EXPECT_EQ(fileTexts(), titles);
         person.typeDelimiter(';');
         poll("the file is read again", [] { return fileTexts() == Names{"changed", "meanwhile"}; });
+        std::filesystem::remove(std::filesystem::u8path(file.path()));
+        person.typeDelimiter(',');
+        poll("the file is found gone", [] { return fileTexts().empty(); });
         pressOk(person);
     }));
 }
