@@ -30,14 +30,15 @@ add_library(columnimport SHARED
     dialogs/${platform}/screenRoom.cpp
     dialogs/DelimiterField.cpp
     dialogs/HeaderSection.cpp
+    dialogs/ImportDetails.cpp
     dialogs/MatchingSection.cpp
     dialogs/Scale.cpp
     dialogs/ScreenColumn.cpp
     dialogs/arrowBitmap.cpp
     dialogs/fitToScreen.cpp
     dialogs/headerSentence.cpp
-    dialogs/matchTexts.cpp
     dialogs/quietSentence.cpp
+    dialogs/requiredSentence.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/AccessibleRows.cpp
@@ -55,7 +56,9 @@ add_library(columnimport SHARED
     host/${platform}/modalLoop.cpp
     host/${platform}/startToolkit.cpp
     host/OpenRun.cpp
+    host/c/show.cpp
     host/runDialog.cpp
+    host/runImport.cpp
     host/toolkit.cpp
     host/wxImportCSVDialogPeer.cpp)
 add_library(columnimport::columnimport ALIAS columnimport)
@@ -69,6 +72,7 @@ target_link_libraries(columnimport PRIVATE
     columnimport_matching columnimport_delimited columnimport_languages columnimport_names
     columnimport_toolkit)
 if(WIN32)
+    target_link_libraries(columnimport PRIVATE columnimport_door)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
 else()
@@ -79,7 +83,8 @@ else()
         dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/markColours.cpp
         host/gtk/frameShadow.cpp)
-    target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
+    include(cmake/ProposeLibrary.cmake)
+    target_link_libraries(columnimport PUBLIC columnimport_propose PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
     # host closes it.
     target_link_options(columnimport PRIVATE
@@ -97,8 +102,8 @@ if(WIN32)
     target_include_directories(columnimport_inside INTERFACE
         $<TARGET_PROPERTY:columnimport,INTERFACE_INCLUDE_DIRECTORIES>)
     target_link_libraries(columnimport_inside PUBLIC
-        columnimport_matching columnimport_delimited columnimport_languages columnimport_names
-        columnimport_toolkit)
+        columnimport_door columnimport_matching columnimport_delimited columnimport_languages
+        columnimport_names columnimport_toolkit)
 else()
     add_library(columnimport_inside INTERFACE)
     target_link_libraries(columnimport_inside INTERFACE

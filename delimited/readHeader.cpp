@@ -3,6 +3,7 @@
 #include "delimited/readHeader.h"
 
 #include "delimited/SourceFile.h"
+#include "delimited/isUtf8.h"
 #include "delimited/splitLine.h"
 
 #include <algorithm>
@@ -10,10 +11,11 @@
 
 namespace columnimport {
 
-Header readHeader(const std::string &path, char delimiter) {
+Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     Header header;
     SourceFile file(path);
     std::string line = file.readLine();
+    treatMark(line, mark);
     header.reason = file.fault();
     if (!file.isReadable()) {
         return header;
@@ -30,6 +32,18 @@ Header readHeader(const std::string &path, char delimiter) {
         header.firstLine = isDelimited ? FirstLine::cut : FirstLine::undelimited;
     }
     return header;
+}
+
+// The system speaks the person's language in the locale's encoding, which may be another one.
+std::string problemOf(const Header &header) {
+    if (header.firstLine != FirstLine::unreadable) {
+        return {};
+    }
+    if (!header.reason) {
+        return "Not a regular file";
+    }
+    const std::string words = header.reason.message();
+    return isUtf8(words) ? words : "Error " + std::to_string(header.reason.value());
 }
 
 } // namespace columnimport

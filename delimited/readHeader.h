@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "delimited/ByteOrderMark.h"
+
 #include <string>
 #include <system_error>
 #include <vector>
@@ -31,6 +33,10 @@ struct Header {
 /// read, has no bytes or begins with a blank line.
 ///
 ///     first line  "Hole ID", From (m),,Au   with ','  gives  Hole ID | From (m) | (empty) | Au
-Header readHeader(const std::string &path, char delimiter);
+Header readHeader(const std::string &path, char delimiter,
+                  ByteOrderMark mark = ByteOrderMark::kept);
+
+/// Why the file of `header` can't be read, in UTF-8; empty if it could be read.
+std::string problemOf(const Header &header);
 
 } // namespace columnimport

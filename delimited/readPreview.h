@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "delimited/ByteOrderMark.h"
+
 #include <cstddef>
 #include <string>
 
@@ -15,6 +17,7 @@ inline constexpr int previewLines = 10;
 ///
 /// A file that ends with a line feed before its tenth line gives one more, empty line; a file that
 /// can't be opened gives ten empty ones.
-std::string readPreview(const std::string &path, std::size_t most = std::string::npos);
+std::string readPreview(const std::string &path, std::size_t most = std::string::npos,
+                        ByteOrderMark mark = ByteOrderMark::kept);
 
 } // namespace columnimport

@@ -8,6 +8,7 @@
 #include "delimited/readHeader.h"
 #include "delimited/readPreview.h"
 #include "dialogs/DelimiterField.h"
+#include "dialogs/ImportDetails.h"
 #include "dialogs/Scale.h"
 #include "dialogs/headerSentence.h"
 #include "dialogs/nativeControls.h"
@@ -89,8 +90,8 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     columnimport::cutLongLines(*text);
     // The file's text is no caption: an ampersand in it is an ampersand. A new label makes a static
     // text as large as itself, and the box around it would be fitted to that.
-    text->SetLabelText(columnimport::previewText(
-        columnimport::readPreview(m_fileName, columnimport::tellingLength)));
+    text->SetLabelText(columnimport::previewText(columnimport::readPreview(
+        m_fileName, columnimport::tellingLength, m_details->byteOrderMark)));
     text->SetSize(previewSize);
     columnimport::setAccessibleName(*text, translated("File preview"));
     preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
@@ -99,8 +100,10 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
 }
 
 void wxImportCSVDialog::loadHeader() {
-    columnimport::Header header = columnimport::readHeader(m_fileName, m_delimiter);
+    columnimport::Header header =
+        columnimport::readHeader(m_fileName, m_delimiter, m_details->byteOrderMark);
     m_fileSchema = std::move(header.columns);
+    m_details->fileProblem = columnimport::problemOf(header);
     columnimport::say(*this, columnimport::Matter::source, columnimport::headerSentence(header));
 }
 

@@ -5,17 +5,19 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
+#include "dialogs/ImportDetails.h"
 #include "dialogs/Scale.h"
 #include "dialogs/arrowBitmap.h"
 #include "dialogs/fitToScreen.h"
-#include "dialogs/matchTexts.h"
 #include "dialogs/nativeControls.h"
 #include "dialogs/quietSentence.h"
+#include "dialogs/requiredSentence.h"
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/TextDropTarget.h"
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
+#include "matching/openingMatches.h"
 #include "names/nameText.h"
 
 #include <cassert>
@@ -29,6 +31,7 @@
 #include <wx/wupdlock.h>
 
 using columnimport::findControl;
+using columnimport::ImportDetails;
 using columnimport::ListBoxSource;
 using columnimport::ListCtrlSource;
 using columnimport::TextDropTarget;
@@ -58,26 +61,35 @@ void showFileColumns(ListBoxSource &list, const std::vector<std::string> &names,
     wxArrayString items;
     items.reserve(names.size());
     for (const std::string &name : names) {
-        items.push_back(book.textOf(name));
+        items.push_back(book.addColumn(name));
     }
     if (!items.empty()) {
         list.Append(items);
     }
 }
 
-void showMatches(ListCtrlSource &list, const std::vector<std::string> &matchTexts,
+void showMatches(ListCtrlSource &list, const std::vector<std::int32_t> &positions,
                  const std::vector<std::string> &appColumns) {
-    assert(matchTexts.size() <= appColumns.size());
-    for (std::size_t index = 0; index < matchTexts.size(); ++index) {
+    assert(positions.size() <= appColumns.size());
+    for (std::size_t index = 0; index < positions.size(); ++index) {
         const auto row = static_cast<long>(index);
-        list.InsertItem(row, list.names().textOf(matchTexts[index]));
+        list.InsertItem(row, list.names().textOf(positions[index]));
         list.SetItem(row, wxImportCSVDialog::COLUMN_APP, columnimport::shownText(appColumns[index]),
                      -1);
     }
 }
 
-std::vector<std::string> positionalNames(std::size_t count) {
-    return columnimport::positionalMatchTexts(count, count);
+/// Whether OK asks for the columns that the host requires, which it does once.
+bool asksBack(wxImportCSVDialog &dialog, const std::vector<std::string> &appColumns) {
+    ImportDetails &details = ImportDetails::of(dialog);
+    const wxString sentence = columnimport::requiredSentence(appColumns, details.required,
+                                                             ImportDetails::matches(dialog));
+    if (sentence.empty() || details.hasAskedBack) {
+        return false;
+    }
+    columnimport::say(dialog, columnimport::Matter::matching, sentence);
+    details.hasAskedBack = true;
+    return true;
 }
 
 } // namespace
@@ -122,6 +134,12 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     files->SetDropTarget(m_fileDropTarget);
     m_fileDropTarget->setMatchList(matches);
 
+    if (!m_details->required.empty()) {
+        Bind(
+            wxEVT_BUTTON,
+            [this](wxCommandEvent &event) { event.Skip(!asksBack(*this, m_appColumns)); }, wxID_OK);
+    }
+
     columnimport::fitToScreen(*this, *sizer);
     SetSizerAndFit(sizer, true);
     // In a smaller frame the controls keep their sizes too, and are cut off by it.
@@ -143,20 +161,13 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
         m_firstLineHeader = firstLine->IsChecked();
     }
 
-    if (!m_firstLineHeader) {
-        showFileColumns(files, positionalNames(m_fileSchema.size()), matches.names());
-        showMatches(matches,
-                    columnimport::positionalMatchTexts(m_appColumns.size(), m_fileSchema.size()),
-                    m_appColumns);
-    } else if (m_useSavedMatches) {
-        showFileColumns(files, m_fileSchema, matches.names());
-        columnimport::dropUnknownMatches(m_savedMatches, m_fileSchema);
-        showMatches(matches, m_savedMatches, m_appColumns);
-    } else {
-        showFileColumns(files, m_fileSchema, matches.names());
-        showMatches(matches, columnimport::proposedMatchTexts(m_appColumns, m_fileSchema),
-                    m_appColumns);
-    }
+    showFileColumns(files, columnimport::columnNames(m_fileSchema, m_firstLineHeader),
+                    matches.names());
+    showMatches(matches,
+                columnimport::openingMatches(m_appColumns, m_details->alternatives, m_fileSchema,
+                                             m_firstLineHeader,
+                                             m_useSavedMatches ? &m_savedMatches : nullptr),
+                m_appColumns);
     applyListBoxMatchFont();
     matches.layOutRows();
 }

@@ -2,13 +2,14 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
+#include "dialogs/ImportDetails.h"
 #include "dialogs/ScreenColumn.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
+#include "matching/openingMatches.h"
 #include "names/notUsed.h"
 
-#include <algorithm>
 #include <utility>
 
 // For a host that takes one by reference.
@@ -40,10 +41,9 @@ wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
       m_appColumns(std::move(appColumns)), m_delimiter(delimiter),
       m_firstLineHeader(firstLineHeader), m_fileName(std::move(fileName)), m_isOk(false),
       m_useSavedMatches(useSavedMatches), m_savedMatches(std::move(savedMatches)),
-      m_matchDropTarget(nullptr), m_fileDropTarget(nullptr) {
-    const bool holdsAName = std::any_of(m_savedMatches.begin(), m_savedMatches.end(),
-                                        [](const std::string &match) { return !match.empty(); });
-    if (!holdsAName) {
+      m_matchDropTarget(nullptr), m_fileDropTarget(nullptr),
+      m_details(std::make_unique<columnimport::ImportDetails>()) {
+    if (!columnimport::holdsAName(m_savedMatches)) {
         m_useSavedMatches = false;
     }
     // An entry behind the last application column belongs to no row.

@@ -4,6 +4,7 @@
 
 #include "columnimport_export.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -12,8 +13,9 @@
 class wxBoxSizer;
 
 namespace columnimport {
+struct ImportDetails;
 class TextDropTarget;
-}
+} // namespace columnimport
 
 /// The dialog in which a user matches the columns of a delimited text file to the application
 /// columns of the host.
@@ -127,6 +129,9 @@ private:
     std::vector<std::string> m_savedMatches;
     columnimport::TextDropTarget *m_matchDropTarget; // owned by the match list
     columnimport::TextDropTarget *m_fileDropTarget;  // owned by the list of file columns
+    std::unique_ptr<columnimport::ImportDetails> m_details;
+
+    friend struct columnimport::ImportDetails;
 
     wxDECLARE_EVENT_TABLE();
 };

@@ -34,12 +34,15 @@ ListCtrlSource::~ListCtrlSource() {
 }
 
 std::string ListCtrlSource::getMatchText(int row) const {
-    wxListItem item;
-    item.SetId(row);
-    item.SetColumn(matchColumn);
-    item.SetMask(wxLIST_MASK_TEXT);
-    GetItem(item);
-    return m_names.bytesOf(item.GetText());
+    return m_names.bytesOf(GetItemText(row, matchColumn));
+}
+
+SourceMatch ListCtrlSource::getMatch(int row) const {
+    const wxString text = GetItemText(row, matchColumn);
+    if (text == m_names.textOf(NameBook::noColumn)) {
+        return {};
+    }
+    return {m_names.positionOf(text), m_names.bytesOf(text)};
 }
 
 void ListCtrlSource::setMatchText(long row, const wxString &text) {
@@ -60,8 +63,8 @@ void ListCtrlSource::applyMatchFont(long row) {
     if (!font.IsOk()) {
         font = GetFont();
     }
-    const bool unused = GetItemText(row, matchColumn).Cmp(notUsed) == 0;
-    font.SetWeight(unused ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
+    font.SetWeight(getMatchText(static_cast<int>(row)) == notUsed ? wxFONTWEIGHT_BOLD
+                                                                  : wxFONTWEIGHT_NORMAL);
     SetItemFont(row, font);
 }
 

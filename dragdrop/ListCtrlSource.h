@@ -6,6 +6,7 @@
 #include "RowMarks.h"       // of the platform
 #include "dragdrop/MatchListKeys.h"
 #include "names/NameBook.h"
+#include "names/SourceMatch.h"
 
 #include <cstdint>
 #include <string>
@@ -34,6 +35,9 @@ public:
     /// The match text of `row`, as the bytes of a file column's name or "Not used".
     std::string getMatchText(int row) const;
 
+    /// What stands in `row`.
+    SourceMatch getMatch(int row) const;
+
     /// Writes a match text into `row`, as it is to be shown, and gives the row the weight that goes
     /// with it.
     void setMatchText(long row, const wxString &text);
@@ -41,7 +45,7 @@ public:
     /// The same for all marked rows.
     void setMarkedMatchTexts(const wxString &text);
 
-    /// The book of the names that this dialog shows.
+    /// The book of the columns that this dialog shows.
     NameBook &names() { return m_names; }
 
     /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.

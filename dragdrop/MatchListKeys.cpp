@@ -5,7 +5,6 @@
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/clipboard.h"
 #include "dragdrop/controls.h"
-#include "names/notUsed.h"
 
 #include <algorithm>
 
@@ -139,7 +138,9 @@ std::function<void()> MatchListKeys::workOf(const wxKeyEvent &key) {
     switch (key.GetKeyCode()) {
     case WXK_DELETE:
     case WXK_NUMPAD_DELETE:
-        return [this, rows = chosenRows()] { setMatchTexts(rows, notUsed); };
+        return [this, rows = chosenRows()] {
+            setMatchTexts(rows, m_list.names().textOf(NameBook::noColumn));
+        };
     case WXK_RETURN:
     case WXK_NUMPAD_ENTER:
         return [this] { pressOk(); };

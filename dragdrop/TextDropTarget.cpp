@@ -5,7 +5,6 @@
 #include "ForeignText.h" // of the platform
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "names/notUsed.h"
 
 namespace columnimport {
 
@@ -33,7 +32,7 @@ wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult sugge
 
 bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     if (m_matchList != nullptr) {
-        m_matchList->setMarkedMatchTexts(notUsed);
+        m_matchList->setMarkedMatchTexts(m_matchList->names().textOf(NameBook::noColumn));
         return true;
     }
     auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);

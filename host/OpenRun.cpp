@@ -2,8 +2,6 @@
 
 #include "host/OpenRun.h"
 
-#include "host/toolkit.h"
-
 namespace columnimport {
 
 namespace {
@@ -12,8 +10,8 @@ bool runIsOpen = false;
 
 } // namespace
 
-bool OpenRun::isPossible() {
-    return isToolkitSetUp() && !runIsOpen;
+bool OpenRun::isOpen() {
+    return runIsOpen;
 }
 
 OpenRun::OpenRun() {

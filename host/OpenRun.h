@@ -10,8 +10,8 @@ namespace columnimport {
 /// nothing, neither to the host's console nor in windows of its own.
 class OpenRun {
 public:
-    /// Whether a run can be opened now.
-    static bool isPossible();
+    /// Whether there is one.
+    static bool isOpen();
 
     OpenRun();
     ~OpenRun();

@@ -2,40 +2,25 @@
 
 #include "host/wxImportCSVDialogPeer.h"
 
-#include "dialogs/wxImportODBCDialog.h"
-#include "host/HostStandIn.h"
-#include "host/OpenRun.h"
-#include "host/modalLoop.h"
-#include "host/runDialog.h"
+#include "host/columnimport.h"
+#include "host/runImport.h"
 #include "host/toolkit.h"
-#include "names/nameText.h"
+#include "names/notUsed.h"
 
 #include <utility>
 
-using columnimport::HostStandIn;
-using columnimport::OpenRun;
+using columnimport::ImportRequest;
+using columnimport::ImportResult;
 
 namespace {
 
-/// One modal run: makes the dialog with `arguments` behind its parent, shows it and hands it to
-/// `takeResults`, however it was ended. Returns whether it was OK.
-template <typename Dialog, typename TakeResults, typename... Arguments>
-bool runImport(columnimport::HostWindow hostWindow, const wxSize &size,
-               const TakeResults &takeResults, const std::string &title, Arguments &&...arguments) {
-    if (!OpenRun::isPossible()) {
-        return false;
+/// The matches as a host of this door knows them: by their names alone.
+std::vector<std::string> namesOf(const ImportResult &result) {
+    std::vector<std::string> names;
+    for (const columnimport::SourceMatch &match : result.matches) {
+        names.push_back(match.name == columnimport::notUsed ? std::string() : match.name);
     }
-    const OpenRun openRun;
-    HostStandIn parent(hostWindow);
-    Dialog dialog(parent.window(), columnimport::shownText(title),
-                  std::forward<Arguments>(arguments)...);
-    const bool ok = columnimport::runDialog(dialog, size);
-    if (columnimport::hasWindow(dialog)) {
-        takeResults(dialog);
-    }
-    parent.release();
-    dialog.Destroy();
-    return ok;
+    return names;
 }
 
 } // namespace
@@ -54,14 +39,24 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
                                        std::vector<std::string> *savedMatches, char *delimiter,
                                        bool *firstLineHeader, std::int32_t width,
                                        std::int32_t height) {
-    const auto takeResults = [&](wxImportCSVDialog &dialog) {
-        *savedMatches = dialog.getColumnNames();
-        *delimiter = dialog.getDelimiter();
-        *firstLineHeader = dialog.isFirstLineHeader();
-    };
-    return runImport<wxImportCSVDialog>(
-        hostWindow, {width, height}, takeResults, title, std::move(appColumns), std::move(fileName),
-        *useSavedMatches, *savedMatches, *delimiter, *firstLineHeader);
+    ImportRequest request;
+    request.title = std::move(title);
+    request.width = width;
+    request.height = height;
+    request.appColumns = std::move(appColumns);
+    request.useSavedMatches = *useSavedMatches;
+    request.savedMatches = *savedMatches;
+    request.path = std::move(fileName);
+    request.delimiter = *delimiter;
+    request.holdsTitles = *firstLineHeader;
+    std::optional<ImportResult> result;
+    const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
+    if (result) {
+        *savedMatches = namesOf(*result);
+        *delimiter = result->delimiter;
+        *firstLineHeader = result->holdsTitles;
+    }
+    return outcome == columnimport_ok;
 }
 
 bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std::string title,
@@ -70,10 +65,19 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
                                        bool *useSavedMatches,
                                        std::vector<std::string> *savedMatches, std::int32_t width,
                                        std::int32_t height) {
-    const auto takeResults = [&](wxImportODBCDialog &dialog) {
-        *savedMatches = dialog.getColumnNames();
-    };
-    return runImport<wxImportODBCDialog>(hostWindow, {width, height}, takeResults, title,
-                                         std::move(appColumns), std::move(fileName),
-                                         *useSavedMatches, *savedMatches, std::move(fileSchema));
+    ImportRequest request;
+    request.title = std::move(title);
+    request.width = width;
+    request.height = height;
+    request.appColumns = std::move(appColumns);
+    request.useSavedMatches = *useSavedMatches;
+    request.savedMatches = *savedMatches;
+    request.path = std::move(fileName);
+    request.table = std::move(fileSchema);
+    std::optional<ImportResult> result;
+    const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
+    if (result) {
+        *savedMatches = namesOf(*result);
+    }
+    return outcome == columnimport_ok;
 }

@@ -2,6 +2,10 @@
 
 #include "matching/matchColumns.h"
 
+#include <algorithm>
+#include <cassert>
+#include <utility>
+
 #include "matching/fast/castVotes.h"
 #include "matching/normalizeColumnName.h"
 
@@ -33,10 +37,18 @@ std::vector<std::int32_t> keepStrongest(const std::vector<Vote> &votes, std::siz
 } // namespace
 
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns) {
+                                       std::vector<std::string> fileColumns,
+                                       Alternatives alternatives) {
+    assert(alternatives.size() <= appColumns.size());
     normalizeAll(appColumns);
     normalizeAll(fileColumns);
-    return keepStrongest(castVotes(appColumns, fileColumns), appColumns.size());
+    std::for_each(alternatives.begin(), alternatives.end(), normalizeAll);
+    return keepStrongest(castVotes(appColumns, fileColumns, alternatives), appColumns.size());
+}
+
+std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
+                                       std::vector<std::string> fileColumns) {
+    return matchColumns(std::move(appColumns), std::move(fileColumns), {});
 }
 
 } // namespace columnimport

@@ -3,6 +3,7 @@
 #include "names/NameBook.h"
 
 #include "names/nameText.h"
+#include "names/notUsed.h"
 
 #include <tuple>
 
@@ -22,41 +23,58 @@ std::wstring invisible(std::size_t number) {
 
 } // namespace
 
-wxString NameBook::textOf(const std::string &bytes) {
-    const auto known = m_texts.find(bytes);
-    return known != m_texts.end() ? wxString(*known->second) : enter(shownText(bytes), bytes);
+NameBook::NameBook() {
+    clear();
+}
+
+wxString NameBook::addColumn(const std::string &bytes) {
+    const auto position = static_cast<std::int32_t>(m_columns.size());
+    m_columns.push_back(&enter(shownText(bytes), {bytes, position}));
+    return *m_columns.back();
+}
+
+wxString NameBook::textOf(std::int32_t position) const {
+    return position == noColumn ? *m_unused : *m_columns.at(static_cast<std::size_t>(position));
 }
 
 wxString NameBook::textOfForeign(const wxString &text) {
-    if (m_names.count(text.ToStdWstring()) != 0) {
+    if (m_entries.count(text.ToStdWstring()) != 0) {
         return text;
     }
     const std::string bytes = encoded(text);
     const auto known = m_texts.find(bytes);
-    return known != m_texts.end() ? wxString(*known->second) : enter(readable(text), bytes);
+    return known != m_texts.end() ? *known->second : enter(readable(text), {bytes, noColumn});
 }
 
 std::string NameBook::bytesOf(const wxString &text) const {
-    const auto known = m_names.find(text.ToStdWstring());
-    return known != m_names.end() ? known->second : encoded(text);
+    const auto known = m_entries.find(text.ToStdWstring());
+    return known != m_entries.end() ? known->second.bytes : encoded(text);
+}
+
+std::int32_t NameBook::positionOf(const wxString &text) const {
+    const auto known = m_entries.find(text.ToStdWstring());
+    return known != m_entries.end() ? known->second.position : noColumn;
 }
 
 void NameBook::clear() {
     m_texts.clear();
-    m_names.clear();
-    m_alike.clear();
+    m_columns.clear();
+    m_entries.clear();
+    m_sharers.clear();
+    m_unused = &enter(notUsed, {notUsed, noColumn});
 }
 
-wxString NameBook::enter(const wxString &text, const std::string &bytes) {
+const std::wstring &NameBook::enter(const wxString &text, Entry entry) {
     // A drag of no character at all would be no drag.
-    const std::wstring alike = text.empty() ? invisible(1) : text.ToStdWstring();
-    auto [entry, isNew] = m_names.emplace(alike, bytes);
+    const std::wstring shared = text.empty() ? invisible(1) : text.ToStdWstring();
+    auto [place, isNew] = m_entries.try_emplace(shared, entry);
     // A name may hold invisible characters of its own.
     while (!isNew) {
-        std::tie(entry, isNew) = m_names.emplace(alike + invisible(++m_alike[alike]), bytes);
+        std::tie(place, isNew) =
+            m_entries.try_emplace(shared + invisible(++m_sharers[shared]), entry);
     }
-    m_texts.emplace(entry->second, &entry->first);
-    return entry->first;
+    m_texts.emplace(place->second.bytes, &place->first);
+    return place->first;
 }
 
 } // namespace columnimport

@@ -3,53 +3,83 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include <wx/string.h>
 
 namespace columnimport {
 
-/// Under which text each name of an open dialog is shown, and which bytes it stands for.
+/// Under which text each source column of an open dialog is shown, and which column and which bytes
+/// a shown text stands for.
 ///
 /// A name is bytes, of any encoding or none. What a control shows is made for a reader: decoded as
 /// well as may be, the head of it if it is long, with stand-ins for control characters. It need not
-/// lead back to the bytes, since the book knows them. No two names have the same text: what would
-/// read the same gets an invisible difference, a number in characters without a width. No text is
-/// empty, or it could not be dragged.
+/// lead back to the bytes, since the book knows them. No two columns have the same text: what would
+/// read the same gets an invisible difference, a number in characters without a width. That goes
+/// for columns of the same name too, and for one that is called "Not used". No text is empty, or it
+/// could not be dragged.
 ///
-///     bytes              shown as
-///     plong\xC3\xA9e     plongée
-///     plong\xE9e         plongée and an invisible 1
-///     hole\0name         hole␀name
-///     5,000 times x      400 times x, and an ellipsis
-///     no byte at all     an invisible 1
+///     position  bytes              shown as
+///     none                         Not used
+///     0         plong\xC3\xA9e     plongée
+///     1         plong\xE9e         plongée and an invisible 1
+///     2         hole\0name         hole␀name
+///     3         5,000 times x      400 times x, and an ellipsis
+///     4         plong\xC3\xA9e     plongée and an invisible 2
+///     5         Not used           Not used and an invisible 1
+///     6         no byte at all     an invisible 1
 ///
-/// Every way through the dialog, a proposal, a saved match or a drag, carries the text; the bytes
-/// come back from here, whatever becomes of the process's locale meanwhile.
+/// Every way through the dialog, a proposal, a saved match or a drag, carries the text; the column
+/// comes back from here, whatever becomes of the process's locale meanwhile.
 class NameBook {
 public:
-    /// The text under which `bytes` are shown; the same for the same bytes until `clear`.
-    wxString textOf(const std::string &bytes);
+    /// What stands in the place of a position where there is no column.
+    static constexpr std::int32_t noColumn = -1;
 
-    /// The text under which foreign text is shown, which came from another program. The name of
-    /// the dialog that has this very text is meant by it; otherwise it stands for its bytes in the
-    /// process's locale, or as UTF-8 where the locale has nothing for it.
+    NameBook();
+    NameBook(const NameBook &) = delete;
+    NameBook &operator=(const NameBook &) = delete;
+
+    /// Enters the source's next column, the first one at position 0, and returns its text.
+    wxString addColumn(const std::string &bytes);
+
+    /// The text of a column, or for `noColumn` the one that says that no column is used.
+    wxString textOf(std::int32_t position) const;
+
+    /// The text under which foreign text is shown, which came from another program. What the dialog
+    /// shows under this very text is meant by it; otherwise it stands for its bytes in the
+    /// process's locale, or as UTF-8 where the locale has nothing for it, and for the first column
+    /// of that name if there is one.
     wxString textOfForeign(const wxString &text);
 
-    /// The bytes that a shown text stands for. A text that the book never gave is foreign.
+    /// The bytes that a shown text stands for; "Not used" where no column is used. A text that the
+    /// book never gave is foreign.
     std::string bytesOf(const wxString &text) const;
 
-    /// Forgets all names.
+    /// The position of the column that a shown text stands for, or `noColumn`.
+    std::int32_t positionOf(const wxString &text) const;
+
+    /// Forgets all columns and foreign texts.
     void clear();
 
 private:
-    wxString enter(const wxString &text, const std::string &bytes);
+    struct Entry {
+        std::string bytes;
+        std::int32_t position;
+    };
 
-    std::unordered_map<std::wstring, std::string> m_names;              ///< by their texts
-    std::unordered_map<std::string_view, const std::wstring *> m_texts; ///< by the names' bytes
-    std::unordered_map<std::wstring, std::size_t> m_alike; ///< names that share a text, but one
+    const std::wstring &enter(const wxString &text, Entry entry);
+
+    std::unordered_map<std::wstring, Entry> m_entries; ///< by their texts
+    std::vector<const std::wstring *> m_columns;       ///< the texts by position
+    const std::wstring *m_unused = nullptr;            ///< the text for `noColumn`
+    /// By bytes, the first text that was entered with them.
+    std::unordered_map<std::string_view, const std::wstring *> m_texts;
+    std::unordered_map<std::wstring, std::size_t> m_sharers; ///< by text, how many more share it
 };
 
 } // namespace columnimport

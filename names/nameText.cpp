@@ -32,14 +32,18 @@ bool isUnicode(const wxString &text) {
     return before < 0xD800 || before > 0xDBFF;
 }
 
-/// The picture of a control character, or the character itself.
+/// The picture of a character that can't be seen, or the character itself.
 wxUniChar standIn(wxUniChar character) {
     constexpr wxUint32 pictures = 0x2400;
     constexpr wxUint32 pictureOfDelete = 0x2421;
     constexpr wxUint32 replacement = 0xFFFD;
+    constexpr wxUint32 byteOrderMark = 0xFEFF;
     const wxUint32 value = character.GetValue();
     if (value < 0x20) {
         return pictures + value;
+    }
+    if (value == byteOrderMark) {
+        return replacement;
     }
     if (value == 0x7F) {
         return pictureOfDelete;

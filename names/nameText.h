@@ -26,7 +26,8 @@ wxString decoded(const std::string &bytes);
 /// `text` in the process's locale, or as UTF-8 where the locale has nothing for it.
 std::string encoded(const wxString &text);
 
-/// `text` with a visible stand-in for each control character, and its head alone if it is long.
+/// `text` with a visible stand-in for each control character and byte-order mark, and its head
+/// alone if it is long.
 ///
 ///     readable(L"from\tto") == L"from\x2409to"
 wxString readable(const wxString &text);

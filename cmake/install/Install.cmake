@@ -8,7 +8,11 @@ include(CMakePackageConfigHelpers)
 
 set(columnimport_config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)
 
-install(TARGETS columnimport EXPORT columnimportTargets
+set(columnimport_libraries columnimport)
+if(TARGET columnimport_propose)
+    list(APPEND columnimport_libraries columnimport_propose)
+endif()
+install(TARGETS ${columnimport_libraries} EXPORT columnimportTargets
     RUNTIME COMPONENT library
     LIBRARY COMPONENT library NAMELINK_COMPONENT development
     ARCHIVE COMPONENT development)

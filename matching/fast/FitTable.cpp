@@ -6,7 +6,7 @@
 
 namespace columnimport {
 
-FitTable::FitTable(const std::vector<std::string> &appColumns) {
+FitTable::FitTable(const std::vector<std::string> &appColumns, const Alternatives &alternatives) {
     m_fits.reserve(appColumns.size());
     for (std::size_t i = 0; i < appColumns.size(); ++i) {
         std::int32_t &equal = m_fits[appColumns[i]].equal;
@@ -16,6 +16,12 @@ FitTable::FitTable(const std::vector<std::string> &appColumns) {
         for (const std::string &word : listed) {
             link(head, word);
             link(word, head);
+        }
+    }
+    for (std::size_t i = 0; i < alternatives.size(); ++i) {
+        for (const std::string &word : alternatives[i]) {
+            std::int32_t &first = m_fits[word].synonym;
+            first = std::min(first, static_cast<std::int32_t>(i));
         }
     }
 }

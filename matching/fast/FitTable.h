@@ -8,22 +8,23 @@
 #include <unordered_map>
 #include <vector>
 
+#include "matching/matchColumns.h"
 #include "matching/synonymTable.h"
 #include "matching/vote.h"
 
 namespace columnimport {
 
-/// Finds the application column that a file column equals or is a synonym of with one look-up,
-/// however many there are.
+/// Finds the application column that a file column equals, or is a synonym or an alternative of,
+/// with one look-up, however many there are.
 class FitTable {
 public:
     /// Normalised names, which must outlive the table.
-    explicit FitTable(const std::vector<std::string> &appColumns);
+    FitTable(const std::vector<std::string> &appColumns, const Alternatives &alternatives);
     FitTable(const FitTable &) = delete;
 
-    /// The vote of a file column that equals an application column or is a synonym of one; a vote
-    /// for none if there is no such column. Nothing outranks either: a file column with a synonym
-    /// is too short for a measure of 0.99.
+    /// The vote of a file column that equals an application column, or is a synonym or an
+    /// alternative of one; a vote for none if there is no such column. A file column with a synonym
+    /// is too short for a measure of 0.99, one with an alternative may not be.
     Vote find(std::string_view fileColumn) const;
 
 private:

@@ -14,6 +14,11 @@ namespace columnimport {
 
 namespace {
 
+/// A name of fewer bytes measures less than 0.99 with any other: at most, with one that has a byte
+/// more than its own n, (4 * n * n - 1) / (4 * n * n + 4 * n).
+constexpr std::size_t leastLengthAboveSynonym = 100;
+static_assert(leastLengthAboveSynonym > maskedLength, "so long a name is not for the index");
+
 /// The application columns that can be measured. The longest come first: of two names that stand
 /// in a long one, the longer scores higher, and the shorter need not be looked for.
 std::vector<AppColumn> longestFirst(const std::vector<std::string> &names) {
@@ -33,8 +38,9 @@ std::vector<AppColumn> longestFirst(const std::vector<std::string> &names) {
 } // namespace
 
 std::vector<Vote> castVotes(const std::vector<std::string> &appColumns,
-                            const std::vector<std::string> &fileColumns) {
-    const FitTable fits(appColumns);
+                            const std::vector<std::string> &fileColumns,
+                            const Alternatives &alternatives) {
+    const FitTable fits(appColumns, alternatives);
     const std::vector<AppColumn> columns = longestFirst(appColumns);
     const auto firstShort = std::find_if(columns.begin(), columns.end(), [](const AppColumn &one) {
         return ShortNameIndex::holds(one.name.bytes);
@@ -45,7 +51,9 @@ std::vector<Vote> castVotes(const std::vector<std::string> &appColumns,
     votes.reserve(fileColumns.size());
     for (const std::string &name : fileColumns) {
         Vote vote = fits.find(name);
-        if (vote.isForNone() && name.size() >= leastMeasuredLength) {
+        const std::size_t leastLength =
+            vote.isForNone() ? leastMeasuredLength : leastLengthAboveSynonym;
+        if (vote.score < 1.0 && name.size() >= leastLength) {
             const PreparedName file(name);
             const bool isShort = ShortNameIndex::holds(name);
             if (isShort) {

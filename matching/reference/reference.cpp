@@ -2,7 +2,9 @@
 
 #include "matching/reference/reference.h"
 
+#include <algorithm>
 #include <map>
+#include <utility>
 
 #include "matching/columnNameScore.h"
 #include "matching/normalizeColumnName.h"
@@ -11,7 +13,14 @@
 namespace columnimport::reference {
 
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns) {
+                                       std::vector<std::string> fileColumns,
+                                       const Alternatives &alternatives) {
+    const auto isAlternative = [&](std::size_t app, const std::string &file) {
+        return app < alternatives.size() &&
+               std::any_of(
+                   alternatives[app].begin(), alternatives[app].end(),
+                   [&](const std::string &word) { return normalizeColumnName(word) == file; });
+    };
     for (std::string &name : appColumns) {
         name = normalizeColumnName(name);
     }
@@ -24,7 +33,9 @@ std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
         double score = 0.0;
         std::int32_t vote = 0;
         for (std::size_t i = 0; i < appColumns.size(); ++i) {
-            const double candidate = columnNameScore(appColumns[i], fileColumns[j]);
+            const double least = isAlternative(i, fileColumns[j]) ? 0.99 : 0.0;
+            const double candidate =
+                std::max(least, columnNameScore(appColumns[i], fileColumns[j]));
             if (candidate > score) {
                 score = candidate;
                 vote = static_cast<std::int32_t>(i);
@@ -44,6 +55,11 @@ std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
         proposal.push_back(counts ? bestFileByApp[app] : -1);
     }
     return proposal;
+}
+
+std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
+                                       std::vector<std::string> fileColumns) {
+    return matchColumns(std::move(appColumns), std::move(fileColumns), {});
 }
 
 } // namespace columnimport::reference

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# The library exports the listed symbols, each of them and nothing else.
-#   cmake -D library=FILE -D list=FILE -D found=FILE -P exports.cmake
+# The libraries export the listed symbols, each of them and nothing else.
+#   cmake -D library=FILES -D list=FILE -D found=FILE -P exports.cmake
 # Leaves what it found in `found`, in the form of the list. Of a DLL the library is the one that
 # hosts link to.
 if(library MATCHES "dll")
@@ -17,6 +17,7 @@ if(library MATCHES "dll")
 else()
     execute_process(COMMAND nm --dynamic --demangle --defined-only --format=posix ${library}
                     OUTPUT_VARIABLE symbols COMMAND_ERROR_IS_FATAL ANY)
+    string(REGEX REPLACE "[^\n]*\\.so[.0-9]*:\n" "" symbols "${symbols}") # a heading for each file
 endif()
 # The name alone, without kind and address, with the standard types as one writes them.
 string(REGEX REPLACE " [A-Za-z] [0-9a-f]+ *[0-9a-f]*\n" "\n" symbols "${symbols}")

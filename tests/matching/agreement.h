@@ -16,8 +16,9 @@ namespace columnimport {
 
 /// What the matcher answers otherwise than its rules, or against its own laws, for two lists of
 /// names as written; empty if all is well. The scores of votes are compared to the last bit.
-inline std::string disagreement(std::vector<std::string> app, std::vector<std::string> file) {
-    if (matchColumns(app, file) != reference::matchColumns(app, file)) {
+inline std::string disagreement(std::vector<std::string> app, std::vector<std::string> file,
+                                const Alternatives &alternatives = {}) {
+    if (matchColumns(app, file, alternatives) != reference::matchColumns(app, file, alternatives)) {
         return "the proposal";
     }
     for (auto *names : {&app, &file}) {
@@ -28,7 +29,7 @@ inline std::string disagreement(std::vector<std::string> app, std::vector<std::s
             }
         }
     }
-    const std::vector<Vote> votes = castVotes(app, file);
+    const std::vector<Vote> votes = castVotes(app, file, {});
     for (std::size_t i = 0; i < file.size(); ++i) {
         if (votes[i].isForNone()) {
             continue;

@@ -60,8 +60,15 @@ TEST(Matcher, AgreesWithItsRulesOnNamesThatResembleEachOther) {
             Names app(below(round == 0 ? 400 : 24)), file(below(24));
             std::generate(app.begin(), app.end(), next);
             std::generate(file.begin(), file.end(), next);
+            Alternatives alternatives(below(app.size() + 1), Names(below(3)));
+            for (Names &words : alternatives) {
+                std::generate(words.begin(), words.end(), next);
+            }
             ASSERT_EQ(disagreement(app, file), "")
                 << testing::PrintToString(app) << testing::PrintToString(file);
+            ASSERT_EQ(disagreement(app, file, alternatives), "")
+                << testing::PrintToString(alternatives) << testing::PrintToString(app)
+                << testing::PrintToString(file);
         }
     }
 }

@@ -53,23 +53,24 @@ protected:
 
 } // namespace
 
-TEST_P(Locale, LetsTheBytesOfEachNameComeBack) {
+TEST_P(Locale, LetsTheBytesAndThePositionOfEachColumnComeBack) {
     NameBook book;
-    const std::vector<std::string> names = awkwardNames();
-    std::set<std::wstring> texts;
+    const std::vector<std::string> names = awkwardNames(); // some more than once
+    std::set<std::wstring> texts = {book.textOf(NameBook::noColumn).ToStdWstring()};
     for (const std::string &name : names) {
-        texts.insert(book.textOf(name).ToStdWstring());
+        texts.insert(book.addColumn(name).ToStdWstring());
     }
-    EXPECT_EQ(texts.size(), std::set<std::string>(names.begin(), names.end()).size());
+    EXPECT_EQ(texts.size(), names.size() + 1);
     std::setlocale(LC_ALL, "C");
-    for (const std::string &name : names) {
-        const wxString text = book.textOf(name);
-        ASSERT_EQ(book.bytesOf(text), name);
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto position = static_cast<std::int32_t>(i);
+        const wxString text = book.textOf(position);
+        ASSERT_EQ(book.bytesOf(text), names[i]);
         ASSERT_FALSE(text.empty()) << "nothing would be dragged";
         ASSERT_LT(text.length(), 512U) << "more than every list control gives back";
-        // Dragged, it travels as UTF-8, and a name of the dialog is meant by it.
+        // Dragged, it travels as UTF-8, and a column of the dialog is meant by it.
         const wxString dropped = wxString::FromUTF8(text.utf8_string());
-        ASSERT_EQ(book.bytesOf(book.textOfForeign(dropped)), name);
+        ASSERT_EQ(book.positionOf(book.textOfForeign(dropped)), position);
     }
 }
 
@@ -83,6 +84,7 @@ TEST_P(Locale, GivesForeignTextItsBytes) {
     EXPECT_EQ(book.bytesOf(book.textOfForeign(wxString::FromUTF8("\xCE\xA9"))), "\xCE\xA9");
     EXPECT_EQ(book.bytesOf(book.textOfForeign("a\nb")), "a\nb");
     EXPECT_EQ(book.bytesOf("never seen"), "never seen");
+    EXPECT_EQ(book.positionOf(accent), NameBook::noColumn);
     const std::string page(1 << 20, 'x');
     EXPECT_EQ(book.bytesOf(book.textOfForeign(page)), page);
 }
@@ -95,17 +97,18 @@ INSTANTIATE_TEST_SUITE_P(InEach, Locale, testing::ValuesIn(locales));
 
 TEST(NameBook, ForgetsWhatItIsToldTo) {
     NameBook book;
-    const wxString text = book.textOf(std::string(5000, 'x'));
+    const wxString text = book.addColumn(std::string(5000, 'x'));
     book.clear();
     EXPECT_NE(book.bytesOf(text), std::string(5000, 'x'));
-    EXPECT_EQ(book.textOf(std::string(5001, 'x')), text) << "nothing is left that it differs from";
+    EXPECT_EQ(book.addColumn(std::string(5001, 'x')), text)
+        << "nothing is left that it differs from";
 }
 
 TEST(NameBook, TellsManyNamesApartThatReadTheSame) {
     NameBook book;
     const std::string head(1000, 'x');
     for (int name = 0; name < 20000; ++name) {
-        book.textOf(head + std::to_string(name));
+        book.addColumn(head + std::to_string(name));
     }
-    EXPECT_EQ(book.bytesOf(book.textOf(head + "19999")), head + "19999");
+    EXPECT_EQ(book.bytesOf(book.textOf(19999)), head + "19999");
 }

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+
+#include "dialogs/ImportDetails.h"
+
+#include "dialogs/wxImportCSVDialog.h"
+#include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/controls.h"
+
+namespace columnimport {
+
+ImportDetails &ImportDetails::of(wxImportCSVDialog &dialog) {
+    return *dialog.m_details;
+}
+
+const std::vector<std::string> &ImportDetails::sourceColumns(const wxImportCSVDialog &dialog) {
+    return dialog.m_fileSchema;
+}
+
+std::vector<SourceMatch> ImportDetails::matches(wxImportCSVDialog &dialog) {
+    const auto &list = *findControl<ListCtrlSource>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
+    std::vector<SourceMatch> matches;
+    for (int row = 0; row < list.GetItemCount(); ++row) {
+        matches.push_back(list.getMatch(row));
+    }
+    return matches;
+}
+
+} // namespace columnimport

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "delimited/ByteOrderMark.h"
+#include "names/SourceMatch.h"
+
+#include <string>
+#include <vector>
+
+class wxImportCSVDialog;
+
+namespace columnimport {
+
+/// What the dialog takes and gives beyond its constructor and its public members.
+struct ImportDetails {
+    std::vector<std::vector<std::string>> alternatives; ///< by application column; may be shorter
+    std::vector<bool> required;                         ///< by application column; may be shorter
+    ByteOrderMark byteOrderMark = ByteOrderMark::kept;
+    std::string fileProblem;   ///< why the file could not be read; empty if it was
+    bool hasAskedBack = false; ///< whether OK has asked for the required columns
+
+    /// Those of `dialog`; to be filled before its `create`.
+    static ImportDetails &of(wxImportCSVDialog &dialog);
+
+    /// The columns of the source as they are cut now, whether they are titles or not.
+    static const std::vector<std::string> &sourceColumns(const wxImportCSVDialog &dialog);
+
+    /// What the rows of the match list show now.
+    static std::vector<SourceMatch> matches(wxImportCSVDialog &dialog);
+};
+
+} // namespace columnimport

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "delimited/ByteOrderMark.h"
+#include "names/SourceMatch.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace columnimport {
+
+/// What a host wants of one import, through whichever door it came.
+struct ImportRequest {
+    std::string title;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+
+    std::vector<std::string> appColumns;
+    std::vector<std::vector<std::string>> alternatives; ///< by application column; may be shorter
+    std::vector<bool> required;                         ///< by application column; may be shorter
+    bool useSavedMatches = false;
+    std::vector<std::string> savedMatches; ///< by application column, empty for none
+
+    std::string path;                              ///< of the file
+    std::optional<std::vector<std::string>> table; ///< the names of a table's columns instead
+    char delimiter = ',';
+    bool holdsTitles = true;
+    ByteOrderMark byteOrderMark = ByteOrderMark::kept;
+};
+
+/// What came of one import.
+struct ImportResult {
+    std::vector<SourceMatch> matches; ///< one for each row of the dialog
+    std::vector<std::string> sourceColumns;
+    std::string fileProblem; ///< why the file could not be read; empty if it was
+    char delimiter = ',';
+    bool holdsTitles = true;
+};
+
+} // namespace columnimport

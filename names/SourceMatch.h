@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace columnimport {
+
+/// What stands at an application column: a column of the source, or a name that was dragged in from
+/// another program and has no position, or nothing.
+struct SourceMatch {
+    std::int32_t position = -1;
+    std::string name;
+
+    bool isNone() const { return position < 0 && name.empty(); }
+};
+
+} // namespace columnimport
