@@ -1,21 +1,21 @@
 # SPDX-License-Identifier: MIT
 
 # What a host gets: the library, its public headers, and what CMake and pkg-config find them by.
-# The components are those of the packages: "library" is needed where a host runs, "development"
-# where one is built.
+# The components are those of the packages: "library" is needed where a host runs, "propose" where one
+# runs that only proposes, "python" where that is written in Python, "development" where one is built.
 
 include(CMakePackageConfigHelpers)
 
 set(columnimport_config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/columnimport)
 
-set(columnimport_libraries columnimport)
-if(TARGET columnimport_propose)
-    list(APPEND columnimport_libraries columnimport_propose)
-endif()
-install(TARGETS ${columnimport_libraries} EXPORT columnimportTargets
+install(TARGETS columnimport EXPORT columnimportTargets
     RUNTIME COMPONENT library
     LIBRARY COMPONENT library NAMELINK_COMPONENT development
     ARCHIVE COMPONENT development)
+if(TARGET columnimport_propose)
+    install(TARGETS columnimport_propose EXPORT columnimportTargets
+        LIBRARY COMPONENT propose NAMELINK_COMPONENT development)
+endif()
 install(FILES
         ${PROJECT_SOURCE_DIR}/dialogs/wxImportCSVDialog.h
         ${PROJECT_SOURCE_DIR}/dialogs/wxImportODBCDialog.h
@@ -54,9 +54,9 @@ install(DIRECTORY docs
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
     FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg PATTERN exported-symbols.txt
     PATTERN code EXCLUDE PATTERN tables EXCLUDE)
-install(FILES examples/minimal_host.cpp
+install(FILES examples/minimal_host.c examples/minimal_host.cpp examples/minimal_host.py
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
-install(FILES examples/msw/minimal_host.cpp
+install(FILES examples/msw/minimal_host.c examples/msw/minimal_host.cpp
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/msw COMPONENT development)
 
 if(PROJECT_IS_TOP_LEVEL)

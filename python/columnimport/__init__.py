@@ -1,0 +1,200 @@
+# SPDX-License-Identifier: MIT
+"""Which columns of a file or table fit those of an application.
+
+`propose` answers from the names alone, without a window. `show` opens the dialog in which a person
+corrects the proposal:
+
+    >>> import columnimport
+    >>> result = columnimport.propose(["holename", "dip"], ["BHID", "Au g/t"])
+    >>> result.matches
+    (Match(name='BHID', position=0), None)
+
+Names are bytes for the library. Here they are texts: UTF-8, and a byte that is none is a lone
+surrogate ("surrogateescape"), so that every name leads back to its bytes.
+"""
+
+from __future__ import annotations
+
+import ctypes
+import os
+from dataclasses import dataclass
+from typing import Any, Sequence, Tuple, Union
+
+from . import _library
+from ._import import Import, name_bytes, text
+
+__all__ = ["Column", "Error", "Match", "NoDisplay", "Result", "propose", "show", "version"]
+
+
+class Error(RuntimeError):
+    """What the library could not do, as a sentence."""
+
+
+class NoDisplay(Error):
+    """There is no display that a dialog could be shown on."""
+
+
+@dataclass(frozen=True)
+class Column:
+    """A column of the application.
+
+    `alternatives` are other words for it, which count like synonyms. If a `required` column is left
+    without a match, the dialog asks back once before it takes OK. `saved` is the name that it was
+    matched to by an earlier run, shown instead of a new proposal where the source has it.
+    """
+
+    name: str
+    alternatives: Sequence[str] = ()
+    required: bool = False
+    saved: str | None = None
+
+
+@dataclass(frozen=True)
+class Match:
+    """A column of the source: its name, and its position there, counted from 0.
+
+    The position is `None` if a person dropped a text that no column of the source is called.
+    """
+
+    name: str
+    position: int | None
+
+
+@dataclass(frozen=True)
+class Result:
+    """What a proposal or a dialog ended with.
+
+    `matches` has one entry for each column that was asked for: a `Match`, or `None`. `accepted` is
+    true after OK and for a proposal, false after Cancel. `delimiter` and `titles` are as they were
+    left, `source_columns` the names of the source as they were cut, and `problem` is the system's
+    reason if a file could not be read, else `None`.
+    """
+
+    matches: Tuple[Match | None, ...]
+    accepted: bool
+    delimiter: str
+    titles: bool
+    source_columns: Tuple[str, ...]
+    problem: str | None
+
+
+Source = Union[str, "os.PathLike[str]", Sequence[str]]
+
+
+def version() -> str:
+    """The version of the library that is loaded, for example "0.3.0"."""
+    return _library.proposals().columnimport_version().decode()
+
+
+def propose(
+    columns: Sequence[str | Column], source: Source, delimiter: str = ",", titles: bool = True
+) -> Result:
+    """Proposes a column of `source` for each of `columns`, without a window or a display.
+
+    `source` is the path of a delimited file, of which the first line is read, or a list with the
+    names of a table's columns. `delimiter` is one byte. Without `titles` the columns of a file go
+    by their positions and are called "Column1" and so on. May be called on any thread. A file that
+    can't be read gives no matches, and `problem` says why.
+    """
+    with Import() as one:
+        _fill(one, columns, source, delimiter, titles)
+        _require(one, one.propose(), _library.OK)
+        return _read(one, len(columns), True)
+
+
+def show(
+    columns: Sequence[str | Column],
+    source: Source,
+    window: Any = None,
+    title: str = "",
+    delimiter: str = ",",
+    titles: bool = True,
+    size: Tuple[int, int] | None = None,
+) -> Result:
+    """Shows the dialog for `source` over `window` and returns when a person has answered it.
+
+    To be called on the thread of the user interface. `window` is a `Gtk.Window` of PyGObject, the
+    native handle of a window as a number, or `None`. `size` is that of the dialog's frame in pixels.
+    The other arguments are those of `propose`. Raises `NoDisplay` without a display, and `Error`
+    while another dialog is open.
+    """
+    with Import() as one:
+        _fill(one, columns, source, delimiter, titles)
+        one.call("set_title", text(title))
+        if size is not None:
+            one.call("set_size", *size)
+        outcome = one.show(_handle(window))
+        _require(one, outcome, _library.OK, _library.CANCELLED)
+        return _read(one, len(columns), outcome == _library.OK)
+
+
+def _fill(
+    one: Import, columns: Sequence[str | Column], source: Source, delimiter: str, titles: bool
+) -> None:
+    for number, column in enumerate(columns):
+        if isinstance(column, str):
+            column = Column(column)
+        one.call("add_column", text(column.name))
+        for word in column.alternatives:
+            one.call("add_alternative", number, text(word))
+        one.call("set_required", number, column.required)
+        if column.saved is not None:
+            saved = name_bytes(column.saved)
+            one.call("set_saved_match", number, saved, len(saved))
+    if isinstance(source, (str, os.PathLike)):
+        one.call("set_file", text(os.fspath(source)))
+    else:
+        one.set_table(source)
+    one.call("set_delimiter", _one_byte(delimiter))
+    one.call("set_first_line_holds_titles", titles)
+
+
+def _one_byte(delimiter: str) -> bytes:
+    byte = name_bytes(delimiter)
+    if len(byte) != 1:
+        raise ValueError(f"the delimiter {delimiter!r} is not one byte")
+    return byte
+
+
+def _handle(window: Any) -> int | None:
+    """The native handle of a window that PyGObject made, or the handle itself."""
+    if window is None or isinstance(window, int):
+        return window
+    pointer_of = ctypes.pythonapi.PyCapsule_GetPointer
+    pointer_of.restype = ctypes.c_void_p
+    pointer_of.argtypes = [ctypes.py_object, ctypes.c_char_p]
+    return pointer_of(window.__gpointer__, None)
+
+
+def _require(one: Import, outcome: int, *allowed: int) -> None:
+    if outcome in allowed:
+        return
+    if outcome == _library.NO_DISPLAY:
+        raise NoDisplay("there is no display to show the dialog on")
+    if outcome == _library.ALREADY_OPEN:
+        raise Error("another dialog is open")
+    if outcome == _library.WRONG_USE:
+        raise ValueError(one.message())
+    raise Error(one.message())
+
+
+def _read(one: Import, count: int, accepted: bool) -> Result:
+    problem = one.call("file_problem")
+    return Result(
+        matches=tuple(_match(one, column) for column in range(count)),
+        accepted=accepted,
+        delimiter=bytes([one.call("delimiter")]).decode("utf-8", "surrogateescape"),
+        titles=bool(one.call("first_line_holds_titles")),
+        source_columns=tuple(
+            one.name("source_column", column) or "" for column in range(one.call("source_column_count"))
+        ),
+        problem=problem.decode() if problem is not None else None,
+    )
+
+
+def _match(one: Import, column: int) -> Match | None:
+    name = one.name("match_name", column)
+    if name is None:
+        return None
+    position = one.call("match_position", column)
+    return Match(name, position if position != _library.NONE else None)

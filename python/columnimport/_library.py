@@ -1,0 +1,73 @@
+# SPDX-License-Identifier: MIT
+"""The functions of the library, found as the system's loader finds it."""
+
+from __future__ import annotations
+
+import ctypes
+import os
+import sys
+from ctypes import POINTER, c_char, c_char_p, c_int32, c_int64, c_void_p
+from functools import lru_cache
+
+VERSION = "0.3"
+
+# What the functions return.
+OK, CANCELLED, NO_DISPLAY, ALREADY_OPEN, WRONG_USE, FAILED = range(6)
+NONE, INVALID = -1, -2
+
+# An array of bytes that may hold zeros, so that it comes as a plain address.
+_BYTES = POINTER(c_char)
+
+_FUNCTIONS = {
+    "version": (c_char_p, []),
+    "new": (c_void_p, []),
+    "free": (None, [c_void_p]),
+    "message": (c_char_p, [c_void_p]),
+    "set_title": (c_int32, [c_void_p, c_char_p]),
+    "set_size": (c_int32, [c_void_p, c_int32, c_int32]),
+    "add_column": (c_int32, [c_void_p, c_char_p]),
+    "add_alternative": (c_int32, [c_void_p, c_int32, c_char_p]),
+    "set_required": (c_int32, [c_void_p, c_int32, c_int32]),
+    "set_saved_match": (c_int32, [c_void_p, c_int32, c_char_p, c_int64]),
+    "set_file": (c_int32, [c_void_p, c_char_p]),
+    "set_delimiter": (c_int32, [c_void_p, c_char]),
+    "set_first_line_holds_titles": (c_int32, [c_void_p, c_int32]),
+    "set_table": (c_int32, [c_void_p, POINTER(c_char_p), POINTER(c_int64), c_int32]),
+    "propose": (c_int32, [c_void_p]),
+    "file_problem": (c_char_p, [c_void_p]),
+    "match_position": (c_int32, [c_void_p, c_int32]),
+    "match_name": (_BYTES, [c_void_p, c_int32, POINTER(c_int64)]),
+    "delimiter": (c_int32, [c_void_p]),
+    "first_line_holds_titles": (c_int32, [c_void_p]),
+    "source_column_count": (c_int32, [c_void_p]),
+    "source_column": (_BYTES, [c_void_p, c_int32, POINTER(c_int64)]),
+}
+
+
+def _load(name: str) -> ctypes.CDLL:
+    if sys.platform == "win32":
+        return ctypes.CDLL(os.path.join(os.path.dirname(__file__), "columnimport.dll"))
+    return ctypes.CDLL(f"lib{name}.so.{VERSION}")
+
+
+def _declare(library: ctypes.CDLL, name: str, result: object, arguments: list) -> None:
+    function = getattr(library, "columnimport_" + name)
+    function.restype = result
+    function.argtypes = arguments
+
+
+@lru_cache(maxsize=None)
+def proposals() -> ctypes.CDLL:
+    """All of the library but its dialogs, which costs next to nothing to load."""
+    library = _load("columnimport-propose")
+    for name, (result, arguments) in _FUNCTIONS.items():
+        _declare(library, name, result, arguments)
+    return library
+
+
+@lru_cache(maxsize=None)
+def dialogs() -> ctypes.CDLL:
+    """The dialogs, with the toolkit that they are made of."""
+    library = _load("columnimport")
+    _declare(library, "show", c_int32, [c_void_p, c_void_p])
+    return library

@@ -1,0 +1,78 @@
+# SPDX-License-Identifier: MIT
+"""What a host in Python gets, on a machine without a display."""
+
+import tempfile
+import threading
+import unittest
+
+import columnimport
+from columnimport import Column, Match
+from rename_columns import rename_columns
+
+import pandas
+
+
+class Propose(unittest.TestCase):
+    def test_names_lead_to_matches(self):
+        latin = "plong\udce9e"
+        for columns, source, expected in [
+            (["holename", "dip"], ["BHID", "Au g/t"], [Match("BHID", 0), None]),
+            (["au"], ["x", "Au", "Au"], [Match("Au", 1)]),
+            ([Column("elevation", alternatives=["RL"])], ["rl"], [Match("rl", 0)]),
+            ([Column("dip", saved="b")], ["dip", "b"], [Match("b", 1)]),
+            (["plong_e"], ["a", latin], [Match(latin, 1)]),
+            (["a_b"], ["a\0b"], [Match("a\0b", 0)]),
+            ([], [], []),
+        ]:
+            with self.subTest(columns=columns, source=source):
+                self.assertEqual(columnimport.propose(columns, source).matches, tuple(expected))
+
+    def test_a_file_is_cut_at_the_delimiter(self):
+        with tempfile.NamedTemporaryFile("w", suffix=".csv") as file:
+            file.write("\ufeffHOLE;DIP\n1;2\n")
+            file.flush()
+            by_name = columnimport.propose(["dip"], file.name, ";")
+            self.assertEqual(by_name.matches, (Match("DIP", 1),))
+            self.assertEqual(by_name.source_columns, ("HOLE", "DIP"))
+            by_position = columnimport.propose(["dip"], file.name, ";", titles=False)
+            self.assertEqual(by_position.matches, (Match("Column1", 0),))
+            self.assertEqual((by_position.delimiter, by_position.titles), (";", False))
+
+    def test_a_file_that_cannot_be_read_says_why(self):
+        result = columnimport.propose(["dip"], "/nowhere")
+        self.assertEqual((result.matches, result.source_columns), ((None,), ()))
+        self.assertIn("No such file", result.problem)
+
+    def test_wrong_arguments_are_refused_in_a_sentence(self):
+        for arguments in [(["a"], "f", ";;"), (["a"], "f", ""), (["a\0"], []), (["\udce9"], [])]:
+            with self.subTest(arguments=arguments), self.assertRaises(ValueError) as refused:
+                columnimport.propose(*arguments)
+            self.assertTrue(str(refused.exception))
+
+    def test_threads_do_not_meet(self):
+        names = [f"name{number}" for number in range(300)]
+        results = {}
+
+        def work(number):
+            results[number] = columnimport.propose(names, names[number:]).matches[number]
+
+        threads = [threading.Thread(target=work, args=(number,)) for number in range(20)]
+        for thread in threads:
+            thread.start()
+        for thread in threads:
+            thread.join()
+        self.assertEqual(results, {n: Match(f"name{n}", 0) for n in range(20)})
+
+    def test_a_frame_gets_the_names_of_the_host(self):
+        frame = rename_columns(pandas.DataFrame({"BHID": [1], "Remark": [2]}), ["holename"])
+        self.assertEqual(list(frame.columns), ["holename", "Remark"])
+
+
+class Show(unittest.TestCase):
+    def test_it_says_that_there_is_no_display(self):
+        with self.assertRaisesRegex(columnimport.NoDisplay, "display"):
+            columnimport.show(["dip"], ["DIP"])
+
+
+if __name__ == "__main__":
+    unittest.main()
