@@ -6,14 +6,16 @@
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 
+#include <utility>
+
 namespace columnimport {
 
 ImportDetails &ImportDetails::of(wxImportCSVDialog &dialog) {
     return *dialog.m_details;
 }
 
-const std::vector<std::string> &ImportDetails::sourceColumns(const wxImportCSVDialog &dialog) {
-    return dialog.m_fileSchema;
+std::vector<std::string> ImportDetails::takeSourceColumns(wxImportCSVDialog &dialog) {
+    return std::move(dialog.m_fileSchema);
 }
 
 std::vector<SourceMatch> ImportDetails::matches(wxImportCSVDialog &dialog) {

@@ -23,8 +23,9 @@ struct ImportDetails {
     /// Those of `dialog`; to be filled before its `create`.
     static ImportDetails &of(wxImportCSVDialog &dialog);
 
-    /// The columns of the source as they are cut now, whether they are titles or not.
-    static const std::vector<std::string> &sourceColumns(const wxImportCSVDialog &dialog);
+    /// Takes out of a dialog that is done the columns of the source as they were cut last, whether
+    /// they are titles or not.
+    static std::vector<std::string> takeSourceColumns(wxImportCSVDialog &dialog);
 
     /// What the rows of the match list show now.
     static std::vector<SourceMatch> matches(wxImportCSVDialog &dialog);

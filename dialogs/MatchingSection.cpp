@@ -21,6 +21,7 @@
 #include "names/nameText.h"
 
 #include <cassert>
+#include <utility>
 
 #include <wx/bitmap.h>
 #include <wx/button.h>
@@ -56,12 +57,12 @@ wxCheckBox *firstLineBoxOf(wxWindow &dialog) {
     return findControl<wxCheckBox>(dialog, wxImportCSVDialog::CHECK_HEADER);
 }
 
-void showFileColumns(ListBoxSource &list, const std::vector<std::string> &names,
+void showFileColumns(ListBoxSource &list, std::vector<std::string> names,
                      columnimport::NameBook &book) {
     wxArrayString items;
     items.reserve(names.size());
-    for (const std::string &name : names) {
-        items.push_back(book.addColumn(name));
+    for (std::string &name : names) {
+        items.push_back(book.addColumn(std::move(name)));
     }
     if (!items.empty()) {
         list.Append(items);
@@ -161,13 +162,13 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
         m_firstLineHeader = firstLine->IsChecked();
     }
 
+    // The matcher's copy of the names goes before the book gets one: a name may be a whole file.
+    const std::vector<std::int32_t> opening = columnimport::openingMatches(
+        m_appColumns, m_details->alternatives, m_fileSchema, m_firstLineHeader,
+        m_useSavedMatches ? &m_savedMatches : nullptr);
     showFileColumns(files, columnimport::columnNames(m_fileSchema, m_firstLineHeader),
                     matches.names());
-    showMatches(matches,
-                columnimport::openingMatches(m_appColumns, m_details->alternatives, m_fileSchema,
-                                             m_firstLineHeader,
-                                             m_useSavedMatches ? &m_savedMatches : nullptr),
-                m_appColumns);
+    showMatches(matches, opening, m_appColumns);
     applyListBoxMatchFont();
     matches.layOutRows();
 }

@@ -63,8 +63,10 @@ void ListCtrlSource::applyMatchFont(long row) {
     if (!font.IsOk()) {
         font = GetFont();
     }
-    font.SetWeight(getMatchText(static_cast<int>(row)) == notUsed ? wxFONTWEIGHT_BOLD
-                                                                  : wxFONTWEIGHT_NORMAL);
+    // Any other text spares a copy of its name, which may be a whole file.
+    const bool isUnused = GetItemText(row, matchColumn).StartsWith(notUsed) &&
+                          getMatchText(static_cast<int>(row)) == notUsed;
+    font.SetWeight(isUnused ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
     SetItemFont(row, font);
 }
 

@@ -25,7 +25,7 @@ std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportReq
     const bool ok = runDialog(dialog, {request.width, request.height});
     if (hasWindow(dialog)) {
         result =
-            ImportResult{ImportDetails::matches(dialog), ImportDetails::sourceColumns(dialog),
+            ImportResult{ImportDetails::matches(dialog), ImportDetails::takeSourceColumns(dialog),
                          details.fileProblem, dialog.getDelimiter(), dialog.isFirstLineHeader()};
     }
     parent.release();

@@ -15,10 +15,11 @@ using columnimport::ImportResult;
 namespace {
 
 /// The matches as a host of this door knows them: by their names alone.
-std::vector<std::string> namesOf(const ImportResult &result) {
+std::vector<std::string> namesOf(ImportResult result) {
     std::vector<std::string> names;
-    for (const columnimport::SourceMatch &match : result.matches) {
-        names.push_back(match.name == columnimport::notUsed ? std::string() : match.name);
+    for (columnimport::SourceMatch &match : result.matches) {
+        names.push_back(match.name == columnimport::notUsed ? std::string()
+                                                            : std::move(match.name));
     }
     return names;
 }
@@ -52,9 +53,9 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
     std::optional<ImportResult> result;
     const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
     if (result) {
-        *savedMatches = namesOf(*result);
         *delimiter = result->delimiter;
         *firstLineHeader = result->holdsTitles;
+        *savedMatches = namesOf(std::move(*result));
     }
     return outcome == columnimport_ok;
 }
@@ -77,7 +78,7 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
     std::optional<ImportResult> result;
     const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
     if (result) {
-        *savedMatches = namesOf(*result);
+        *savedMatches = namesOf(std::move(*result));
     }
     return outcome == columnimport_ok;
 }

@@ -6,6 +6,7 @@
 #include "names/notUsed.h"
 
 #include <tuple>
+#include <utility>
 
 namespace columnimport {
 
@@ -27,9 +28,10 @@ NameBook::NameBook() {
     clear();
 }
 
-wxString NameBook::addColumn(const std::string &bytes) {
+wxString NameBook::addColumn(std::string bytes) {
     const auto position = static_cast<std::int32_t>(m_columns.size());
-    m_columns.push_back(&enter(shownText(bytes), {bytes, position}));
+    const wxString text = shownText(bytes);
+    m_columns.push_back(&enter(text, {std::move(bytes), position}));
     return *m_columns.back();
 }
 
@@ -67,11 +69,11 @@ void NameBook::clear() {
 const std::wstring &NameBook::enter(const wxString &text, Entry entry) {
     // A drag of no character at all would be no drag.
     const std::wstring shared = text.empty() ? invisible(1) : text.ToStdWstring();
-    auto [place, isNew] = m_entries.try_emplace(shared, entry);
-    // A name may hold invisible characters of its own.
+    auto [place, isNew] = m_entries.try_emplace(shared, std::move(entry));
+    // A name may hold invisible characters of its own. An entry that finds no place is not moved.
     while (!isNew) {
         std::tie(place, isNew) =
-            m_entries.try_emplace(shared + invisible(++m_sharers[shared]), entry);
+            m_entries.try_emplace(shared + invisible(++m_sharers[shared]), std::move(entry));
     }
     m_texts.emplace(place->second.bytes, &place->first);
     return place->first;

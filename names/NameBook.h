@@ -45,7 +45,7 @@ public:
     NameBook &operator=(const NameBook &) = delete;
 
     /// Enters the source's next column, the first one at position 0, and returns its text.
-    wxString addColumn(const std::string &bytes);
+    wxString addColumn(std::string bytes);
 
     /// The text of a column, or for `noColumn` the one that says that no column is used.
     wxString textOf(std::int32_t position) const;
