@@ -9,6 +9,7 @@
 #include "matching/columnNameScore.h"
 #include "matching/matchColumns.h"
 #include "matching/normalizeColumnName.h"
+#include "matching/openingMatches.h"
 
 using namespace columnimport;
 
@@ -70,6 +71,14 @@ TEST(MatchColumns, ProposesTheFirstOfTheBestFits) {
     for (const auto &[app, file, proposal] : cases) {
         EXPECT_EQ(matchColumns(app, file), proposal) << testing::PrintToString(file);
     }
+}
+
+TEST(OpeningMatches, AreInOrderWithoutTitlesAndElseTheSavedOnesButForNoName) {
+    std::vector<std::string> saved = {"b", "", "gone"};
+    EXPECT_EQ(openingMatches({"x", "y", "z"}, {}, {"", "b", "b"}, true, &saved),
+              (std::vector<std::int32_t>{1, -1, -1}));
+    EXPECT_EQ(openingMatches({"x", "y", "z"}, {}, {"", "b"}, false, &saved),
+              (std::vector<std::int32_t>{0, 1, -1}));
 }
 
 TEST(MatchColumns, AScoreOfExactlyTheThresholdIsRefusedAndTheNextDoubleTaken) {

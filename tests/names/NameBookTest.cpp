@@ -95,15 +95,6 @@ TEST_P(Locale, LeavesNormalisedNamesAsTheyAre) {
 
 INSTANTIATE_TEST_SUITE_P(InEach, Locale, testing::ValuesIn(locales));
 
-TEST(NameBook, ForgetsWhatItIsToldTo) {
-    NameBook book;
-    const wxString text = book.addColumn(std::string(5000, 'x'));
-    book.clear();
-    EXPECT_NE(book.bytesOf(text), std::string(5000, 'x'));
-    EXPECT_EQ(book.addColumn(std::string(5001, 'x')), text)
-        << "nothing is left that it differs from";
-}
-
 TEST(NameBook, TellsManyNamesApartThatReadTheSame) {
     NameBook book;
     const std::string head(1000, 'x');

@@ -14,6 +14,7 @@
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <malloc.h>
+#include <sys/resource.h>
 #include <wx/toplevel.h>
 
 #include <gdk/gdkx.h>
@@ -67,6 +68,22 @@ std::size_t windowsOnScreen() {
 }
 
 } // namespace
+
+TEST(LongUse, HoldsANameAsLargeAsItsFileNoMoreThanTwice) {
+    const auto peakInMegabytes = [] {
+        struct rusage usage = {};
+        getrusage(RUSAGE_SELF, &usage);
+        return usage.ru_maxrss >> 10U;
+    };
+    const ScratchFile file("");
+    std::filesystem::resize_file(file.path(), 256U << 20U);
+    DialogRun run;
+    run.fileName = file.path();
+    run.appColumns = {"dip"};
+    const long before = peakInMegabytes();
+    EXPECT_TRUE(run.show(pressOk));
+    EXPECT_LT(peakInMegabytes() - before, 2 * 256 + 128);
+}
 
 TEST(LongUse, LeavesNothingBehind) {
     const char *wanted = std::getenv("COLUMNIMPORT_RUNS");
