@@ -7,6 +7,7 @@
 #include "examples/drillhole/window/options.h"
 
 #include <clocale>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
 
@@ -112,7 +113,8 @@ int main(int argc, char **argv) {
     std::setlocale(LC_ALL, "");
     Glib::init();
     try {
-        return run(argc, argv);
+        // A thread that waits for a database may outlive the window, and what it uses must, too.
+        std::quick_exit(run(argc, argv));
     } catch (const Fault &fault) {
         std::cerr << fault.what() << '\n';
     } catch (const Glib::Error &error) {

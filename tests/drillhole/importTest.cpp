@@ -214,4 +214,38 @@ TEST_F(ImportTest, ReadsATableAsItStands) {
     EXPECT_FALSE(std::filesystem::exists(path("new.sqlite"))) << "a source is never made";
 }
 
+TEST_F(ImportTest, ShowsAViewPageByPageInBothDirections) {
+    *m_holes << "insert into collar values ('LR-3', 3, 0, 0, 7), ('LR-4', 3, 0, 0, null), "
+                "('M''5', 3, 0, 0, 9)";
+    const struct {
+        const char *hole;
+        std::optional<std::size_t> sortedBy;
+        bool descends;
+        const char *names;
+    } cases[] = {
+        {"", {}, false, "LR-1 LR-2 LR-3 LR-4 M'5 "}, {"", 1, false, "LR-1 LR-2 LR-3 LR-4 M'5 "},
+        {"", 1, true, "M'5 LR-4 LR-3 LR-2 LR-1 "},   {"", 4, false, "LR-3 M'5 LR-1 LR-2 LR-4 "},
+        {"LR", 0, true, "LR-4 LR-3 LR-2 LR-1 "},     {"M'", {}, false, "M'5 "},
+    };
+    for (const auto &each : cases) {
+        const RowView view{findTable("collar"), each.hole, each.sortedBy, each.descends};
+        for (const bool isBefore : {false, true}) {
+            std::string names;
+            PagePlace place{{}, isBefore, 0};
+            for (auto page = pageOf(*m_holes, view, place, 2); !page.empty();
+                 page = pageOf(*m_holes, view, place, 2)) {
+                std::string pageNames;
+                for (const auto &row : page) {
+                    pageNames += row[1] + ' ';
+                }
+                names = isBefore ? pageNames + names : names + pageNames;
+                place.key = isBefore ? page.front().front() : page.back().front();
+            }
+            EXPECT_EQ(names, each.names) << isBefore;
+        }
+        EXPECT_EQ(pageOf(*m_holes, view, {{}, false, 1}, 9).size() + 1,
+                  rowCount(*m_holes, *view.table, each.hole));
+    }
+}
+
 } // namespace

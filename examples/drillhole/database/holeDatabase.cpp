@@ -5,8 +5,10 @@
 #include "examples/drillhole/database/faultText.h"
 #include "examples/drillhole/rows/Fault.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <regex>
 #include <utility>
 
 #include <soci/postgresql/soci-postgresql.h>
@@ -35,6 +37,11 @@ std::string definitionOf(const Table &table) {
     }
     const std::string key = table.namesHoles ? ", primary key (holename)" : "";
     return "create table if not exists " + table.name + " (" + definition + key + ')';
+}
+
+std::string isOfHole(const std::string &name) {
+    const std::string text = "'" + std::regex_replace(name, std::regex("'"), "''") + "'";
+    return name.empty() ? "1 = 1" : "substr(holename, 1, length(" + text + ")) = " + text;
 }
 
 bool hasColumns(soci::session &session, const Table &table) {
@@ -99,35 +106,57 @@ Session openHoles(const std::string &connection) {
     return session;
 }
 
-std::size_t rowCount(soci::session &session, const Table &table) {
+std::size_t rowCount(soci::session &session, const Table &table, const std::string &hole) {
     long long count = 0;
-    session << "select count(*) from " + table.name, soci::into(count);
+    session << "select count(*) from " + table.name + " where " + isOfHole(hole), soci::into(count);
     return static_cast<std::size_t>(count);
 }
 
-std::vector<std::vector<std::string>> rowsOf(soci::session &session, const Table &table,
-                                             std::size_t first, std::size_t count) {
-    const std::size_t width = table.columns.size();
-    std::vector<std::string> fields(width);
-    std::vector<soci::indicator> indicators(width);
+// Pages go on behind the key of a row, whatever the order: with an offset each page would cost as
+// much as all those before it.
+std::vector<std::vector<std::string>> pageOf(soci::session &session, const RowView &view,
+                                             const PagePlace &place, std::size_t count) {
+    const std::string key = session.get_backend_name() == "postgresql" ? "ctid" : "rowid";
+    const bool goesDown = view.descends != place.isBefore;
+    std::string sorted = key;
+    std::string order = key + (goesDown ? " desc" : "");
+    if (view.sortedBy) {
+        const Column &column = view.table->columns[*view.sortedBy];
+        const std::string filled =
+            "coalesce(" + column.sqlName + (column.kind == Kind::text ? ", '')" : ", 0)");
+        sorted = column.sqlName + " is null, " + filled + ", " + key;
+        order = column.sqlName + " is null" + (goesDown ? " desc, " : ", ") + filled +
+                (goesDown ? " desc, " : ", ") + order;
+    }
+    std::string query = "select " + key + ", " + columnList(*view.table) + " from " +
+                        view.table->name + " where " + isOfHole(view.hole);
+    if (!place.key.empty()) {
+        query += " and (" + sorted + ") " + (goesDown ? "<" : ">") + " (select " + sorted +
+                 " from " + view.table->name + " where " + key + " = '" + place.key + "')";
+    }
+    query += " order by " + order + " limit " + std::to_string(count) + " offset " +
+             std::to_string(place.skipped);
+    std::vector<std::string> fields(view.table->columns.size() + 1);
+    std::vector<soci::indicator> indicators(fields.size());
     soci::statement statement(session);
-    for (std::size_t i = 0; i < width; ++i) {
+    for (std::size_t i = 0; i < fields.size(); ++i) {
         statement.exchange(soci::into(fields[i], indicators[i]));
     }
     statement.alloc();
-    statement.prepare("select " + columnList(table) + " from " + table.name + " limit " +
-                      std::to_string(count) + " offset " + std::to_string(first));
+    statement.prepare(query);
     statement.define_and_bind();
     statement.execute();
     std::vector<std::vector<std::string>> rows;
     while (statement.fetch()) {
-        std::vector<std::string> row(width);
-        for (std::size_t i = 0; i < width; ++i) {
-            if (indicators[i] == soci::i_ok) {
-                row[i] = fields[i];
+        for (std::size_t i = 0; i < fields.size(); ++i) {
+            if (indicators[i] == soci::i_null) {
+                fields[i].clear();
             }
         }
-        rows.push_back(row);
+        rows.push_back(fields);
+    }
+    if (place.isBefore) {
+        std::reverse(rows.begin(), rows.end());
     }
     return rows;
 }

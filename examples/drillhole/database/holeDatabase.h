@@ -16,11 +16,28 @@ namespace drillhole {
 /// missing. Throws a Fault also if one has other columns.
 Session openHoles(const std::string &connection);
 
-std::size_t rowCount(soci::session &session, const Table &table);
+/// @param hole  counts only rows of holes whose names begin so
+std::size_t rowCount(soci::session &session, const Table &table, const std::string &hole = {});
 
-/// A stretch of the table's rows as texts, in the order in which the database keeps them.
-std::vector<std::vector<std::string>> rowsOf(soci::session &session, const Table &table,
-                                             std::size_t first, std::size_t count);
+/// Which rows of a table are seen, and in what order.
+struct RowView {
+    const Table *table = nullptr;
+    std::string hole; ///< how the names of their holes begin
+    std::optional<std::size_t>
+        sortedBy; ///< a column; without one they are as the database has them
+    bool descends = false;
+};
+
+/// Where a page of rows stands in a view.
+struct PagePlace {
+    std::string key;       ///< of the row next to the page; empty for the view's begin or end
+    bool isBefore = false; ///< the page is in front of that row, or at the view's end
+    std::size_t skipped = 0;
+};
+
+/// A page of rows as texts, each behind its key.
+std::vector<std::vector<std::string>> pageOf(soci::session &session, const RowView &view,
+                                             const PagePlace &place, std::size_t count);
 
 struct Collar {
     std::string name;

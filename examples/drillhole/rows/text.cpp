@@ -59,12 +59,16 @@ std::optional<double> parseNumber(std::string_view text) {
     return number;
 }
 
-std::string countOf(std::size_t count, const std::string &noun) {
+std::string grouped(std::size_t count) {
     std::string digits = std::to_string(count);
     for (auto place = static_cast<std::ptrdiff_t>(digits.size()) - 3; place > 0; place -= 3) {
         digits.insert(static_cast<std::size_t>(place), 1, ',');
     }
-    return digits + ' ' + noun + (count == 1 ? "" : "s");
+    return digits;
+}
+
+std::string countOf(std::size_t count, const std::string &noun) {
+    return grouped(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
 } // namespace drillhole

@@ -23,6 +23,9 @@ std::string_view trimmed(std::string_view text);
 /// The number that the whole text is, with a decimal point, or nothing.
 std::optional<double> parseNumber(std::string_view text);
 
+/// "1,234".
+std::string grouped(std::size_t count);
+
 /// "1 row", "1,234 rows".
 std::string countOf(std::size_t count, const std::string &noun);
 

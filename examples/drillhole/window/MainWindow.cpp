@@ -5,6 +5,7 @@
 #include "examples/drillhole/database/connection.h"
 #include "examples/drillhole/database/sourceTables.h"
 #include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/rows/text.h"
 #include "examples/drillhole/window/SourceDialog.h"
 
 #include <utility>
@@ -24,23 +25,6 @@ namespace {
 constexpr int spacing = 8;
 constexpr unsigned int progressInterval = 50; // milliseconds
 
-/// What the window shows of the database.
-struct Content {
-    std::vector<std::size_t> counts; ///< of each table
-    std::vector<std::vector<std::string>> rows;
-    std::vector<Collar> collars;
-};
-
-Content contentOf(soci::session &session, const Table &table, std::size_t firstRow) {
-    Content content;
-    for (const Table &each : holeTables()) {
-        content.counts.push_back(rowCount(session, each));
-    }
-    content.rows = rowsOf(session, table, firstRow, RowGrid::pageSize);
-    content.collars = collarsOf(session);
-    return content;
-}
-
 } // namespace
 
 MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
@@ -48,19 +32,23 @@ MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
     : m_settings(settings), m_dialog(peer, settings), m_reportFolder(reportFolder),
       m_table(&holeTables().front()), m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
       m_replace("_Replace the rows that are there", true),
-      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing), m_thread(connection, openHoles) {
+      m_grid([this](auto work, auto done) { ask(work, done); }),
+      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing),
+      m_thread(std::make_unique<DatabaseThread>(connection, openHoles)) {
     set_title("Drill holes in " + placeOf(connection));
     set_default_size(1120, 720);
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
     all->property_margin() = 12;
     all->pack_start(createToolbar(), Gtk::PACK_SHRINK);
     all->pack_start(createFaultBar(), Gtk::PACK_SHRINK);
-    all->pack_start(createBody(), Gtk::PACK_EXPAND_WIDGET);
-    all->pack_start(m_report, Gtk::PACK_SHRINK);
+    auto *body = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_VERTICAL);
+    body->pack1(createBody(), true, false);
+    body->pack2(m_report, false, false);
+    all->pack_start(*body, Gtk::PACK_EXPAND_WIDGET);
     all->pack_start(createProgressLine(), Gtk::PACK_SHRINK);
     add(*all);
     show_all_children();
-    load(0);
+    refresh(nullptr, false);
 }
 
 void MainWindow::choose(const Table &table) {
@@ -152,7 +140,7 @@ void MainWindow::start(ImportStory story, Import import, Replace replace) {
     m_progressLine.show();
     const std::string report =
         Glib::build_filename(m_reportFolder, "refused_" + story.table->name + ".csv");
-    m_thread.run(
+    m_thread->run(
         [=, table = story.table](soci::session &holes) {
             *outcome = import({holes, *table, report, replace, {}}, *progress);
         },
@@ -194,7 +182,7 @@ void MainWindow::end(const ImportStory &story) {
     }
     if (story.isDone()) {
         m_replace.set_active(false);
-        load(story.outcome.replaces ? 0 : m_rowCount); // the new rows stand behind the others
+        refresh(story.table, !story.outcome.replaces); // the new rows stand behind the others
     }
     m_signalEnded.emit(story);
 }
@@ -206,29 +194,54 @@ void MainWindow::setBusy(bool isBusy) {
 
 bool MainWindow::showProgress() {
     m_progressBar.set_fraction(m_progress->share);
-    m_progressBar.set_text(std::to_string(m_progress->rows) + " rows");
+    m_progressBar.set_text(countOf(m_progress->rows, "row"));
     return true;
 }
 
-void MainWindow::load(std::size_t firstRow) {
-    const auto content = std::make_shared<Content>();
-    m_thread.run([content, table = m_table, firstRow](
-                     soci::session &holes) { *content = contentOf(holes, *table, firstRow); },
-                 [this, content, table = m_table, firstRow](const std::string &fault) {
-                     if (!fault.empty()) {
-                         showFault(fault);
-                         return;
-                     }
-                     for (std::size_t i = 0; i < m_tableButtons.size(); ++i) {
-                         m_tableButtons[i]->set_label(holeTables()[i].title + " (" +
-                                                      std::to_string(content->counts[i]) + ')');
-                         if (&holeTables()[i] == table) {
-                             m_rowCount = content->counts[i];
-                             m_grid.show(*table, content->rows, firstRow, content->counts[i]);
-                         }
-                     }
-                     m_plan.show(content->collars);
-                 });
+void MainWindow::ask(const DatabaseThread::Work &work, const std::function<void()> &done) {
+    m_thread->run(work, [this, done](const std::string &fault) {
+        if (fault.empty()) {
+            done();
+        } else {
+            showFault(fault);
+        }
+    });
+}
+
+void MainWindow::refresh(const Table *changed, bool isAtEnd) {
+    const auto counts = std::make_shared<std::vector<std::size_t>>(m_counts);
+    const auto collars = std::make_shared<std::vector<Collar>>();
+    const bool hasNewCollars = changed == nullptr || changed->namesHoles;
+    ask(
+        [counts, collars, changed, hasNewCollars](soci::session &holes) {
+            counts->resize(holeTables().size());
+            for (std::size_t i = 0; i < counts->size(); ++i) {
+                if (changed == nullptr || changed == &holeTables()[i]) {
+                    (*counts)[i] = rowCount(holes, holeTables()[i]);
+                }
+            }
+            if (hasNewCollars) {
+                *collars = collarsOf(holes);
+            }
+        },
+        [this, counts, collars, hasNewCollars, isAtEnd] {
+            m_counts = *counts;
+            for (std::size_t i = 0; i < m_counts.size(); ++i) {
+                m_tableButtons[i]->set_label(holeTables()[i].title + " (" + grouped(m_counts[i]) +
+                                             ')');
+            }
+            if (hasNewCollars) {
+                m_plan.show(*collars);
+            }
+            showTable(isAtEnd);
+        });
+}
+
+void MainWindow::showTable(bool isAtEnd) {
+    if (!m_counts.empty()) {
+        m_grid.show(*m_table, m_counts[static_cast<std::size_t>(m_table - holeTables().data())],
+                    isAtEnd);
+    }
 }
 
 void MainWindow::chooseFile() {
@@ -278,7 +291,7 @@ Gtk::Widget &MainWindow::createToolbar() {
         button->signal_toggled().connect([this, button, chosen = &table] {
             if (button->get_active()) {
                 m_table = chosen;
-                load(0);
+                showTable(false);
             }
         });
         m_tableButtons.push_back(button);
@@ -311,7 +324,6 @@ Gtk::Widget &MainWindow::createFaultBar() {
 }
 
 Gtk::Widget &MainWindow::createBody() {
-    m_grid.signalPage().connect([this](std::size_t firstRow) { load(firstRow); });
     auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
     both->pack1(m_grid, true, false);
     auto *frame = Gtk::make_managed<Gtk::Frame>();

@@ -60,7 +60,9 @@ private:
     void setBusy(bool isBusy);
     bool showProgress();
 
-    void load(std::size_t firstRow);
+    void ask(const DatabaseThread::Work &work, const std::function<void()> &done);
+    void refresh(const Table *changed, bool isAtEnd); ///< null for all
+    void showTable(bool isAtEnd);
     void showFault(const std::string &fault);
     bool on_delete_event(GdkEventAny *event) override;
 
@@ -68,7 +70,7 @@ private:
     MatchDialog m_dialog;
     std::string m_reportFolder;
     const Table *m_table;
-    std::size_t m_rowCount = 0; ///< of the table
+    std::vector<std::size_t> m_counts; ///< rows of each table
     bool m_isBusy = false;
     std::shared_ptr<ImportProgress> m_progress;
     sigc::connection m_progressTimer;
@@ -86,7 +88,7 @@ private:
     Gtk::ProgressBar m_progressBar;
 
     std::unique_ptr<DatabaseThread> m_source; // while its columns are asked for
-    DatabaseThread m_thread;
+    std::unique_ptr<DatabaseThread> m_thread;
 };
 
 } // namespace drillhole

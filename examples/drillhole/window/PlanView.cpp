@@ -2,7 +2,6 @@
 
 #include "examples/drillhole/window/PlanView.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -18,27 +17,8 @@ constexpr double margin = 70;
 constexpr double gridSpacing = 110;
 constexpr double holeRadius = 3.5;
 constexpr double scaleBarHeight = 30;
-
-// A plan is a sheet of paper, in a dark theme too.
-void usePaper(const Picture &picture) {
-    picture->set_source_rgb(1, 1, 1);
-}
-
-void useInk(const Picture &picture) {
-    picture->set_source_rgb(0.13, 0.15, 0.17);
-}
-
-void useFaintInk(const Picture &picture) {
-    picture->set_source_rgb(0.45, 0.47, 0.5);
-}
-
-void useGridColour(const Picture &picture) {
-    picture->set_source_rgb(0.87, 0.88, 0.9);
-}
-
-void useHoleColour(const Picture &picture) {
-    picture->set_source_rgb(0.75, 0.25, 0.1);
-}
+constexpr double faint = 0.6;
+constexpr double veryFaint = 0.15;
 
 std::string coordinate(double value) {
     std::array<char, 400> digits{};
@@ -52,19 +32,48 @@ std::string coordinate(double value) {
     return text == "-0" ? "0" : text;
 }
 
-struct Box {
-    double left, top, right, bottom;
-};
+/// Which parts of a picture are covered, in squares of a few pixels.
+class Cover {
+public:
+    Cover(double width, double height)
+        : m_columns(static_cast<int>(width / side) + 1),
+          m_rows(static_cast<int>(height / side) + 1),
+          m_isTaken(static_cast<std::size_t>(m_columns * m_rows)) {}
 
-bool overlaps(const Box &one, const Box &other) {
-    return one.left < other.right && other.left < one.right && one.top < other.bottom &&
-           other.top < one.bottom;
-}
+    /// Whether the box lies in the picture and nothing was there; or takes its place.
+    bool isFree(double left, double top, double width, double height, bool takes = false) {
+        for (int row = at(top); row <= at(top + height); ++row) {
+            for (int column = at(left); column <= at(left + width); ++column) {
+                if (row < 0 || column < 0 || row >= m_rows || column >= m_columns) {
+                    if (!takes) {
+                        return false;
+                    }
+                    continue;
+                }
+                const auto place = static_cast<std::size_t>(row * m_columns + column);
+                if (!takes && m_isTaken[place]) {
+                    return false;
+                }
+                m_isTaken[place] = takes || m_isTaken[place];
+            }
+        }
+        return true;
+    }
+
+private:
+    static constexpr double side = 4;
+    static int at(double place) { return static_cast<int>(std::floor(place / side)); }
+
+    int m_columns;
+    int m_rows;
+    std::vector<bool> m_isTaken;
+};
 
 } // namespace
 
 PlanView::PlanView() {
     set_size_request(280, 200);
+    get_style_context()->add_class("view"); // the ground of the theme
 }
 
 void PlanView::show(std::vector<Collar> collars) {
@@ -73,94 +82,99 @@ void PlanView::show(std::vector<Collar> collars) {
 }
 
 bool PlanView::on_draw(const Picture &picture) {
-    usePaper(picture);
-    picture->paint();
-    picture->select_font_face("sans-serif", Cairo::FONT_SLANT_NORMAL, Cairo::FONT_WEIGHT_NORMAL);
-    picture->set_font_size(11);
+    const double width = get_allocated_width();
+    const double height = get_allocated_height();
+    get_style_context()->render_background(picture, 0, 0, width, height);
+    picture->set_line_width(1);
     if (m_collars.empty()) {
-        useFaintInk(picture);
-        picture->move_to(20, 30);
-        picture->show_text("Imported collars show here, seen from above.");
+        write(picture, 20, 20, "Imported collars show here, seen from above.", faint);
         return true;
     }
-    const PlanScale scale =
-        planScale(m_collars, get_allocated_width(), get_allocated_height(), margin);
+    const PlanScale scale = planScale(m_collars, width, height, margin);
     drawGrid(picture, scale);
     drawCollars(picture, scale);
     drawScaleBar(picture, scale);
     return true;
 }
 
-void PlanView::drawGrid(const Picture &picture, const PlanScale &scale) const {
+void PlanView::useInk(const Picture &picture, double strength) const {
+    const Gdk::RGBA ink = get_style_context()->get_color(get_state_flags());
+    picture->set_source_rgba(ink.get_red(), ink.get_green(), ink.get_blue(), strength);
+}
+
+void PlanView::write(const Picture &picture, double left, double top, const std::string &text,
+                     double strength) {
+    useInk(picture, strength);
+    picture->move_to(left, top);
+    create_pango_layout(text)->show_in_cairo_context(picture);
+}
+
+void PlanView::drawGrid(const Picture &picture, const PlanScale &scale) {
     const double width = get_allocated_width();
     const double height = get_allocated_height();
     const double step = roundStep(gridSpacing / scale.pixelsPerUnit);
-    picture->set_line_width(1);
+    const auto line = [&](double x, double y, double endX, double endY) {
+        useInk(picture, veryFaint);
+        picture->move_to(x, y);
+        picture->line_to(endX, endY);
+        picture->stroke();
+    };
     for (double easting = std::ceil(scale.west / step) * step; scale.x(easting) < width;
          easting += step) {
         const double x = std::floor(scale.x(easting)) + 0.5;
-        useGridColour(picture);
-        picture->move_to(x, 0);
-        picture->line_to(x, height);
-        picture->stroke();
-        useFaintInk(picture);
-        picture->move_to(x + 4, 14);
-        picture->show_text(coordinate(easting) + " E");
+        line(x, 0, x, height);
+        write(picture, x + 4, 2, coordinate(easting) + " E", faint);
     }
     for (double northing = std::floor(scale.north / step) * step; scale.y(northing) < height;
          northing -= step) {
         const double y = std::floor(scale.y(northing)) + 0.5;
-        useGridColour(picture);
-        picture->move_to(0, y);
-        picture->line_to(width, y);
-        picture->stroke();
+        line(0, y, width, y);
         if (y < height - scaleBarHeight) {
-            useFaintInk(picture);
-            picture->move_to(4, y - 4);
-            picture->show_text(coordinate(northing) + " N");
+            write(picture, 4, y + 2, coordinate(northing) + " N", faint);
         }
     }
 }
 
 void PlanView::drawCollars(const Picture &picture, const PlanScale &scale) {
-    // Names that would cover one another are left out; the holes never are.
-    std::vector<Box> named;
+    Cover cover(get_allocated_width(), get_allocated_height());
+    picture->set_source_rgb(0.8, 0.3, 0.1);
     for (const Collar &collar : m_collars) {
         const double x = scale.x(collar.easting);
         const double y = scale.y(collar.northing);
-        useHoleColour(picture);
         picture->arc(x, y, holeRadius, 0, 2 * M_PI);
         picture->fill();
-
-        Cairo::TextExtents extents;
-        picture->get_text_extents(collar.name, extents);
-        const Box box = {x + 6, y - 14, x + 8 + extents.width, y};
-        const bool isFree = named.size() < 2000 &&
-                            std::none_of(named.begin(), named.end(),
-                                         [&box](const Box &other) { return overlaps(box, other); });
-        if (isFree) {
-            named.push_back(box);
-            useInk(picture);
-            picture->move_to(x + 7, y - 4);
-            picture->show_text(collar.name);
+        cover.isFree(x - holeRadius, y - holeRadius, 2 * holeRadius, 2 * holeRadius, true);
+    }
+    // A name that would cover another one or a hole stands on the other side, or is left out.
+    for (const Collar &collar : m_collars) {
+        int width = 0;
+        int height = 0;
+        create_pango_layout(collar.name)->get_pixel_size(width, height);
+        const double top = scale.y(collar.northing) - height / 2.0;
+        const double x = scale.x(collar.easting);
+        for (const double left : {x + 9, x - 9 - width}) {
+            if (cover.isFree(left, top, width, height)) {
+                cover.isFree(left, top, width, height, true);
+                write(picture, left, top, collar.name, 1);
+                break;
+            }
         }
     }
 }
 
-void PlanView::drawScaleBar(const Picture &picture, const PlanScale &scale) const {
+void PlanView::drawScaleBar(const Picture &picture, const PlanScale &scale) {
     const double length = roundStep(60 / scale.pixelsPerUnit);
     const double left = 14;
     const double bottom = get_allocated_height() - 14;
     const double right = left + length * scale.pixelsPerUnit;
-    useInk(picture);
+    useInk(picture, 1);
     picture->set_line_width(2);
     picture->move_to(left, bottom - 5);
     picture->line_to(left, bottom);
     picture->line_to(right, bottom);
     picture->line_to(right, bottom - 5);
     picture->stroke();
-    picture->move_to(right + 6, bottom);
-    picture->show_text(coordinate(length));
+    write(picture, right + 6, bottom - 14, coordinate(length), 1);
 }
 
 } // namespace drillhole

@@ -2,8 +2,11 @@
 
 #include "examples/drillhole/window/RowGrid.h"
 
+#include "examples/drillhole/rows/text.h"
+
 #include <algorithm>
 
+#include <gtkmm/button.h>
 #include <gtkmm/cellrenderertext.h>
 #include <gtkmm/scrolledwindow.h>
 
@@ -11,17 +14,14 @@ namespace drillhole {
 
 namespace {
 
-std::size_t widestTable() {
-    std::size_t width = 0;
-    for (const Table &table : holeTables()) {
-        width = std::max(width, table.columns.size());
-    }
-    return width;
-}
+constexpr std::size_t pageSize = 500;
 
 } // namespace
 
-RowGrid::RowGrid() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_fields(widestTable()) {
+RowGrid::RowGrid(Ask ask) : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_ask(std::move(ask)) {
+    for (const Table &table : holeTables()) {
+        m_fields.resize(std::max(m_fields.size(), table.columns.size()));
+    }
     for (auto &field : m_fields) {
         m_record.add(field);
     }
@@ -32,52 +32,139 @@ RowGrid::RowGrid() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_fields(widestTabl
     scrolled->add(m_view);
     pack_start(*scrolled, Gtk::PACK_EXPAND_WIDGET);
 
-    m_before.set_image_from_icon_name("go-previous-symbolic");
-    m_before.set_tooltip_text("Earlier rows");
-    m_before.signal_clicked().connect(
-        [this] { m_signalPage.emit(m_first > pageSize ? m_first - pageSize : 0); });
-    m_behind.set_image_from_icon_name("go-next-symbolic");
-    m_behind.set_tooltip_text("Later rows");
-    m_behind.signal_clicked().connect([this] { m_signalPage.emit(m_first + pageSize); });
     auto *pager = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_HORIZONTAL, 6);
-    pager->pack_start(m_before, Gtk::PACK_SHRINK);
-    pager->pack_start(m_behind, Gtk::PACK_SHRINK);
-    pager->pack_start(m_place, Gtk::PACK_SHRINK);
+    addButton(*pager, "go-first-symbolic", "First rows", &RowGrid::goToFirst);
+    addButton(*pager, "go-previous-symbolic", "Earlier rows", &RowGrid::goBack);
+    addButton(*pager, "go-next-symbolic", "Later rows", &RowGrid::goOn);
+    addButton(*pager, "go-last-symbolic", "Last rows", &RowGrid::goToLast);
+    m_number.set_width_chars(9);
+    m_number.set_placeholder_text("Go to row");
+    m_number.signal_activate().connect([this] { goTo(m_number.get_text()); });
+    pager->pack_start(m_number, Gtk::PACK_SHRINK);
+    m_place.set_ellipsize(Pango::ELLIPSIZE_END);
+    m_place.set_xalign(0);
+    pager->pack_start(m_place, Gtk::PACK_EXPAND_WIDGET);
+    m_hole.set_width_chars(14);
+    m_hole.set_placeholder_text("Holes like LR-1");
+    m_hole.set_tooltip_text("Shows only the rows of holes whose names begin so");
+    m_hole.signal_search_changed().connect([this] { filter(); });
+    pager->pack_start(m_hole, Gtk::PACK_SHRINK);
     pack_start(*pager, Gtk::PACK_SHRINK);
 }
 
-void RowGrid::show(const Table &table, const std::vector<std::vector<std::string>> &rows,
-                   std::size_t first, std::size_t count) {
-    if (table.name != m_tableName) {
-        m_tableName = table.name;
-        showColumns(table);
+void RowGrid::addButton(Gtk::Box &pager, const char *icon, const char *tip, void (RowGrid::*go)()) {
+    auto *button = Gtk::make_managed<Gtk::Button>();
+    button->set_image_from_icon_name(icon);
+    button->set_tooltip_text(tip);
+    button->signal_clicked().connect(sigc::mem_fun(*this, go));
+    pager.pack_start(*button, Gtk::PACK_SHRINK);
+}
+
+void RowGrid::show(const Table &table, std::size_t count, bool isAtEnd) {
+    m_total = count;
+    if (m_shown.table != &table) {
+        m_shown = {&table, m_shown.hole, {}, false};
+        showColumns();
     }
+    if (!m_shown.hole.empty()) {
+        filter();
+        return;
+    }
+    m_count = count;
+    isAtEnd ? goToLast() : goToFirst();
+}
+
+void RowGrid::goBack() {
+    if (m_first > pageSize && !m_page.empty()) {
+        load({m_page.front().front(), true, 0}, m_first - pageSize);
+    } else {
+        goToFirst();
+    }
+}
+
+void RowGrid::goOn() {
+    if (m_first + m_page.size() < m_count && !m_page.empty()) {
+        load({m_page.back().front(), false, 0}, m_first + m_page.size());
+    }
+}
+
+void RowGrid::goToLast() {
+    load({{}, true, 0}, m_count - std::min(m_count, pageSize));
+}
+
+void RowGrid::goTo(const std::string &number) {
+    const double row = parseNumber(number).value_or(0);
+    if (row >= 1 && row <= static_cast<double>(m_count)) {
+        const auto first = static_cast<std::size_t>(row) - 1;
+        load({{}, false, first}, first);
+    }
+}
+
+void RowGrid::filter() {
+    m_shown.hole = m_hole.get_text();
+    const auto count = std::make_shared<std::size_t>(m_total);
+    m_ask(
+        [count, view = m_shown](soci::session &holes) {
+            *count = view.hole.empty() ? *count : rowCount(holes, *view.table, view.hole);
+        },
+        [this, count] {
+            m_count = *count;
+            goToFirst();
+        });
+}
+
+void RowGrid::sortBy(std::size_t column) {
+    const bool isSorted = m_shown.sortedBy == column;
+    if (isSorted && m_shown.descends) {
+        m_shown.sortedBy.reset();
+    } else {
+        m_shown.sortedBy = column;
+    }
+    m_shown.descends = isSorted && !m_shown.descends;
+    for (std::size_t i = 0; i < m_shown.table->columns.size(); ++i) {
+        Gtk::TreeViewColumn *title = m_view.get_column(static_cast<int>(i));
+        title->set_sort_indicator(m_shown.sortedBy == i);
+        title->set_sort_order(m_shown.descends ? Gtk::SORT_DESCENDING : Gtk::SORT_ASCENDING);
+    }
+    goToFirst();
+}
+
+void RowGrid::load(const PagePlace &place, std::size_t first) {
+    const auto rows = std::make_shared<Rows>();
+    m_ask([rows, place,
+           view = m_shown](soci::session &holes) { *rows = pageOf(holes, view, place, pageSize); },
+          [this, rows, first] { showRows(*rows, first); });
+}
+
+void RowGrid::showRows(const Rows &rows, std::size_t first) {
+    m_page = rows;
     m_first = first;
     m_view.unset_model();
     m_rows->clear();
     for (const std::vector<std::string> &row : rows) {
         const auto shown = *m_rows->append();
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            shown[m_fields[i]] = row[i];
+        for (std::size_t i = 1; i < row.size(); ++i) {
+            shown[m_fields[i - 1]] = row[i];
         }
     }
     m_view.set_model(m_rows);
-    m_place.set_text(rows.empty() ? "No rows yet"
-                                  : "Rows " + std::to_string(first + 1) + " to " +
-                                        std::to_string(first + rows.size()) + " of " +
-                                        std::to_string(count));
-    m_before.set_sensitive(first > 0);
-    m_behind.set_sensitive(first + rows.size() < count);
+    m_place.set_text(rows.empty() ? "No rows"
+                                  : grouped(first + 1) + " to " + grouped(first + rows.size()) +
+                                        " of " + grouped(m_count));
 }
 
-void RowGrid::showColumns(const Table &table) {
+void RowGrid::showColumns() {
     m_view.remove_all_columns();
-    for (std::size_t i = 0; i < table.columns.size(); ++i) {
+    m_rows->clear();
+    const std::vector<Column> &columns = m_shown.table->columns;
+    for (std::size_t i = 0; i < columns.size(); ++i) {
         auto *cell = Gtk::make_managed<Gtk::CellRendererText>();
-        auto *column = Gtk::make_managed<Gtk::TreeViewColumn>(table.columns[i].name, *cell);
+        auto *column = Gtk::make_managed<Gtk::TreeViewColumn>(columns[i].name, *cell);
         column->add_attribute(cell->property_text(), m_fields[i]);
         column->set_resizable();
-        if (table.columns[i].kind == Kind::number) {
+        column->set_clickable();
+        column->signal_clicked().connect([this, i] { sortBy(i); });
+        if (columns[i].kind == Kind::number) {
             cell->property_xalign() = 1;
             column->set_alignment(Gtk::ALIGN_END);
         }
