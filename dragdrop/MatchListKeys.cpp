@@ -134,7 +134,6 @@ bool MatchListKeys::move(const wxKeyEvent &key) {
 }
 
 std::function<void()> MatchListKeys::workOf(const wxKeyEvent &key) {
-    const bool isControl = key.GetModifiers() == wxMOD_CONTROL;
     switch (key.GetKeyCode()) {
     case WXK_DELETE:
     case WXK_NUMPAD_DELETE:
@@ -145,11 +144,17 @@ std::function<void()> MatchListKeys::workOf(const wxKeyEvent &key) {
     case WXK_NUMPAD_ENTER:
         return [this] { pressOk(); };
     case 'C':
-        return isControl ? [this, row = currentRow()] { copy(row); } : std::function<void()>();
+        if (key.ControlDown()) {
+            return [this, row = currentRow()] { copy(row); };
+        }
+        return nullptr;
     case 'V':
-        return isControl ? [this, rows = chosenRows()] { paste(rows); } : std::function<void()>();
+        if (key.ControlDown()) {
+            return [this, rows = chosenRows()] { paste(rows); };
+        }
+        return nullptr;
     default:
-        return {};
+        return nullptr;
     }
 }
 

@@ -139,6 +139,7 @@ TEST_F(Keyboard, TheRowThatIsGoneToIsInView) {
 TEST_F(Keyboard, GoesOnFromAClick) {
     run.show([](Person &person) {
         person.click(Person::matchRow(0));
+        person.strike(WXK_DOWN);
         person.click(Person::fileRow(1));
         strike(person, WXK_CONTROL, 'c');
         person.click(Person::matchRow(3));

@@ -82,10 +82,10 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndOnTheFileListClearsTheMarkedRows) {
     DialogRun run;
     run.fileName = file.path();
     run.appColumns = {"a", "b", "c", "d", "e", "f", "hole", "from"};
-    EXPECT_TRUE(run.show([&texts](Person &person) {
-        Names offered = texts;
-        offered.insert(offered.end(), 2, "ignored");
-        OtherProgram program(offered);
+    Names offered = texts;
+    offered.insert(offered.end(), 2, "ignored");
+    OtherProgram program(offered);
+    EXPECT_TRUE(run.show([&](Person &person) {
         for (int row = 0; row < static_cast<int>(texts.size()); ++row) {
             program.dropAt(person, Person::matchRow(row));
         }
@@ -154,8 +154,8 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
     DialogRun run;
     run.fileName = file.path();
     run.appColumns = {"hole", "from"};
-    EXPECT_FALSE(run.show([](Person &person) {
-        OtherProgram program({"unused"});
+    OtherProgram program({"unused"});
+    EXPECT_FALSE(run.show([&program](Person &person) {
         person.moveTo(Person::fileRow(0));
         person.press();
         person.hoverAt(Person::fileRow(1), "the drag begins", isDragRunning);
@@ -166,6 +166,9 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
         person.release();
         program.waitFor("dropped\n");
         waitUntil("the drag ends", [] { return !isDragRunning(); });
+        person.click(program.window);
+        program.waitFor("taken\n");
+        waitUntil("the dialog has the keys again", [] { return openDialog().IsActive(); });
         person.click(Person::matchRow(0));
         pressControlAnd(person, 'v');
         person.strike(WXK_DOWN);

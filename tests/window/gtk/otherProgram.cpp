@@ -58,6 +58,16 @@ void hang(GtkClipboard *, GtkSelectionData *, guint, void *) {
     std::_Exit(0);
 }
 
+gboolean takeClipboard(GtkWidget *, GdkEvent *, GtkWindow *window) {
+    const GtkTargetEntry text{const_cast<char *>("UTF8_STRING"), 0, 0};
+    gtk_clipboard_set_with_data(
+        gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &text, 1, hang, [](GtkClipboard *, void *) {},
+        nullptr);
+    gtk_window_iconify(window);
+    say("taken");
+    return FALSE;
+}
+
 } // namespace
 
 int main(int argumentCount, char **arguments) {
@@ -65,7 +75,7 @@ int main(int argumentCount, char **arguments) {
     alarm(60);
     gtk_init(&argumentCount, &arguments);
     char **offered = arguments + 1;
-    GtkWidget *window = gtk_window_new(GTK_WINDOW_POPUP);
+    GtkWidget *window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
     GtkWidget *area = gtk_event_box_new();
     gtk_container_add(GTK_CONTAINER(window), area);
     gtk_drag_source_set(area, GDK_BUTTON1_MASK, nullptr, 0, GDK_ACTION_COPY);
@@ -77,10 +87,7 @@ int main(int argumentCount, char **arguments) {
                          return TRUE;
                      }),
                      nullptr);
-    const GtkTargetEntry text{const_cast<char *>("UTF8_STRING"), 0, 0};
-    gtk_clipboard_set_with_data(
-        gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &text, 1, hang, [](GtkClipboard *, void *) {},
-        nullptr);
+    g_signal_connect(area, "button-release-event", G_CALLBACK(takeClipboard), window);
     g_signal_connect(area, "drag-data-get", G_CALLBACK(hand), &offered);
     g_signal_connect(area, "drag-end", G_CALLBACK(goOn), &offered);
     g_signal_connect_after(window, "map-event", G_CALLBACK(+[]() -> gboolean {
@@ -88,8 +95,7 @@ int main(int argumentCount, char **arguments) {
                                return FALSE;
                            }),
                            nullptr);
-    gtk_window_move(GTK_WINDOW(window), 1200, 200);
-    gtk_window_resize(GTK_WINDOW(window), 200, 200);
+    gtk_window_maximize(GTK_WINDOW(window));
     gtk_widget_show_all(window);
     gtk_main();
     return 0;
