@@ -22,25 +22,17 @@ void say(const char *what) {
 }
 
 void offer(GtkWidget *area, const char *text) {
-    gtk_drag_source_set_target_list(area, nullptr);
-    if (*text != ' ') {
-        gtk_drag_source_add_text_targets(area);
-        return;
-    }
-    GtkTargetEntry name{const_cast<char *>("STRING"), 0, 0};
-    GtkTargetList *names = gtk_target_list_new(&name, 1);
+    GtkTargetList *names = gtk_target_list_new(nullptr, 0);
+    const char *name = *text == ' ' ? "STRING" : "UTF8_STRING";
+    gtk_target_list_add(names, gdk_atom_intern(name, FALSE), 0, 0);
     gtk_drag_source_set_target_list(area, names);
     gtk_target_list_unref(names);
 }
 
 void hand(GtkWidget *, GdkDragContext *, GtkSelectionData *data, guint, guint, char ***offered) {
-    const int length = static_cast<int>(std::strlen(**offered));
-    if (***offered == ' ') {
-        gtk_selection_data_set(data, gtk_selection_data_get_target(data), 8,
-                               reinterpret_cast<guchar *>(**offered), length);
-    } else {
-        gtk_selection_data_set_text(data, **offered, length);
-    }
+    gtk_selection_data_set(data, gtk_selection_data_get_target(data), 8,
+                           reinterpret_cast<guchar *>(**offered),
+                           static_cast<int>(std::strlen(**offered)));
 }
 
 void goOn(GtkWidget *area, GdkDragContext *, char ***offered) {
