@@ -80,17 +80,12 @@ void showMatches(ListCtrlSource &list, const std::vector<std::int32_t> &position
     }
 }
 
-/// Whether OK asks for the columns that the host requires, which it does once.
-bool asksBack(wxImportCSVDialog &dialog, const std::vector<std::string> &appColumns) {
-    ImportDetails &details = ImportDetails::of(dialog);
-    const wxString sentence = columnimport::requiredSentence(appColumns, details.required,
-                                                             ImportDetails::matches(dialog));
-    if (sentence.empty() || details.hasAskedBack) {
-        return false;
-    }
+/// Says what there is to ask about the columns that the host requires; false if there is nothing.
+bool askForRequired(wxImportCSVDialog &dialog, const std::vector<std::string> &appColumns) {
+    const wxString sentence = columnimport::requiredSentence(
+        appColumns, ImportDetails::of(dialog).required, ImportDetails::matches(dialog));
     columnimport::say(dialog, columnimport::Matter::matching, sentence);
-    details.hasAskedBack = true;
-    return true;
+    return !sentence.empty();
 }
 
 } // namespace
@@ -138,7 +133,19 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     if (!m_details->required.empty()) {
         Bind(
             wxEVT_BUTTON,
-            [this](wxCommandEvent &event) { event.Skip(!asksBack(*this, m_appColumns)); }, wxID_OK);
+            [this](wxCommandEvent &event) {
+                if (m_details->hasAskedBack || !askForRequired(*this, m_appColumns)) {
+                    event.Skip();
+                    return;
+                }
+                m_details->hasAskedBack = true;
+                // What was asked stands there only as long as it is so.
+                Bind(wxEVT_IDLE, [this](wxIdleEvent &idle) {
+                    askForRequired(*this, m_appColumns);
+                    idle.Skip();
+                });
+            },
+            wxID_OK);
     }
 
     columnimport::fitToScreen(*this, *sizer);

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+
+// Each function of the C header, used wrongly; and what a run without a dialog gives.
+
+#include "host/columnimport.h"
+#include "tests/ScratchFile.h"
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+using namespace std::string_literals;
+
+namespace {
+
+using Import = columnimport_import;
+
+class Door : public testing::Test {
+protected:
+    std::unique_ptr<Import, decltype(&columnimport_free)> owner{columnimport_new(),
+                                                                columnimport_free};
+    Import *import = owner.get();
+};
+
+/// Whether the call just made on `import` was told to be wrong.
+bool isWrong(Import *import, std::int32_t outcome) {
+    return (outcome == columnimport_wrong_use || outcome == columnimport_invalid) &&
+           *columnimport_message(import) != '\0';
+}
+bool isWrong(Import *import, const char *text) {
+    return text == nullptr && *columnimport_message(import) != '\0';
+}
+
+} // namespace
+
+TEST_F(Door, ToldWronglyGivesAnErrorAndASentence) {
+    columnimport_add_column(import, "gold");
+    const char *names[] = {"Au", nullptr};
+    const std::int64_t lengths[] = {2, -1};
+    EXPECT_EQ(columnimport_outcome(import), columnimport_invalid);
+    for (Import *i : {import, static_cast<Import *>(nullptr)}) {
+        for (const char *text :
+             {static_cast<const char *>(nullptr), "\xE9", "\xC0\xAF", "a\xE2\x82", "\xE0\x80\x80",
+              "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xF8\x88"}) {
+            EXPECT_TRUE(isWrong(i, columnimport_set_title(i, text)));
+            EXPECT_TRUE(isWrong(i, columnimport_set_file(i, text)));
+            EXPECT_TRUE(isWrong(i, columnimport_add_column(i, text)));
+            EXPECT_TRUE(isWrong(i, columnimport_add_alternative(i, 0, text)));
+        }
+        for (const std::int32_t column : {INT32_MIN, -1, 1, INT32_MAX}) {
+            EXPECT_TRUE(isWrong(i, columnimport_add_alternative(i, column, "RL")));
+            EXPECT_TRUE(isWrong(i, columnimport_set_required(i, column, 1)));
+            EXPECT_TRUE(isWrong(i, columnimport_set_saved_match(i, column, "x", 1)));
+            EXPECT_TRUE(isWrong(i, columnimport_match_position(i, column)));
+            EXPECT_TRUE(isWrong(i, columnimport_match_name(i, column, nullptr)));
+            EXPECT_TRUE(isWrong(i, columnimport_source_column(i, column, nullptr)));
+        }
+        EXPECT_TRUE(isWrong(i, columnimport_set_size(i, -1, 1)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_size(i, 1, 0)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_required(i, 0, 2)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_saved_match(i, 0, "x", -1)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_saved_match(i, 0, nullptr, 1)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_first_line_holds_titles(i, -1)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_table(i, nullptr, nullptr, 1)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_table(i, names, nullptr, -1)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_table(i, names, nullptr, 2)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_table(i, names, lengths, 2)));
+        EXPECT_TRUE(isWrong(i, columnimport_propose(i)));
+        EXPECT_TRUE(isWrong(i, columnimport_file_problem(i)));
+        EXPECT_TRUE(isWrong(i, columnimport_delimiter(i)));
+        EXPECT_TRUE(isWrong(i, columnimport_first_line_holds_titles(i)));
+        EXPECT_TRUE(isWrong(i, columnimport_source_column_count(i)));
+    }
+    EXPECT_EQ(columnimport_outcome(import), columnimport_wrong_use)
+        << "of propose without a source";
+    EXPECT_EQ(columnimport_column_count(import), 1) << "nothing was changed";
+    EXPECT_STREQ(columnimport_message(import), "");
+    EXPECT_EQ(columnimport_column_count(nullptr), columnimport_invalid);
+    EXPECT_EQ(columnimport_outcome(nullptr), columnimport_invalid);
+    EXPECT_EQ(columnimport_set_delimiter(nullptr, ';'), columnimport_wrong_use);
+    columnimport_version_numbers(nullptr, nullptr, nullptr);
+    columnimport_free(nullptr);
+}
+
+TEST_F(Door, ProposesForAFileWhatTheDialogWouldOpenWith) {
+    const ScratchFile file("\xEF\xBB\xBF\"HOLE;1\" ; RL;;Au\0g/t;RL\n"s);
+    for (const char *name : {"hole", "collar", "gold", "end"}) {
+        columnimport_add_column(import, name);
+    }
+    columnimport_add_alternative(import, 1, "rl");
+    columnimport_add_alternative(import, 2, "Au_gt");
+    columnimport_set_file(import, file.path().c_str());
+    columnimport_set_delimiter(import, ';');
+    const auto propose = [this] {
+        EXPECT_EQ(columnimport_propose(import), columnimport_ok) << columnimport_message(import);
+        std::vector<std::int32_t> positions;
+        for (std::int32_t column = 0; column < columnimport_column_count(import); ++column) {
+            positions.push_back(columnimport_match_position(import, column));
+        }
+        return positions;
+    };
+    using Positions = std::vector<std::int32_t>;
+    EXPECT_EQ(propose(), (Positions{0, 2, 4, -1}));
+    std::int64_t length = 0;
+    EXPECT_EQ(std::string(columnimport_match_name(import, 2, &length), 6), "Au\0g/t"s);
+    EXPECT_EQ(length, 6);
+    EXPECT_STREQ(columnimport_source_column(import, 0, nullptr), "HOLE") << "without a mark";
+    EXPECT_EQ(columnimport_source_column_count(import), 6);
+    EXPECT_EQ(columnimport_delimiter(import), ';');
+    EXPECT_EQ(columnimport_file_problem(import), nullptr);
+    EXPECT_STREQ(columnimport_message(import), "") << "of no fault";
+
+    columnimport_set_saved_match(import, 3, "Au\0g/t", 6);
+    columnimport_set_saved_match(import, 0, "gone", 4);
+    EXPECT_EQ(propose(), (Positions{-1, -1, -1, 4}));
+    columnimport_set_first_line_holds_titles(import, 0);
+    EXPECT_EQ(propose(), (Positions{0, 1, 2, 3}));
+    EXPECT_STREQ(columnimport_match_name(import, 3, nullptr), "Column4");
+
+    const char *names[] = {"collar", "hole"};
+    columnimport_set_table(import, names, nullptr, 2);
+    columnimport_set_saved_match(import, 3, nullptr, 0);
+    columnimport_set_saved_match(import, 0, nullptr, 0);
+    EXPECT_EQ(propose(), (Positions{1, 0, -1, -1}));
+    EXPECT_EQ(columnimport_first_line_holds_titles(import), 1);
+
+    columnimport_set_file(import, "/no such file");
+    EXPECT_EQ(propose(), (Positions(4, -1)));
+    EXPECT_NE(columnimport_file_problem(import), nullptr);
+}

@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+
+// What only the C header gives of a dialog: positions, required columns, a file without its mark.
+
+#include "person/DialogRun.h"
+#include "tests/ScratchFile.h"
+
+#include <memory>
+
+#include <columnimport.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+class CDoor : public testing::Test {
+protected:
+    CDoor() : file("\xEF\xBB\xBFHOLE,Au,Au,\n") {
+        columnimport_set_file(import.get(), file.path().c_str());
+        for (const char *name : {"hole", "gold"}) {
+            columnimport_add_column(import.get(), name);
+        }
+    }
+
+    std::int32_t show(const Steps &steps) {
+        std::int32_t outcome = columnimport_invalid;
+        runWithPerson(steps, [this, &outcome] {
+            outcome = columnimport_show(import.get(), nullptr);
+            return true;
+        });
+        return outcome;
+    }
+
+    ScratchFile file;
+    std::unique_ptr<columnimport_import, decltype(&columnimport_free)> import{columnimport_new(),
+                                                                              columnimport_free};
+};
+
+std::string said() {
+    return read([] {
+        const wxWindow &sentence = control(11);
+        return sentence.IsShown() ? sentence.GetLabel().utf8_string() : std::string();
+    });
+}
+
+} // namespace
+
+TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
+    EXPECT_EQ(show([this](Person &person) {
+                  EXPECT_EQ(read([this] { return columnimport_show(import.get(), nullptr); }),
+                            columnimport_already_open);
+                  EXPECT_EQ(read([this] { return columnimport_propose(import.get()); }),
+                            columnimport_wrong_use);
+                  person.drag(Person::fileRow(2), Person::matchRow(1));
+                  person.drag(Person::fileRow(3), Person::matchRow(0));
+                  pressCancel(person);
+              }),
+              columnimport_cancelled);
+    EXPECT_EQ(columnimport_match_position(import.get(), 0), 3) << "the one with an empty title";
+    EXPECT_EQ(columnimport_match_position(import.get(), 1), 2);
+    EXPECT_STREQ(columnimport_match_name(import.get(), 1, nullptr), "Au");
+    EXPECT_STREQ(columnimport_source_column(import.get(), 0, nullptr), "HOLE") << "without a mark";
+}
+
+TEST_F(CDoor, AsksOnceForColumnsThatTheHostRequires) {
+    columnimport_set_required(import.get(), 1, 1);
+    EXPECT_EQ(show([](Person &person) {
+                  EXPECT_EQ(said(), "");
+                  pressOk(person);
+                  poll("it is asked for", [] { return said().find("gold is needed") == 0; });
+                  person.drag(Person::fileRow(0), Person::matchRow(1));
+                  poll("it is told", [] { return said().find("HOLE stands at both") == 0; });
+                  person.drag(Person::fileRow(1), Person::matchRow(1));
+                  poll("all is well", [] { return said().empty(); });
+                  person.drag(Person::fileRow(0), Person::matchRow(1));
+                  pressOk(person);
+              }),
+              columnimport_ok);
+    EXPECT_EQ(columnimport_match_position(import.get(), 1), 0);
+}
