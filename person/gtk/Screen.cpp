@@ -91,7 +91,8 @@ void addTo(void *frame, GtkWidget *part) {
 
 // The environment variable for it would come too late: it is read as the program is loaded.
 void endOnComplaints() {
-    g_log_set_always_fatal(static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL));
+    g_log_set_always_fatal(
+        static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING));
 }
 
 std::unique_ptr<Hand> makeHand() {

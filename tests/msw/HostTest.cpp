@@ -15,18 +15,13 @@
 #include <windows.h>
 #include <wxImportCSVDialogPeer.h>
 
-#include <commctrl.h>
-
 namespace {
 
 using Names = std::vector<std::string>;
 
-// The standard buttons, and the controls with the numbers that the dialog gives them.
+// Controls, by the numbers that the dialog gives them.
 constexpr int okButton = 5100;
-constexpr int cancelButton = 5101;
-constexpr int matchList = 3;
 constexpr int filePreview = 5;
-constexpr int delimiterField = 7;
 
 HWND newHostWindow() {
     return CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40, 300, 200,
@@ -57,17 +52,6 @@ HWND controlOf(HWND dialog, int id) {
     return search.found;
 }
 
-/// What the match list shows in a row.
-std::wstring matchText(HWND dialog, int row) {
-    wchar_t text[100] = {};
-    LVITEMW item = {};
-    item.pszText = text;
-    item.cchTextMax = 100;
-    SendMessageW(controlOf(dialog, matchList), LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
-                 reinterpret_cast<LPARAM>(&item));
-    return text;
-}
-
 /// Whether something is drawn in the preview between these heights.
 bool hasInk(HWND dialog, int top, int bottom) {
     HWND preview = controlOf(dialog, filePreview);
@@ -84,55 +68,13 @@ bool hasInk(HWND dialog, int top, int bottom) {
     return found;
 }
 
-void click(HWND dialog, int control) {
-    RECT place = {};
-    GetWindowRect(controlOf(dialog, control), &place);
-    Xdotool().order("mousemove " + std::to_string((place.left + place.right) / 2) + " " +
-                    std::to_string((place.top + place.bottom) / 2) + " click 1");
-}
-
-void strike(const char *key) {
-    Xdotool().order(std::string("key ") + key);
-}
-
-void pressOk(HWND dialog) {
-    click(dialog, okButton);
-}
-void pressCancel(HWND dialog) {
-    click(dialog, cancelButton);
-}
-void pressEnter(HWND) {
-    strike("Return");
-}
-void pressEscape(HWND) {
-    strike("Escape");
-}
-void pressCloseBox(HWND dialog) {
-    PostMessageW(dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
-}
-
 using Steps = std::function<void(HWND dialog)>;
 
-/// Has a person take these steps in the dialog as soon as it takes keys, while `show` is open.
-bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
-    std::atomic<bool> isOver = false;
-    std::thread person([&] {
-        HWND dialog = nullptr;
-        poll("the dialog takes keys", [&] {
-            dialog = FindWindowW(nullptr, L"Import of a test");
-            return isOver || (dialog != nullptr && Xdotool().isActive("Import of a test"));
-        });
-        steps(dialog);
-        poll("the dialog is closed", [&] { return isOver.load(); });
-        // With it open the test would wait for ever.
-        if (!isOver) {
-            PostMessageW(dialog, WM_CLOSE, 0, 0);
-        }
-    });
-    const bool result = show();
-    isOver = true;
-    person.join();
-    return result;
+void pressOk(HWND dialog) {
+    RECT place = {};
+    GetWindowRect(controlOf(dialog, okButton), &place);
+    Xdotool().order("mousemove " + std::to_string((place.left + place.right) / 2) + " " +
+                    std::to_string((place.top + place.bottom) / 2) + " click 1");
 }
 
 class Host : public testing::Test {
@@ -140,25 +82,34 @@ protected:
     Host() : file("BHID,Azimut;Dip\r\n1,2;3\r\n"), path(file.path()), window(newHostWindow()) {}
     ~Host() override { DestroyWindow(window); }
 
+    /// Has a person take these steps in the dialog as soon as it takes keys.
     bool show(const Steps &steps) {
-        return runWithPerson(steps, [this] {
-            return peer.showWindow(window, "Import of a test", appColumns, path, &useSavedMatches,
-                                   &matches, &delimiter, &firstLineHeader, 900, 900);
+        std::atomic<bool> isOver = false;
+        std::thread person([&] {
+            HWND dialog = nullptr;
+            poll("the dialog takes keys", [&] {
+                dialog = FindWindowW(nullptr, L"Import of a test");
+                return isOver || (dialog != nullptr && Xdotool().isActive("Import of a test"));
+            });
+            steps(dialog);
+            poll("the dialog is closed", [&] { return isOver.load(); });
+            // With it open the test would wait for ever.
+            if (!isOver) {
+                PostMessageW(dialog, WM_CLOSE, 0, 0);
+            }
         });
-    }
-
-    bool showTable(const Names &table, const Steps &steps) {
-        return runWithPerson(steps, [&] {
-            return peer.showWindow(window, "Import of a test", appColumns, table, "table",
-                                   &useSavedMatches, &matches, 900, 900);
-        });
+        const bool result =
+            peer.showWindow(window, "Import of a test", {"holename", "dip"}, path, &useSavedMatches,
+                            &matches, &delimiter, &firstLineHeader, 900, 900);
+        isOver = true;
+        person.join();
+        return result;
     }
 
     wxImportCSVDialogPeer peer;
     ScratchFile file;
     std::string path;
     HWND window;
-    Names appColumns = {"holename", "dip"};
     bool useSavedMatches = true;
     Names matches;
     char delimiter = ';';
@@ -166,51 +117,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(Host, GetsTheOutputsHoweverARunEnds) {
-    const struct {
-        Steps leave;
-        bool result;
-    } ways[] = {{pressOk, true},
-                {pressEnter, true},
-                {pressCancel, false},
-                {pressEscape, false},
-                {pressCloseBox, false}};
-    for (const auto &way : ways) {
-        matches = {""};
-        EXPECT_EQ(show(way.leave), way.result);
-        EXPECT_EQ(matches, (Names{"", "Dip"}));
-        matches = {""};
-        EXPECT_EQ(showTable({"BHID", "Dip"}, way.leave), way.result);
-        EXPECT_EQ(matches, (Names{"BHID", "Dip"}));
-        EXPECT_TRUE(IsWindowEnabled(window));
-    }
-}
-
-TEST_F(Host, GoesFromRunToRunWithItsSavedMatchesAndWithAnyPeer) {
-    delimiter = ',';
-    const Names saved = {"Azimut;Dip", "BHID"};
-    matches = saved;
-    EXPECT_TRUE(show([](HWND dialog) {
-        EXPECT_EQ(matchText(dialog, 0), L"Azimut;Dip");
-        pressOk(dialog);
-    }));
-    EXPECT_EQ(matches, saved);
-    const wxImportCSVDialogPeer other;
-    peer = other;
-    EXPECT_TRUE(show(pressOk));
-    EXPECT_EQ(matches, saved);
-    EXPECT_TRUE(show([](HWND dialog) {
-        click(dialog, delimiterField);
-        strike("Home");
-        strike("Delete");
-        strike("semicolon");
-        poll("the line is cut at the semicolon",
-             [dialog] { return matchText(dialog, 1) == L"Not used"; });
-        pressOk(dialog);
-    }));
-    EXPECT_EQ(delimiter, ';');
-}
 
 TEST_F(Host, ReadsAFileOfAnyNameThatAnotherProgramIsWriting) {
     const std::filesystem::path any =
@@ -224,19 +130,6 @@ TEST_F(Host, ReadsAFileOfAnyNameThatAnotherProgramIsWriting) {
     EXPECT_EQ(matches, (Names{"BHID", "Dip"}));
     CloseHandle(writer);
     std::filesystem::remove(any);
-}
-
-TEST_F(Host, ReadsAndGetsBackNamesOfAnyBytes) {
-    const Names names = {"Plong\xC3\xA9\x65", "Plong\xE9\x65",    "\x81\x8D\xFF",    "\xCE\xA9",
-                         "\xE4\xBA\x95",      "\xC3\x83\xC2\xA9", "\xF0\x9F\x98\x80"};
-    const wchar_t *const shown[] = {L"Plong\u00E9e"};
-    appColumns = Names(names.size(), "dip");
-    matches = names;
-    EXPECT_TRUE(showTable(names, [&shown](HWND dialog) {
-        EXPECT_EQ(matchText(dialog, 0), shown[0]);
-        pressOk(dialog);
-    }));
-    EXPECT_EQ(matches, names);
 }
 
 TEST_F(Host, ShowsEachLineOfAFileAsOne) {

@@ -187,6 +187,7 @@ TEST_F(Layout, TheControlsKeepTheirSizesInAFrameOfAnySize) {
         run.height = size;
         EXPECT_FALSE(run.show([&usual](Person &person) {
             EXPECT_EQ(read(sizes), usual);
+            EXPECT_LE(read([] { return openDialog().GetSize().x; }), 8000);
             person.strike(WXK_ESCAPE);
         })) << size;
     }

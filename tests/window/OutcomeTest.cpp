@@ -80,13 +80,15 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
     for (const wxSize size : {wxSize(900, 900), wxSize(1000, 950), wxSize(500, 400)}) {
         run.width = size.x;
         run.height = size.y;
-        run.show([&size](Person &person) {
+        const auto expectFrame = [&size](Person &person) {
             waitUntil("the frame has its size", [&] { return frameOfDialog().GetSize() == size; });
             if (placesWindows()) {
                 EXPECT_EQ(read(frameOfDialog).GetPosition(), wxPoint(100, 100));
             }
             person.strike(WXK_ESCAPE);
-        });
+        };
+        run.show(expectFrame);
+        run.showTable({"BHID"}, expectFrame);
     }
 }
 

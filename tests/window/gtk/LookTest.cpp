@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-// How the dialog looks, with whatever theme and size of fonts the test runs: the places and sizes
-// of its controls, and whether what carries a meaning can be told apart.
+// How the dialog looks, with whatever theme and size of fonts the test runs: whether what carries a
+// meaning can be told apart, and what is told of what is cut.
 
+#include "dragdrop/gtk/markColours.h"
 #include "person/DialogRun.h"
-#include "person/openDialog.h"
 #include "tests/ScratchFile.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdlib>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -18,6 +15,8 @@
 #include <wx/settings.h>
 #include <wx/statbmp.h>
 #include <wxImportCSVDialog.h>
+
+using columnimport::contrast;
 
 namespace {
 
@@ -39,21 +38,6 @@ const wxStaticBitmap &arrow() {
         }
     }
     throw GivenUp("there is no arrow");
-}
-
-double luminance(const wxColour &colour) {
-    const auto linear = [](unsigned char part) {
-        const double share = part / 255.0;
-        return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(colour.Red()) + 0.7152 * linear(colour.Green()) +
-           0.0722 * linear(colour.Blue());
-}
-
-double contrast(const wxColour &one, const wxColour &other) {
-    const double a = luminance(one) + 0.05;
-    const double b = luminance(other) + 0.05;
-    return std::max(a, b) / std::min(a, b);
 }
 
 /// The text beside the pointer: that of the one window that is neither the dialog nor a tooltip.
@@ -90,6 +74,11 @@ TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
     });
 }
 
+TEST_F(Look, ContrastIsThatOfGuidelinesForAccessibleContent) {
+    EXPECT_NEAR(contrast(*wxBLACK, *wxWHITE), 21, 0.005);
+    EXPECT_NEAR(contrast(wxColour(0x1A, 0x73, 0xE8), *wxWHITE), 4.51, 0.01);
+}
+
 TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
     run.show([](Person &person) {
         person.click(Person::matchRow(1));
@@ -116,7 +105,7 @@ TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
 
 TEST_F(Look, WhatCannotBeSeenIsTold) {
     const std::string cut(60, 'W');
-    const ScratchFile wide("HOLE," + cut + "\n");
+    const ScratchFile wide("HOLE," + cut + "\n" + std::string(1000, '-') + "\n");
     run.fileName = wide.path();
     run.show([&cut](Person &person) {
         const auto tipIs = [](const wxWindow &list, const std::string &tip) {
@@ -129,6 +118,10 @@ TEST_F(Look, WhatCannotBeSeenIsTold) {
         wxListCtrl &matches = matchList();
         person.hoverAt(Person::matchRow(2), "the whole name is told", tipIs(matches, cut));
         person.hoverAt(Person::matchRow(0), "nothing is told", tipIs(matches, ""));
+        onUserInterface([] {
+            GtkWidget *preview = control(wxImportCSVDialog::TEXT_FILE_PREVIEW).GetHandle();
+            EXPECT_TRUE(pango_layout_is_ellipsized(gtk_label_get_layout(GTK_LABEL(preview))));
+        });
         person.strike(WXK_ESCAPE);
     });
 }
