@@ -59,8 +59,9 @@ int main(int argc, char **argv) {
     thread.run(
         [&](soci::session &holes) {
             const Table &assays = *findTable("assay");
-            const FileMatch match{
-                {"BHID", "FROM", "TO", "Au", "Cu", "Zn", "DUP", "BLANK", "STD"}, ',', true, {}};
+            Match match;
+            match.delimiter = ',';
+            match.positions = {0, 1, 2, 3, 4, 5, 6, 7, 8};
             outcome = importFile({holes, assays, file + ".refused.csv", Replace::no, {}}, file,
                                  match, progress);
         },

@@ -16,6 +16,7 @@
 #include <glibmm/main.h>
 #include <glibmm/miscutils.h>
 #include <gtkmm/application.h>
+#include <wxImportCSVDialogPeer.h>
 
 using namespace drillhole;
 
@@ -97,11 +98,10 @@ int run(int argc, char **argv) {
     const Options options = readOptions(argc, argv);
     // In front of GTK's own start: behind it, GTK warns that the toolkit comes too late to keep it
     // from setting the locale.
-    wxImportCSVDialogPeer peer;
+    const wxImportCSVDialogPeer peer;
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
     Settings settings(inFolder(Glib::get_user_config_dir(), "settings.ini"));
-    MainWindow window(peer, settings, options.connection,
-                      inFolder(Glib::get_user_data_dir(), "reports"));
+    MainWindow window(settings, options.connection, inFolder(Glib::get_user_data_dir(), "reports"));
     const Errands errands(options, window);
     application->run(window);
     return errands.areDone() ? 0 : 1;

@@ -19,6 +19,18 @@ using namespace drillhole;
 
 namespace {
 
+/// A match of a table's columns, in their order, with the source's at these positions; -1 for none.
+Match matchOf(const std::vector<int> &positions, char delimiter = ',', bool holdsTitles = true) {
+    Match match;
+    for (const int position : positions) {
+        match.positions.push_back(position < 0 ? std::nullopt
+                                               : std::optional<std::size_t>(position));
+    }
+    match.delimiter = delimiter;
+    match.firstLineHoldsTitles = holdsTitles;
+    return match;
+}
+
 class ImportTest : public testing::Test {
 protected:
     void SetUp() override {
@@ -26,7 +38,7 @@ protected:
         m_folder = mkdtemp(pattern.data());
         m_holes = openHoles(connectionFor(path("holes.sqlite")));
         write("collars.csv", "hole,x,y\nLR-1,1,2\nLR-2,3,4\n");
-        importFrom("collar", "collars.csv", {{"hole", "x", "y", "", ""}, ',', true, {}});
+        importFrom("collar", "collars.csv", m_collarMatch);
     }
     void TearDown() override { std::filesystem::remove_all(m_folder); }
 
@@ -45,7 +57,7 @@ protected:
         return {*m_holes, *findTable(table), path("refused.csv"), replace, {}};
     }
 
-    ImportOutcome importFrom(const char *table, const std::string &file, const FileMatch &match,
+    ImportOutcome importFrom(const char *table, const std::string &file, const Match &match,
                              Replace replace = Replace::no) {
         ImportProgress progress;
         return importFile(into(table, replace), path(file), match, progress);
@@ -61,15 +73,17 @@ protected:
         return std::string(answer.data(), length == 0 ? 0 : length - 1);
     }
 
-    const FileMatch m_surveyMatch{{"Hole", "At", "Az", "Dip"}, ',', true, {}};
+    const Match m_collarMatch = matchOf({0, 1, 2, -1, -1});
+    const Match m_surveyMatch = matchOf({0, 1, 2, 3});
     std::string m_folder;
     Session m_holes;
 };
 
 TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
+    const Match dipFirst = matchOf({1, 2, 3, 0});
     write("surveys.csv",
           "Dip,Hole,At,Az\n-60,LR-1,0,90\n-60,LR-3,0,90\n-59,LR-2,10,n\n-58,LR-2,10,91\n");
-    const ImportOutcome outcome = importFrom("survey", "surveys.csv", m_surveyMatch);
+    const ImportOutcome outcome = importFrom("survey", "surveys.csv", dipFirst);
     EXPECT_EQ(outcome.taken, 2U);
     EXPECT_EQ(outcome.refused, 2U);
     EXPECT_EQ(ask("select * from survey"), "LR-1|0.0|90.0|-60.0\nLR-2|10.0|91.0|-58.0");
@@ -78,22 +92,38 @@ TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
               "3,\"no collar is called \"\"LR-3\"\"\",\"-60\",\"LR-3\",\"0\",\"90\"\n"
               "4,\"azimuth \"\"n\"\" is no number\",\"-59\",\"LR-2\",\"10\",\"n\"\n");
     write("surveys.csv", "Dip,Hole,At,Az\n-50,LR-2,0,90\n");
-    importFrom("survey", "surveys.csv", m_surveyMatch, Replace::anyway);
+    importFrom("survey", "surveys.csv", dipFirst, Replace::anyway);
     EXPECT_EQ(ask("select * from survey"), "LR-2|0.0|90.0|-50.0") << "in place of the others";
     EXPECT_FALSE(std::filesystem::exists(path("refused.csv"))) << "nothing was refused this time";
 }
 
 TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
-    write("letters", "LR-1S0S90S-60\nLR-2S5S91S-61");
-    importFrom("survey", "letters", {{"Column1", "Column2", "Column3", "Column4"}, 'S', false, {}});
-    write("blanks", "Hole   At  Az Dip\nLR-1    7  92 -62\nLR-1    8  93\n");
-    importFrom("survey", "blanks", {m_surveyMatch.matches, ' ', true, {}});
-    write("tabs", "\xEF\xBB\xBFHole\tAt\t\tAz\tDip\r\nLR-2\t9\t\t94\t-63\r\n");
-    importFrom("survey", "tabs", {{"\xEF\xBB\xBFHole", "At", "Az", "Dip"}, '\t', true, {}});
-    write("trailing", "Hole,At,Az,Dip\nLR-2,11,95,-64,\nLR-2,1,5,95,-64,\n,,,,\n");
-    importFrom("survey", "trailing", m_surveyMatch);
-    EXPECT_EQ(ask("select group_concat(depth || ' ' || dip, ', ') from survey"),
-              "0.0 -60.0, 5.0 -61.0, 7.0 -62.0, 9.0 -63.0, 11.0 -64.0");
+    Match quotedTitles = matchOf({2, 4, 5, 6}); // among those that the dialog cut the titles into
+    quotedTitles.columns = {"Remark", "and more", "Hole", "", "At", "Az", "Dip"};
+    const struct {
+        const char *text;
+        Match match;
+        const char *taken;
+    } cases[] = {
+        {"LR-1S0S90S-60\nLR-2S5S91S-61", matchOf({0, 1, 2, 3}, 'S', false), "0.0 -60.0, 5.0 -61.0"},
+        {"Hole   At  Az Dip\nLR-1    7  92 -62\nLR-1    8  93\n", matchOf({0, 1, 2, 3}, ' '),
+         "7.0 -62.0"},
+        {"Hole\tAt\t\tAz\tDip\r\nLR-2\t9\t\t94\t-63\r\n", matchOf({0, 1, 2, 3}, '\t'), "9.0 -63.0"},
+        {"Hole,At,Az,Dip\nLR-2,11,95,-64,\nLR-2,1,5,95,-64,\n,,,,\n", m_surveyMatch, "11.0 -64.0"},
+        {"Hole,At,Az,Dip\nLR-2,11,95,-64,,7\nLR-2,12,95,-64\n", m_surveyMatch, "12.0 -64.0"},
+        {"\"Remark, and more\",Hole,,At,Az,Dip\nx,LR-2,,13,96,-65\n", quotedTitles, "13.0 -65.0"},
+    };
+    for (const auto &each : cases) {
+        *m_holes << "delete from survey";
+        write("surveys", each.text);
+        importFrom("survey", "surveys", each.match);
+        EXPECT_EQ(ask("select group_concat(depth || ' ' || dip, ', ') from survey"), each.taken);
+    }
+    for (const char *const text :
+         {"\nHole,At,Az,Dip\nLR-1,1,2,3\n", "\"Hole\" x,At,Az,Dip\n", "a\n"}) {
+        write("surveys", text);
+        EXPECT_THROW(importFrom("survey", "surveys", quotedTitles), Fault) << text;
+    }
 }
 
 TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
@@ -113,12 +143,12 @@ TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
     ImportProgress cancelled;
     cancelled.isCancelled = true;
     EXPECT_TRUE(importFile(into("survey", Replace::anyway), path("collars.csv"),
-                           {{"hole", "x", "y", "x"}, ',', true, {}}, cancelled)
+                           matchOf({0, 1, 2, 1}), cancelled)
                     .isCancelled);
     EXPECT_EQ(cancelled.rows, 0U) << "it ends at once";
     EXPECT_THROW(importFrom("collar", "nothing.csv", m_surveyMatch), Fault);
     EXPECT_THROW(importFrom("collar", ".", m_surveyMatch), Fault);
-    FileMatch match = m_surveyMatch;
+    Match match = m_surveyMatch;
     match.stamp = stampOf(path("collars.csv"));
     EXPECT_THROW(importFrom("survey", "surveys.csv", match), Fault) << "not what was matched";
     EXPECT_EQ(ask("select * from survey"), "LR-1|5.0|5.0|5.0");
@@ -129,7 +159,6 @@ TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
 
 TEST_F(ImportTest, ReplacesNothingUnaskedThatWouldBeLost) {
     *m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
-    const FileMatch match = {{"hole", "x", "y", "", ""}, ',', true, {}};
     const struct {
         const char *text;
         Replace replace;
@@ -148,14 +177,15 @@ TEST_F(ImportTest, ReplacesNothingUnaskedThatWouldBeLost) {
     };
     for (const auto &each : cases) {
         write("new.csv", each.text);
-        EXPECT_EQ(importFrom("collar", "new.csv", match, each.replace).question, each.question);
+        EXPECT_EQ(importFrom("collar", "new.csv", m_collarMatch, each.replace).question,
+                  each.question);
         EXPECT_EQ(ask("select group_concat(holename || ' ' || easting, ', ') from collar"),
                   each.collars);
     }
 }
 
 TEST_F(ImportTest, RefusesWhatIsThereAlready) {
-    const FileMatch match = {{"Hole", "From", "To", "Au", "", "", "", "", ""}, ',', true, {}};
+    const Match match = matchOf({0, 1, 2, 3, -1, -1, -1, -1, -1});
     std::string text = "Hole,From,To,Au,Cu\n";
     for (int i = 0; i < 1001; ++i) {
         const std::string depth = std::to_string(i);
@@ -182,8 +212,8 @@ TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {
     soci::session other("sqlite3", "db=" + path("holes.sqlite"));
     other << "begin exclusive";
     const auto start = std::chrono::steady_clock::now();
-    const FileMatch match{{"hole", "x", "y", "", ""}, ',', true, {}};
-    EXPECT_THROW(inPlainWords("", [&] { importFrom("collar", "collars.csv", match); }), Fault);
+    EXPECT_THROW(inPlainWords("", [&] { importFrom("collar", "collars.csv", m_collarMatch); }),
+                 Fault);
     EXPECT_GT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4)) << "it waits";
 }
 
@@ -199,18 +229,17 @@ TEST_F(ImportTest, ReadsATableAsItStands) {
     EXPECT_EQ(columns, (std::vector<std::string>{"Hole:Id", "x", "y", "note"}));
 
     ImportProgress progress;
-    const std::vector<std::string> matches = {"Hole:Id", "x", "y", "note", ""};
-    const ImportOutcome outcome =
-        importTable(into("collar"), lab, "the holes", columns, matches, progress);
+    Match match = matchOf({0, 1, 2, 3, -1}, '\0');
+    match.columns = columns;
+    const ImportOutcome outcome = importTable(into("collar"), lab, "the holes", match, progress);
     EXPECT_EQ(ask("select * from collar where holename = 'LR-7'"), "LR-7|634210.84|12.5||");
     ASSERT_EQ(outcome.refused, 2U);
     EXPECT_EQ(outcome.firstRefused[0].lines + outcome.firstRefused[0].text, "2easting is empty");
 
     source << "alter table \"the holes\" rename column x to X";
-    EXPECT_THROW(importTable(into("collar"), lab, "the holes", columns, matches, progress), Fault);
-    EXPECT_THROW(
-        importTable(into("collar"), connectionFor(path("new.sqlite")), "t", {}, {}, progress),
-        Fault);
+    EXPECT_THROW(importTable(into("collar"), lab, "the holes", match, progress), Fault);
+    EXPECT_THROW(importTable(into("collar"), connectionFor(path("new.sqlite")), "t", {}, progress),
+                 Fault);
     EXPECT_FALSE(std::filesystem::exists(path("new.sqlite"))) << "a source is never made";
 }
 

@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "examples/drillhole/rows/RowCheck.h"
 #include "examples/drillhole/rows/RowSource.h"
-#include "examples/drillhole/rows/findFields.h"
 
 #include <atomic>
 #include <future>

@@ -5,8 +5,6 @@
 #include "examples/drillhole/database/TableRows.h"
 #include "examples/drillhole/database/storedRows.h"
 #include "examples/drillhole/rows/Fault.h"
-#include "examples/drillhole/rows/findFields.h"
-#include "examples/drillhole/rows/firstLine.h"
 #include "examples/drillhole/rows/text.h"
 
 #include <algorithm>
@@ -79,6 +77,43 @@ std::vector<Remark> columnsLeftOut(const Table &table, const RowLayout &layout) 
     return remarks;
 }
 
+/// Where the rows have the columns that were matched. The dialog cuts the first line without regard
+/// to quotes, so a quoted title with delimiters in it is several columns there, and one field here.
+/// Fields of nothing between tabs or blanks are none there.
+FieldPositions fieldsOf(const Match &match, const Row &first) {
+    if (first.refusal != nullptr || first.firstLine > 1) {
+        throw Fault("The first line " +
+                    (first.refusal != nullptr ? std::string("can't be cut: ") + first.refusal
+                                              : std::string("of the file is blank")) +
+                    ". Correct it and import the file again.");
+    }
+    const bool cutsRuns = match.delimiter == ' ' || match.delimiter == '\t';
+    std::vector<std::size_t> fields;
+    for (std::size_t i = 0; i < first.fields.size(); ++i) {
+        const std::string_view field = first.fields[i];
+        if (cutsRuns && field.data() == nullptr) {
+            continue;
+        }
+        fields.push_back(i);
+        for (std::size_t at = 0; at < field.size(); ++at) {
+            const bool isInRun = cutsRuns && at > 0 && field[at - 1] == match.delimiter;
+            fields.insert(fields.end(), field[at] == match.delimiter && !isInRun ? 1 : 0, i);
+        }
+    }
+    if (fields.size() < match.columns.size()) {
+        throw Fault("The rows have " + countOf(fields.size(), "column") + ", the dialog showed " +
+                    std::to_string(match.columns.size()) +
+                    ". Correct the quotes in the first line, or choose another delimiter.");
+    }
+    FieldPositions positions = match.positions;
+    for (std::optional<std::size_t> &position : positions) {
+        if (position) {
+            position = fields.at(*position);
+        }
+    }
+    return positions;
+}
+
 } // namespace
 
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
@@ -137,20 +172,14 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
 }
 
 ImportOutcome importFile(const Destination &destination, const std::string &path,
-                         const FileMatch &match, ImportProgress &progress) {
+                         const Match &match, ImportProgress &progress) {
     CsvFile file(path, match.delimiter);
     if (match.stamp && *match.stamp != file.stamp()) {
-        throw Fault("The file " + path +
-                    " was changed meanwhile. Import it again to match its "
-                    "present columns.");
+        throw Fault("The file " + path + " was changed meanwhile. Import it again.");
     }
     Row first;
     file.next(first);
-    RowLayout layout;
-    layout.positions = findFields(match.matches, namesShown(firstLineOf(path), match.delimiter),
-                                  first, match.delimiter, match.firstLineHoldsTitles);
-    layout.fieldCount = first.fields.size();
-    layout.delimiter = match.delimiter;
+    RowLayout layout{fieldsOf(match, first), first.fields.size(), match.delimiter, {}};
     for (std::size_t i = 0; i < first.fields.size(); ++i) {
         layout.titles.push_back(match.firstLineHoldsTitles ? asUtf8(first.fields[i])
                                                            : "Column" + std::to_string(i + 1));
@@ -162,11 +191,10 @@ ImportOutcome importFile(const Destination &destination, const std::string &path
 }
 
 ImportOutcome importTable(const Destination &destination, const std::string &connection,
-                          const std::string &table, const std::vector<std::string> &columns,
-                          const std::vector<std::string> &matches, ImportProgress &progress) {
-    const FieldPositions positions = findColumns(matches, columns);
-    TableRows rows(connection, table, columns, positions, progress.isCancelled);
-    return importRows(destination, rows, {positions, columns.size(), '\0', columns}, progress);
+                          const std::string &table, const Match &match, ImportProgress &progress) {
+    TableRows rows(connection, table, match.columns, match.positions, progress.isCancelled);
+    return importRows(destination, rows,
+                      {match.positions, match.columns.size(), '\0', match.columns}, progress);
 }
 
 } // namespace drillhole

@@ -55,23 +55,22 @@ struct Destination {
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
                          ImportProgress &progress);
 
-/// How the dialog was left with OK over a file.
-struct FileMatch {
-    std::vector<std::string> matches;
-    char delimiter = ',';
+/// How the dialog was left with OK.
+struct Match {
+    FieldPositions positions; ///< for each column of the table, among those of the source
+    char delimiter = '\0';    ///< of a file
     bool firstLineHoldsTitles = true;
-    std::optional<FileStamp> stamp; ///< of the file when the dialog read it
+    std::vector<std::string> columns; ///< of the source, as the dialog cut them
+    std::vector<std::string> names;   ///< for each column of the table, empty for none
+    std::optional<FileStamp> stamp;   ///< of the file when the dialog read it
 };
 
 /// Imports a file. As `importRows`.
 ImportOutcome importFile(const Destination &destination, const std::string &path,
-                         const FileMatch &match, ImportProgress &progress);
+                         const Match &match, ImportProgress &progress);
 
 /// Imports a table of another database. As `importRows`.
-///
-/// @param columns  the columns that the dialog showed
 ImportOutcome importTable(const Destination &destination, const std::string &connection,
-                          const std::string &table, const std::vector<std::string> &columns,
-                          const std::vector<std::string> &matches, ImportProgress &progress);
+                          const std::string &table, const Match &match, ImportProgress &progress);
 
 } // namespace drillhole

@@ -22,8 +22,9 @@ FileStamp stampOf(const std::string &path);
 /// value, blank or of delimiters only, are no rows.
 ///
 /// A row in which a quoted field does not end at a delimiter is refused, and the next one begins in
-/// the next line; so is one of more than 100,000 fields or 4 MiB. A blank as the delimiter is one
-/// separator with those beside it. A double quote as the delimiter leaves nothing to quote with.
+/// the next line; so is one of more than 100,000 fields or of many megabytes. A blank as the
+/// delimiter is one separator with those beside it. A double quote as the delimiter leaves nothing
+/// to quote with.
 class CsvFile : public RowSource {
 public:
     /// Opens the file; the path is in the file system's encoding. Throws a Fault if it can't be

@@ -14,7 +14,8 @@ struct Column {
     std::string name;    ///< as the dialog shows it
     std::string sqlName; ///< as the database calls it
     Kind kind;
-    bool isRequired; ///< a row without it says nothing
+    bool isRequired;                        ///< a row without it says nothing
+    std::vector<const char *> alternatives; ///< what else it is called in files
     /// A number outside of these is worth a warning.
     double least = -std::numeric_limits<double>::infinity();
     double greatest = std::numeric_limits<double>::infinity();

@@ -78,13 +78,13 @@ std::string summaryOf(const ImportStory &story) {
 void print(std::ostream &out, const ImportStory &story) {
     out << "import: " << story.source << " into " << story.table->name << '\n'
         << "result: " << resultOf(story) << '\n';
-    if (story.file) {
-        out << "delimiter: " << delimiterName(story.file->delimiter) << '\n'
-            << "first line holds titles: " << (story.file->firstLineHoldsTitles ? "yes" : "no")
+    if (story.match.delimiter != '\0') {
+        out << "delimiter: " << delimiterName(story.match.delimiter) << '\n'
+            << "first line holds titles: " << (story.match.firstLineHoldsTitles ? "yes" : "no")
             << '\n';
     }
-    for (std::size_t i = 0; i < story.matches.size(); ++i) {
-        out << story.table->columns[i].name << '\t' << story.matches[i] << '\n';
+    for (std::size_t i = 0; i < story.match.names.size(); ++i) {
+        out << story.table->columns[i].name << '\t' << story.match.names[i] << '\n';
     }
     if (!story.fault.empty()) {
         out << story.fault << '\n';

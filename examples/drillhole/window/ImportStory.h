@@ -11,10 +11,9 @@ namespace drillhole {
 /// One import from the choice of its source to its end.
 struct ImportStory {
     const Table *table = nullptr;
-    std::string source;               ///< the file's name, or the table's
-    bool isConfirmed = false;         ///< with OK in the dialog
-    std::optional<FileMatch> file;    ///< of a file, how the dialog was left
-    std::vector<std::string> matches; ///< a name for each column of the table, or an empty string
+    std::string source;       ///< the file's name, or the table's
+    bool isConfirmed = false; ///< with OK in the dialog
+    Match match;
     ImportOutcome outcome;
     std::string fault; ///< why nothing was imported
 

@@ -6,6 +6,7 @@
 #include "examples/drillhole/database/sourceTables.h"
 #include "examples/drillhole/rows/Fault.h"
 #include "examples/drillhole/rows/text.h"
+#include "examples/drillhole/window/MatchDialog.h"
 #include "examples/drillhole/window/SourceDialog.h"
 
 #include <utility>
@@ -27,11 +28,11 @@ constexpr unsigned int progressInterval = 50; // milliseconds
 
 } // namespace
 
-MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
-                       const std::string &connection, const std::string &reportFolder)
-    : m_settings(settings), m_dialog(peer, settings), m_reportFolder(reportFolder),
-      m_table(&holeTables().front()), m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
-      m_replace("_Replace the rows that are there", true),
+MainWindow::MainWindow(Settings &settings, const std::string &connection,
+                       const std::string &reportFolder)
+    : m_settings(settings), m_reportFolder(reportFolder), m_table(&holeTables().front()),
+      m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
+      m_replace("_Replace the rows that are there", true), m_choices(settings),
       m_grid([this](auto work, auto done) { ask(work, done); }),
       m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing),
       m_thread(std::make_unique<DatabaseThread>(connection, openHoles)) {
@@ -40,6 +41,7 @@ MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
     all->property_margin() = 12;
     all->pack_start(createToolbar(), Gtk::PACK_SHRINK);
+    all->pack_start(m_choices, Gtk::PACK_SHRINK);
     all->pack_start(createFaultBar(), Gtk::PACK_SHRINK);
     auto *body = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_VERTICAL);
     body->pack1(createBody(), true, false);
@@ -47,6 +49,7 @@ MainWindow::MainWindow(wxImportCSVDialogPeer &peer, Settings &settings,
     all->pack_start(*body, Gtk::PACK_EXPAND_WIDGET);
     all->pack_start(createProgressLine(), Gtk::PACK_SHRINK);
     add(*all);
+    m_choices.show(*m_table);
     show_all_children();
     refresh(nullptr, false);
 }
@@ -67,24 +70,26 @@ void MainWindow::importFile(const std::string &path) {
     ImportStory story;
     story.table = m_table;
     story.source = Glib::filename_display_basename(path);
+    if (askFor(story, [&] { return matchFile(*this, m_settings, *m_table, path); })) {
+        start(story, [path, match = story.match](const Destination &destination,
+                                                 ImportProgress &progress) {
+            return drillhole::importFile(destination, path, match, progress);
+        });
+    }
+}
+
+bool MainWindow::askFor(ImportStory &story, const std::function<std::optional<Match>()> &ask) {
     try {
-        story.file = m_dialog.matchFile(*this, *m_table, path);
+        const std::optional<Match> match = story.fault.empty() ? ask() : std::nullopt;
+        story.isConfirmed = match.has_value();
+        story.match = match.value_or(Match());
     } catch (const Fault &fault) {
         story.fault = fault.what();
     }
-    story.isConfirmed = story.file.has_value();
     if (!story.isConfirmed) {
         end(story);
-        return;
     }
-    const FileMatch match = *story.file;
-    story.matches = match.matches;
-    start(
-        story,
-        [path, match](const Destination &destination, ImportProgress &progress) {
-            return drillhole::importFile(destination, path, match, progress);
-        },
-        chosenReplace());
+    return story.isConfirmed;
 }
 
 void MainWindow::importTable(const std::string &connection, const std::string &sourceTable) {
@@ -104,33 +109,18 @@ void MainWindow::importTable(const std::string &connection, const std::string &s
         },
         [this, story, connection, columns](const std::string &fault) mutable {
             story.fault = fault;
-            matchTable(story, connection, *columns);
+            if (askFor(story, [&] {
+                    return matchTable(*this, m_settings, *story.table, story.source, *columns);
+                })) {
+                start(story, [connection, table = story.source, match = story.match](
+                                 const Destination &destination, ImportProgress &progress) {
+                    return drillhole::importTable(destination, connection, table, match, progress);
+                });
+            }
         });
 }
 
-void MainWindow::matchTable(ImportStory story, const std::string &connection,
-                            const std::vector<std::string> &columns) {
-    if (story.fault.empty()) {
-        if (auto matches = m_dialog.matchTable(*this, *story.table, story.source, columns)) {
-            story.isConfirmed = true;
-            story.matches = std::move(*matches);
-        }
-    }
-    if (!story.isConfirmed) {
-        end(story);
-        return;
-    }
-    start(
-        story,
-        [connection, columns, table = story.source,
-         matches = story.matches](const Destination &destination, ImportProgress &progress) {
-            return drillhole::importTable(destination, connection, table, columns, matches,
-                                          progress);
-        },
-        chosenReplace());
-}
-
-void MainWindow::start(ImportStory story, Import import, Replace replace) {
+void MainWindow::start(ImportStory story, Import import, std::optional<Replace> decided) {
     const auto progress = std::make_shared<ImportProgress>();
     const auto outcome = std::make_shared<ImportOutcome>();
     m_progress = progress;
@@ -140,9 +130,12 @@ void MainWindow::start(ImportStory story, Import import, Replace replace) {
     m_progressLine.show();
     const std::string report =
         Glib::build_filename(m_reportFolder, "refused_" + story.table->name + ".csv");
+    const Replace replace =
+        decided.value_or(m_replace.get_active() ? Replace::ifNothingIsLost : Replace::no);
+    const ValueChoices choices = m_settings.choices(*story.table);
     m_thread->run(
         [=, table = story.table](soci::session &holes) {
-            *outcome = import({holes, *table, report, replace, {}}, *progress);
+            *outcome = import({holes, *table, report, replace, choices}, *progress);
         },
         [this, story, outcome, import](const std::string &fault) mutable {
             story.outcome = *outcome;
@@ -153,10 +146,6 @@ void MainWindow::start(ImportStory story, Import import, Replace replace) {
                 end(story);
             }
         });
-}
-
-Replace MainWindow::chosenReplace() const {
-    return m_replace.get_active() ? Replace::ifNothingIsLost : Replace::no;
 }
 
 bool MainWindow::agreesTo(const std::string &question) {
@@ -291,6 +280,7 @@ Gtk::Widget &MainWindow::createToolbar() {
         button->signal_toggled().connect([this, button, chosen = &table] {
             if (button->get_active()) {
                 m_table = chosen;
+                m_choices.show(*m_table);
                 showTable(false);
             }
         });

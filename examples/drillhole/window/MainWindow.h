@@ -2,9 +2,9 @@
 
 #pragma once
 
+#include "examples/drillhole/window/ChoicesBar.h"
 #include "examples/drillhole/window/DatabaseThread.h"
 #include "examples/drillhole/window/ImportStory.h"
-#include "examples/drillhole/window/MatchDialog.h"
 #include "examples/drillhole/window/PlanView.h"
 #include "examples/drillhole/window/ReportPane.h"
 #include "examples/drillhole/window/RowGrid.h"
@@ -13,6 +13,7 @@
 #include <gtkmm/infobar.h>
 #include <gtkmm/progressbar.h>
 #include <gtkmm/radiobutton.h>
+#include <gtkmm/window.h>
 
 namespace drillhole {
 
@@ -22,8 +23,7 @@ class MainWindow : public Gtk::Window {
 public:
     /// @param connection   the database of the drill holes
     /// @param reportFolder where the reports of refused rows go
-    MainWindow(wxImportCSVDialogPeer &peer, Settings &settings, const std::string &connection,
-               const std::string &reportFolder);
+    MainWindow(Settings &settings, const std::string &connection, const std::string &reportFolder);
 
     /// Chooses the table that is shown and imported into.
     void choose(const Table &table);
@@ -51,10 +51,8 @@ private:
     Gtk::Widget &createProgressLine();
 
     void chooseFile();
-    void matchTable(ImportStory story, const std::string &connection,
-                    const std::vector<std::string> &columns);
-    void start(ImportStory story, Import import, Replace replace);
-    Replace chosenReplace() const;
+    bool askFor(ImportStory &story, const std::function<std::optional<Match>()> &ask);
+    void start(ImportStory story, Import import, std::optional<Replace> decided = {});
     bool agreesTo(const std::string &question);
     void end(const ImportStory &story);
     void setBusy(bool isBusy);
@@ -67,7 +65,6 @@ private:
     bool on_delete_event(GdkEventAny *event) override;
 
     Settings &m_settings;
-    MatchDialog m_dialog;
     std::string m_reportFolder;
     const Table *m_table;
     std::vector<std::size_t> m_counts; ///< rows of each table
@@ -79,6 +76,7 @@ private:
     std::vector<Gtk::RadioButton *> m_tableButtons;
     Gtk::Box m_toolbar;
     Gtk::CheckButton m_replace;
+    ChoicesBar m_choices;
     Gtk::InfoBar m_faultBar;
     Gtk::Label m_fault;
     RowGrid m_grid;

@@ -17,16 +17,6 @@ namespace {
 
 constexpr const char *sourceGroup = "source";
 
-/// A value of the file, or the other one where it is missing or no such value.
-template <typename Get, typename Value>
-Value valueOr(Get get, Value otherwise) {
-    try {
-        return get();
-    } catch (const Glib::Error &) {
-        return otherwise;
-    }
-}
-
 } // namespace
 
 Settings::Settings(const std::string &path) : m_path(path) {
@@ -38,42 +28,71 @@ Settings::Settings(const std::string &path) : m_path(path) {
 }
 
 KeptMatch Settings::match(const std::string &name) const {
-    KeptMatch match;
-    const auto names =
-        valueOr([&] { return std::vector<Glib::ustring>(m_file.get_string_list(name, "matches")); },
-                std::vector<Glib::ustring>());
-    for (const Glib::ustring &each : names) {
-        match.matches.push_back(Glib::strcompress(each));
-    }
-    const int delimiter = valueOr([&] { return m_file.get_integer(name, "delimiter"); }, 0);
-    if (delimiter > 0) {
+    KeptMatch match{texts(name, "matches"), {}, number(name, "titles", 1) != 0};
+    if (const int delimiter = number(name, "delimiter", 0)) {
         match.delimiter = static_cast<char>(delimiter);
     }
-    match.firstLineHoldsTitles = valueOr([&] { return m_file.get_boolean(name, "titles"); }, true);
     return match;
 }
 
 void Settings::keepMatch(const std::string &name, const KeptMatch &match) {
-    // Names are bytes in whatever encoding, the file is UTF-8.
-    std::vector<Glib::ustring> names;
-    for (const std::string &each : match.matches) {
-        names.emplace_back(Glib::strescape(each));
-    }
-    m_file.set_string_list(name, "matches", names);
-    if (match.delimiter) {
-        m_file.set_integer(name, "delimiter", static_cast<unsigned char>(*match.delimiter));
-        m_file.set_boolean(name, "titles", match.firstLineHoldsTitles);
-    }
+    setTexts(name, "matches", match.names);
+    m_file.set_integer(name, "delimiter", static_cast<unsigned char>(match.delimiter.value_or(0)));
+    m_file.set_integer(name, "titles", match.firstLineHoldsTitles ? 1 : 0);
+    save();
+}
+
+ValueChoices Settings::choices(const Table &table) const {
+    const int below = number(table.name, "below detection", 0);
+    return {static_cast<BelowDetection>(below > 0 && below < 4 ? below : 0),
+            texts(table.name, "no value"), number(table.name, "decimal commas", 1) != 0};
+}
+
+void Settings::keepChoices(const Table &table, const ValueChoices &choices) {
+    m_file.set_integer(table.name, "below detection", static_cast<int>(choices.belowDetection));
+    setTexts(table.name, "no value", choices.noValue);
+    m_file.set_integer(table.name, "decimal commas", choices.hasDecimalCommas ? 1 : 0);
     save();
 }
 
 std::string Settings::source() const {
-    return valueOr([&] { return m_file.get_string(sourceGroup, "connection"); }, Glib::ustring());
+    const std::vector<std::string> kept = texts(sourceGroup, "connection");
+    return kept.empty() ? std::string() : kept.front();
 }
 
 void Settings::keepSource(const std::string &connection) {
-    m_file.set_string(sourceGroup, "connection", withoutPassword(connection));
+    setTexts(sourceGroup, "connection", {withoutPassword(connection)});
     save();
+}
+
+int Settings::number(const std::string &group, const char *key, int otherwise) const {
+    try {
+        return m_file.get_integer(group, key);
+    } catch (const Glib::Error &) {
+        return otherwise;
+    }
+}
+
+std::vector<std::string> Settings::texts(const std::string &group, const char *key) const {
+    std::vector<std::string> texts;
+    try {
+        for (const Glib::ustring &each : m_file.get_string_list(group, key)) {
+            texts.push_back(Glib::strcompress(each));
+        }
+    } catch (const Glib::Error &) {
+        return {};
+    }
+    return texts;
+}
+
+void Settings::setTexts(const std::string &group, const char *key,
+                        const std::vector<std::string> &texts) {
+    // Names are bytes in whatever encoding, the file is UTF-8.
+    std::vector<Glib::ustring> escaped;
+    for (const std::string &each : texts) {
+        escaped.emplace_back(Glib::strescape(each));
+    }
+    m_file.set_string_list(group, key, escaped);
 }
 
 void Settings::save() {

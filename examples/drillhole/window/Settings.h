@@ -2,9 +2,7 @@
 
 #pragma once
 
-#include <optional>
-#include <string>
-#include <vector>
+#include "examples/drillhole/rows/RowCheck.h"
 
 #include <glibmm/keyfile.h>
 
@@ -12,7 +10,7 @@ namespace drillhole {
 
 /// How the dialog was last left with OK.
 struct KeptMatch {
-    std::vector<std::string> matches;
+    std::vector<std::string> names;
     std::optional<char> delimiter; ///< none before the first import
     bool firstLineHoldsTitles = true;
 };
@@ -27,6 +25,9 @@ public:
     KeptMatch match(const std::string &name) const;
     void keepMatch(const std::string &name, const KeptMatch &match);
 
+    ValueChoices choices(const Table &table) const;
+    void keepChoices(const Table &table, const ValueChoices &choices);
+
     /// The connection string of the last source, without a password.
     std::string source() const;
     void keepSource(const std::string &connection);
@@ -35,6 +36,9 @@ public:
     const std::string &complaint() const { return m_complaint; }
 
 private:
+    int number(const std::string &group, const char *key, int otherwise) const;
+    std::vector<std::string> texts(const std::string &group, const char *key) const;
+    void setTexts(const std::string &group, const char *key, const std::vector<std::string> &texts);
     void save();
 
     std::string m_path;
