@@ -6,6 +6,7 @@
 #include "person/openDialog.h"
 
 #include <cstdio>
+#include <map>
 
 #include <wx/defs.h>
 
@@ -13,46 +14,23 @@ namespace {
 
 /// What X11 calls a key.
 std::string nameOf(int key) {
-    switch (key) {
-    case WXK_BACK:
-        return "BackSpace";
-    case WXK_TAB:
-        return "Tab";
-    case WXK_RETURN:
-        return "Return";
-    case WXK_ESCAPE:
-        return "Escape";
-    case WXK_DELETE:
-        return "Delete";
-    case WXK_SHIFT:
-        return "Shift_L";
-    case WXK_CONTROL:
-        return "Control_L";
-    case WXK_ALT:
-        return "Alt_L";
-    case WXK_PAGEUP:
-        return "Prior";
-    case WXK_PAGEDOWN:
-        return "Next";
-    case WXK_HOME:
-        return "Home";
-    case WXK_END:
-        return "End";
-    case WXK_LEFT:
-        return "Left";
-    case WXK_UP:
-        return "Up";
-    case WXK_RIGHT:
-        return "Right";
-    case WXK_DOWN:
-        return "Down";
-    case WXK_WINDOWS_MENU:
-        return "Menu";
-    default:
-        char name[8];
-        std::snprintf(name, sizeof name, "U%04X", static_cast<unsigned>(key));
-        return name;
+    static const std::map<int, const char *> named = {
+        {WXK_BACK, "BackSpace"},    {WXK_TAB, "Tab"},
+        {WXK_RETURN, "Return"},     {WXK_ESCAPE, "Escape"},
+        {WXK_DELETE, "Delete"},     {WXK_SHIFT, "Shift_L"},
+        {WXK_CONTROL, "Control_L"}, {WXK_ALT, "Alt_L"},
+        {WXK_PAGEUP, "Prior"},      {WXK_PAGEDOWN, "Next"},
+        {WXK_HOME, "Home"},         {WXK_END, "End"},
+        {WXK_LEFT, "Left"},         {WXK_UP, "Up"},
+        {WXK_RIGHT, "Right"},       {WXK_DOWN, "Down"},
+        {WXK_WINDOWS_MENU, "Menu"}};
+    const auto found = named.find(key);
+    if (found != named.end()) {
+        return found->second;
     }
+    char name[8];
+    std::snprintf(name, sizeof name, "U%04X", static_cast<unsigned>(key));
+    return name;
 }
 
 } // namespace

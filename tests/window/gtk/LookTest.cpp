@@ -31,15 +31,6 @@ protected:
     DialogRun run;
 };
 
-const wxStaticBitmap &arrow() {
-    for (const wxWindow *sibling : fileList().GetParent()->GetChildren()) {
-        if (const auto *picture = dynamic_cast<const wxStaticBitmap *>(sibling)) {
-            return *picture;
-        }
-    }
-    throw GivenUp("there is no arrow");
-}
-
 /// The text beside the pointer: that of the one window that is neither the dialog nor a tooltip.
 std::string labelOfDrag() {
     std::string text;
@@ -88,7 +79,10 @@ TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
             EXPECT_GE(contrast(mark, matchList().GetBackgroundColour()), 3);
             EXPECT_GE(contrast(mark, wxSystemSettings::GetColour(wxSYS_COLOUR_HIGHLIGHT)), 3);
             EXPECT_GE(contrast(mark, matchList().GetItemTextColour(1)), 4.5);
-            const wxImage picture = arrow().GetBitmap().ConvertToImage();
+            const wxImage picture = dynamic_cast<wxStaticBitmap &>(
+                                        *wxWindow::FindWindowByName("staticBitmap", &openDialog()))
+                                        .GetBitmap()
+                                        .ConvertToImage();
             const wxSize middle = picture.GetSize() / 2;
             const wxColour shape(picture.GetRed(middle.x, middle.y),
                                  picture.GetGreen(middle.x, middle.y),
