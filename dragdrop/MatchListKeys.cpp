@@ -52,8 +52,14 @@ void MatchListKeys::moveCurrentRow(long row, const wxKeyEvent &key) {
     }
     setCurrentRow(row);
     m_list.EnsureVisible(row);
+    showCurrentRow();
+}
+
+void MatchListKeys::showCurrentRow() {
     m_list.clearHoverRows();
-    m_list.hoverOver(row);
+    if (currentRow() >= 0) {
+        m_list.hoverOver(currentRow());
+    }
 }
 
 void MatchListKeys::markCurrentRow(bool alone) {
@@ -126,6 +132,9 @@ bool MatchListKeys::move(const wxKeyEvent &key) {
         moveCurrentRow(m_list.GetItemCount() - 1, key);
         return true;
     case WXK_SPACE:
+        if (key.AltDown()) {
+            return false;
+        }
         markCurrentRow(!key.ControlDown());
         return true;
     default:
@@ -163,13 +172,17 @@ void MatchListKeys::onKeyDown(wxKeyEvent &event) {
     if (work) {
         m_paste.inTurn(work);
     } else {
-        event.Skip(event.AltDown() || !move(event));
+        event.Skip(!move(event));
     }
 }
 
 // The control would look for the row that begins with what is typed, and select it.
 void MatchListKeys::onCharacter(wxKeyEvent &event) {
     event.Skip(event.HasModifiers() || event.GetUnicodeKey() < WXK_SPACE);
+    if (event.GetKeyCode() == WXK_SPACE && event.AltDown()) {
+        // It is the window manager's; a control that gets it selects or deselects the current row.
+        m_list.CallAfter([this] { showCurrentRow(); });
+    }
 }
 
 } // namespace columnimport

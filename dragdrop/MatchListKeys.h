@@ -40,6 +40,7 @@ private:
     /// The row that the keys are at, or -1.
     long currentRow() const;
     void setCurrentRow(long row);
+    void showCurrentRow();
 
     /// Moves it to `row`, or as near as there are rows, by a key with or without Control and Shift.
     void moveCurrentRow(long row, const wxKeyEvent &key);
