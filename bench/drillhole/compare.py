@@ -39,7 +39,7 @@ def write_assays(path, rows):
 
 
 def with_collars():
-    holes = ",".join(f"('LR-{hole:03}', {hole}, {hole}, 0, 0)" for hole in range(HOLES))
+    holes = ",".join(f"('LR-{hole:03}', {hole}, {hole}, 0, null)" for hole in range(HOLES))
     return f"{TABLES} insert into collar values {holes};"
 
 
