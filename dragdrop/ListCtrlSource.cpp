@@ -7,7 +7,6 @@
 #include "dragdrop/rowsText.h"
 #include "dragdrop/tipWhereCut.h"
 #include "languages/translated.h"
-#include "names/notUsed.h"
 
 #include <algorithm>
 
@@ -63,9 +62,7 @@ void ListCtrlSource::applyMatchFont(long row) {
     if (!font.IsOk()) {
         font = GetFont();
     }
-    // Any other text spares a copy of its name, which may be a whole file.
-    const bool isUnused = GetItemText(row, matchColumn).StartsWith(notUsed) &&
-                          getMatchText(static_cast<int>(row)) == notUsed;
+    const bool isUnused = m_names.isUnused(GetItemText(row, matchColumn));
     font.SetWeight(isUnused ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
     SetItemFont(row, font);
 }

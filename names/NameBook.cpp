@@ -2,6 +2,7 @@
 
 #include "names/NameBook.h"
 
+#include "languages/translated.h"
 #include "names/nameText.h"
 #include "names/notUsed.h"
 
@@ -58,12 +59,18 @@ std::int32_t NameBook::positionOf(const wxString &text) const {
     return known != m_entries.end() ? known->second.position : noColumn;
 }
 
+bool NameBook::isUnused(const wxString &text) const {
+    const auto known = m_entries.find(text.ToStdWstring());
+    return known != m_entries.end() && known->second.bytes == notUsed;
+}
+
 void NameBook::clear() {
     m_texts.clear();
     m_columns.clear();
     m_entries.clear();
     m_sharers.clear();
-    m_unused = &enter(notUsed, {notUsed, noColumn});
+    // The word of notUsed once more, where it is found for the catalogues.
+    m_unused = &enter(translated("Not used"), {notUsed, noColumn});
 }
 
 const std::wstring &NameBook::enter(const wxString &text, Entry entry) {

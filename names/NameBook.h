@@ -24,7 +24,7 @@ namespace columnimport {
 /// could not be dragged.
 ///
 ///     position  bytes              shown as
-///     none                         Not used
+///     none                         Not used, in the language of the dialog
 ///     0         plong\xC3\xA9e     plongée
 ///     1         plong\xE9e         plongée and an invisible 1
 ///     2         hole\0name         hole␀name
@@ -62,6 +62,9 @@ public:
 
     /// The position of the column that a shown text stands for, or `noColumn`.
     std::int32_t positionOf(const wxString &text) const;
+
+    /// Whether a shown text says that no column is used, or is that of a column called so.
+    bool isUnused(const wxString &text) const;
 
     /// Forgets all columns and foreign texts.
     void clear();

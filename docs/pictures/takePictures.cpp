@@ -16,6 +16,7 @@
 #include <utility>
 
 #include <wx/listctrl.h>
+#include <wx/utils.h>
 #include <wxImportCSVDialog.h>
 
 namespace {
@@ -118,6 +119,15 @@ void takeDelimiterMenu() {
     });
 }
 
+void takeLanguage() {
+    wxSetEnv("LANGUAGE", "de");
+    std::setlocale(LC_ALL, "");
+    runOf("Bohrlochverläufe importieren", surveyColumns, "surveys_fr.csv").show([](Person &person) {
+        takePicture("language");
+        pressCancel(person);
+    });
+}
+
 void takePositions() {
     DialogRun run = runOf("Import surveys", surveyColumns, "surveys_without_titles.csv");
     run.firstLineHeader = false;
@@ -157,6 +167,7 @@ int main(int argumentCount, char **arguments) {
         takeDelimiterMenu();
         takePositions();
         takeTable();
+        takeLanguage();
     } catch (const std::exception &problem) {
         std::cerr << "take_pictures: " << problem.what() << '\n';
         return 1;

@@ -41,30 +41,35 @@ TEST(Language, IsTheOneOfTheProcessForMessagesAndLeavesRoomForAllCaptions) {
     const ScratchFile file("BHID;X\n");
     const std::string usual = std::setlocale(LC_MESSAGES, nullptr);
     const struct {
-        const char *locale, *languages, *caption;
+        const char *locale, *languages, *caption, *unused;
     } cases[] = {
-        {"C", "de", "Reset to Default"},
-        {"C.UTF-8", "it:en_GB:de", "Reset to Default"},
-        {"C.UTF-8", "it:de_AT.UTF-8@euro:fr", "Auf Standard zurücksetzen"},
-        {"C.UTF-8", "es", "Restablecer valores predeterminados"},
-        {"C.UTF-8", "fr", "Rétablir les valeurs par défaut"},
-        {"C.UTF-8", "pt_BR", "Restaurar padrão"},
-        {"C.UTF-8", "ru", "Восстановить по умолчанию"},
-        {"C.UTF-8", "zh_CN", "恢复默认"},
+        {"C", "de", "Reset to Default", "Not used"},
+        {"C.UTF-8", "it:en_GB:de", "Reset to Default", "Not used"},
+        {"C.UTF-8", "it:de_AT.UTF-8@euro:fr", "Auf Standard zurücksetzen", "Nicht verwendet"},
+        {"C.UTF-8", "es", "Restablecer valores predeterminados", "Sin usar"},
+        {"C.UTF-8", "fr", "Rétablir les valeurs par défaut", "Non utilisée"},
+        {"C.UTF-8", "pt_BR", "Restaurar padrão", "Não usada"},
+        {"C.UTF-8", "ru", "Восстановить по умолчанию", "Не используется"},
+        {"C.UTF-8", "zh_CN", "恢复默认", "未使用"},
     };
     const wxTranslations *const host = wxTranslations::Get();
-    for (const auto &[locale, languages, caption] : cases) {
+    for (const auto &[locale, languages, caption, unused] : cases) {
         std::setlocale(LC_MESSAGES, locale);
         setenv("LANGUAGE", languages, 1);
         DialogRun run;
         run.fileName = file.path();
-        EXPECT_FALSE(run.show([&languages = languages, &caption = caption](Person &person) {
-            onUserInterface([&] {
-                EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), wxString::FromUTF8(caption));
-                expectRoom(languages);
-            });
-            pressCancel(person);
-        }));
+        run.appColumns = {"gold"};
+        EXPECT_FALSE(run.show(
+            [&languages = languages, &caption = caption, &unused = unused](Person &person) {
+                EXPECT_EQ(matchTexts(), Names{unused});
+                EXPECT_EQ(boldRows(), std::vector<int>{0});
+                onUserInterface([&] {
+                    EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), wxString::FromUTF8(caption));
+                    expectRoom(languages);
+                });
+                pressCancel(person);
+            }));
+        EXPECT_EQ(run.matches, Names{""}) << languages;
         EXPECT_EQ(wxTranslations::Get(), host);
     }
     std::setlocale(LC_MESSAGES, usual.c_str());
