@@ -31,12 +31,9 @@ inline std::string disagreement(std::vector<std::string> app, std::vector<std::s
     }
     const std::vector<Vote> votes = castVotes(app, file, {});
     for (std::size_t i = 0; i < file.size(); ++i) {
-        if (votes[i].isForNone()) {
-            continue;
-        }
-        const std::string &voted = app[static_cast<std::size_t>(votes[i].app)];
-        const double score = columnNameScore(voted, file[i]);
-        if (score != votes[i].score || score != columnNameScore(file[i], voted)) {
+        if (!votes[i].isForNone() &&
+            votes[i].score !=
+                columnNameScore(file[i], app[static_cast<std::size_t>(votes[i].app)])) {
             return "the score of " + file[i];
         }
     }
