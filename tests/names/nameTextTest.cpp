@@ -20,6 +20,7 @@ TEST(ShownText, IsUtf8ElseTheLocalesElseLatin1) {
         {"\xA4", L"\xA4", L"\x20AC"},
         {"a\0b\x1B\x7F\n"s, L"a\x2400\x62\x241B\x2421\x240A", L""},
         {"\x85", L"\xFFFD", L""},
+        {"\xEF\xBB\xBFHOLE", L"\xFFFDHOLE", L""},
         {std::string(401, 'x'), std::wstring(400, 'x') + L'\x2026', L""},
         // Cut inside a character of two bytes, and inside one of three.
         {std::string(399, 'x') + "\xC3\xA9", std::wstring(399, 'x') + L'\x2026', L""},
