@@ -89,3 +89,24 @@ TEST(MatchColumns, AScoreOfExactlyTheThresholdIsRefusedAndTheNextDoubleTaken) {
     EXPECT_EQ(columnNameScore(app, file), std::nextafter(0.4, 1.0));
     EXPECT_EQ(matchColumns({"abcde", app}, {"abdxy", file}), (std::vector<std::int32_t>{-1, 1}));
 }
+
+TEST(MatchColumns, KnowsAHostsOtherWordsForItsColumns) {
+    const std::vector<std::string> app = {"hole", "easting", "elevation", "depth", "to", "gold"};
+    const Alternatives words = {{"hole_id"},
+                                {"X_MGA"},
+                                {"RL"},
+                                {"EOH", "MaxDepth", "TOTAL_DEPTH"},
+                                {"To (m)", "to_m", "SAMPTO"},
+                                {"Au"}};
+    for (std::size_t column = 0; column < words.size(); ++column) {
+        for (const std::string &word : words[column]) {
+            EXPECT_EQ(matchColumns(app, {"hole_type", word}, words)[column], 1) << word;
+        }
+    }
+    EXPECT_EQ(matchColumns({"a", "rl"}, {"RL"}, {{"RL"}}), (std::vector<std::int32_t>{-1, 0}));
+    // Only a very long name can measure more.
+    const std::string name(120, 'x');
+    EXPECT_EQ(matchColumns({"a", name + "y"}, {name}, {{name}}),
+              (std::vector<std::int32_t>{-1, 0}));
+    EXPECT_EQ(matchColumns({"a", "xxxy"}, {"xxx"}, {{"xxx"}}), (std::vector<std::int32_t>{0, -1}));
+}

@@ -2,6 +2,7 @@
 
 // A host on a machine without a display: run without one.
 
+#include <columnimport.h>
 #include <gtest/gtest.h>
 #include <wxImportCSVDialogPeer.h>
 
@@ -21,4 +22,16 @@ TEST(WithoutADisplay, NothingIsShownAndTheHostKeepsWhatItHad) {
     EXPECT_EQ(matches, std::vector<std::string>{"BHID"});
     EXPECT_EQ(delimiter, ';');
     EXPECT_TRUE(firstLineHeader && useSaved);
+}
+
+TEST(WithoutADisplay, AHostInCIsToldSoAndCanPropose) {
+    columnimport_import *import = columnimport_new();
+    columnimport_add_column(import, "hole");
+    columnimport_set_table(import, nullptr, nullptr, 0);
+    EXPECT_EQ(columnimport_propose(import), columnimport_ok);
+    EXPECT_EQ(columnimport_match_position(import, 0), columnimport_none);
+    EXPECT_EQ(columnimport_show(import, nullptr), columnimport_no_display);
+    EXPECT_EQ(columnimport_outcome(import), columnimport_no_display);
+    EXPECT_EQ(columnimport_match_position(import, 0), columnimport_invalid) << "no result is left";
+    columnimport_free(import);
 }
