@@ -191,10 +191,10 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
         const std::string depth = std::to_string(i);
         text += "LR-1," + depth + ".1," + depth + ".9,0.1,\n";
     }
-    write("assays.csv", text + "LR-1,7.1,7.9,0.1,\nLR-1,8.1,8.9,,\n");
+    write("assays.csv", text + "LR-1,7.1,7.9,0.1,\nLR-1,8.1,8.9,,\nLR-1,8.1,8.9,,\n");
     const ImportOutcome first = importFrom("assay", "assays.csv", match);
     EXPECT_EQ(first.taken, 1002U);
-    ASSERT_EQ(first.firstRefused.size(), 1U) << "the row that stands twice in the file";
+    ASSERT_EQ(first.firstRefused.size(), 2U) << "the rows that stand twice in the file";
     EXPECT_EQ(first.firstRefused[0].lines + first.firstRefused[0].text, "1003there already");
     ASSERT_EQ(first.remarks.size(), 3U);
     EXPECT_EQ(first.remarks[0].text, "not filled: Cu %, Zn %, duplicate, blank, standard");
@@ -202,7 +202,7 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
     EXPECT_EQ(first.remarks[2].lines + first.remarks[2].text,
               "1004overlaps another interval of its hole: 1 row");
     const ImportOutcome second = importFrom("assay", "assays.csv", match);
-    EXPECT_EQ(second.refused, 1003U);
+    EXPECT_EQ(second.refused, 1004U);
     EXPECT_FALSE(second.isDone());
     EXPECT_EQ(ask("select count(*) from assay"), "1002");
     EXPECT_EQ(read("refused.csv").substr(0, 30), "line,reason,row\n2,\"there alrea");

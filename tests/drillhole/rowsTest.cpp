@@ -224,6 +224,10 @@ TEST(RowCheck, TakesValuesAsTheUserChose) {
               "fromdepth \"0,5\" is no number");
 }
 
+TEST(AsUtf8, TakesOtherBytesForThoseOfWindows) {
+    EXPECT_EQ(asUtf8("\u00e9") + asUtf8("\x80") + asUtf8("\x81\xE9"), "\u00e9\u20ac\u0081\u00e9");
+}
+
 TEST(ParseNumber, TakesWholeNumbersInPlainForm) {
     EXPECT_EQ(parseNumber("-12.50"), -12.5);
     EXPECT_EQ(parseNumber("+7"), 7);
