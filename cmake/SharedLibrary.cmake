@@ -8,6 +8,7 @@ find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
 
 if(WIN32)
     set(platform msw)
+    enable_language(RC)
 else()
     set(platform gtk)
     find_package(PkgConfig REQUIRED)
@@ -75,6 +76,7 @@ if(WIN32)
     target_link_libraries(columnimport PRIVATE columnimport_door)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
+    target_sources(columnimport PRIVATE ${catalogue_resources})
 else()
     target_sources(columnimport PRIVATE
         dragdrop/gtk/AccessibleRow.cpp
@@ -99,6 +101,7 @@ endif()
 if(WIN32)
     add_library(columnimport_inside STATIC $<TARGET_OBJECTS:columnimport>)
     target_compile_definitions(columnimport_inside INTERFACE COLUMNIMPORT_STATIC_DEFINE)
+    target_sources(columnimport_inside INTERFACE ${catalogue_resources})
     target_include_directories(columnimport_inside INTERFACE
         $<TARGET_PROPERTY:columnimport,INTERFACE_INCLUDE_DIRECTORIES>)
     target_link_libraries(columnimport_inside PUBLIC
