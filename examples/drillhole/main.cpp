@@ -46,7 +46,11 @@ class Errands {
 public:
     Errands(Options options, MainWindow &window) : m_options(std::move(options)), m_window(window) {
         m_window.signalEnded().connect([this](const ImportStory &story) { onEnded(story); });
-        goOnWhenIdle();
+        m_window.signalOpened().connect([this] {
+            if (!std::exchange(m_isBegun, true)) {
+                goOnWhenIdle();
+            }
+        });
     }
 
     bool areDone() const { return m_areDone; }
@@ -90,6 +94,7 @@ private:
 
     Options m_options;
     MainWindow &m_window;
+    bool m_isBegun = false;
     bool m_isRunning = false;
     bool m_areDone = true;
 };
@@ -101,8 +106,9 @@ int run(int argc, char **argv) {
     const wxImportCSVDialogPeer peer;
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
     Settings settings(inFolder(Glib::get_user_config_dir(), "settings.ini"));
-    MainWindow window(settings, options.connection, inFolder(Glib::get_user_data_dir(), "reports"));
+    MainWindow window(settings, inFolder(Glib::get_user_data_dir(), "reports"));
     const Errands errands(options, window);
+    window.open(options.connection, !options.thenQuits);
     application->run(window);
     return errands.areDone() ? 0 : 1;
 }

@@ -88,7 +88,7 @@ TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
     EXPECT_EQ(outcome.refused, 2U);
     EXPECT_EQ(ask("select * from survey"), "LR-1|0.0|90.0|-60.0\nLR-2|10.0|91.0|-58.0");
     EXPECT_EQ(read("refused.csv"),
-              "line,reason,row\n"
+              "line,reason,\"Dip\",\"Hole\",\"At\",\"Az\"\n"
               "3,\"no collar is called \"\"LR-3\"\"\",\"-60\",\"LR-3\",\"0\",\"90\"\n"
               "4,\"azimuth \"\"n\"\" is no number\",\"-59\",\"LR-2\",\"10\",\"n\"\n");
     write("surveys.csv", "Dip,Hole,At,Az\n-50,LR-2,0,90\n");
@@ -205,7 +205,7 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
     EXPECT_EQ(second.refused, 1004U);
     EXPECT_FALSE(second.isDone());
     EXPECT_EQ(ask("select count(*) from assay"), "1002");
-    EXPECT_EQ(read("refused.csv").substr(0, 30), "line,reason,row\n2,\"there alrea");
+    EXPECT_NE(read("refused.csv").find("\n2,\"there alrea"), std::string::npos);
 }
 
 TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {

@@ -126,7 +126,8 @@ Session newSession(const std::string &connection, const std::string &more) {
         if (settings.empty()) {
             throw Fault("Write its settings as in postgresql://host=db dbname=holes user=ann.");
         }
-        knock(settings, timeLimitOf(connection));
+        // The one who waits is to give up first, and says so.
+        knock(settings, timeLimitOf(connection) + std::chrono::seconds(1));
         return std::make_shared<soci::session>(soci::postgresql, settings);
     }
     if (isFor(connection, odbc)) {

@@ -119,7 +119,7 @@ FieldPositions fieldsOf(const Match &match, const Row &first) {
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
                          ImportProgress &progress) {
     const Table &table = destination.table;
-    RefusedRows refused(destination.report);
+    RefusedRows refused(destination.report, layout.titles);
     soci::transaction transaction(destination.session);
     ImportOutcome outcome;
     outcome.replaces = destination.replace != Replace::no;

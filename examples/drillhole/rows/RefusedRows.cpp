@@ -24,11 +24,16 @@ std::string asCsv(std::string_view field) {
 
 } // namespace
 
-RefusedRows::RefusedRows(const std::string &path) : m_path(path), m_unfinished(path + ".part") {
+RefusedRows::RefusedRows(const std::string &path, const std::vector<std::string> &titles)
+    : m_path(path), m_unfinished(path + ".part") {
     std::error_code ignored;
     std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
     m_file.open(m_unfinished, std::ios::binary | std::ios::trunc);
-    m_file << "line,reason,row\n";
+    m_file << "line,reason";
+    for (const std::string &title : titles) {
+        m_file << ',' << asCsv(title);
+    }
+    m_file << '\n';
     finish();
 }
 

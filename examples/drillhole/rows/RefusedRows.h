@@ -17,7 +17,9 @@ namespace drillhole {
 class RefusedRows {
 public:
     /// Throws a Fault if the file can't be made.
-    explicit RefusedRows(const std::string &path);
+    ///
+    /// @param titles  of the source, above its fields: the report can be corrected and imported
+    RefusedRows(const std::string &path, const std::vector<std::string> &titles);
     ~RefusedRows();
     RefusedRows(const RefusedRows &) = delete;
     RefusedRows &operator=(const RefusedRows &) = delete;

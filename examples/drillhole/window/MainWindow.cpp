@@ -11,11 +11,14 @@
 
 #include <utility>
 
+#include <giomm/file.h>
 #include <glibmm/convert.h>
 #include <glibmm/main.h>
 #include <glibmm/miscutils.h>
 #include <gtkmm/filechoosernative.h>
 #include <gtkmm/frame.h>
+#include <gtkmm/menu.h>
+#include <gtkmm/menubutton.h>
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/paned.h>
 
@@ -28,15 +31,12 @@ constexpr unsigned int progressInterval = 50; // milliseconds
 
 } // namespace
 
-MainWindow::MainWindow(Settings &settings, const std::string &connection,
-                       const std::string &reportFolder)
+MainWindow::MainWindow(Settings &settings, const std::string &reportFolder)
     : m_settings(settings), m_reportFolder(reportFolder), m_table(&holeTables().front()),
       m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
       m_replace("_Replace the rows that are there", true), m_choices(settings),
       m_grid([this](auto work, auto done) { ask(work, done); }),
-      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing),
-      m_thread(std::make_unique<DatabaseThread>(connection, openHoles)) {
-    set_title("Drill holes in " + placeOf(connection));
+      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing) {
     set_default_size(1120, 720);
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
     all->property_margin() = 12;
@@ -51,7 +51,29 @@ MainWindow::MainWindow(Settings &settings, const std::string &connection,
     add(*all);
     m_choices.show(*m_table);
     show_all_children();
+}
+
+void MainWindow::open(const std::string &connection, bool isAttended) {
+    set_title("Drill holes in " + placeOf(connection));
+    m_faultBar.hide();
+    m_isAttended = isAttended;
+    m_counts.clear();
+    m_thread = std::make_unique<DatabaseThread>(connection, openHoles);
     refresh(nullptr, false);
+}
+
+void MainWindow::chooseDatabase(const std::string &message) {
+    std::optional<SourceTable> chosen;
+    {
+        SourceDialog dialog(*this, SourceDialog::Choice::holes, m_thread->connection(), message);
+        chosen = dialog.choose();
+    }
+    if (chosen) {
+        open(chosen->connection, true);
+    } else if (m_counts.empty()) {
+        showFault(message);
+        m_signalOpened.emit();
+    }
 }
 
 void MainWindow::choose(const Table &table) {
@@ -102,6 +124,13 @@ void MainWindow::importTable(const std::string &connection, const std::string &s
     story.source = sourceTable;
     const auto columns = std::make_shared<std::vector<std::string>>();
     setBusy(true);
+    m_progressBar.set_fraction(0);
+    m_progressBar.set_text("Asking for the columns");
+    m_progressLine.show();
+    m_cancel = [this, story] {
+        m_source.reset();
+        end(story);
+    };
     m_source = std::make_unique<DatabaseThread>(connection, openSource);
     m_source->run(
         [sourceTable, columns](soci::session &source) {
@@ -109,6 +138,8 @@ void MainWindow::importTable(const std::string &connection, const std::string &s
         },
         [this, story, connection, columns](const std::string &fault) mutable {
             story.fault = fault;
+            m_cancel = nullptr;
+            m_progressLine.hide();
             if (askFor(story, [&] {
                     return matchTable(*this, m_settings, *story.table, story.source, *columns);
                 })) {
@@ -124,6 +155,7 @@ void MainWindow::start(ImportStory story, Import import, std::optional<Replace> 
     const auto progress = std::make_shared<ImportProgress>();
     const auto outcome = std::make_shared<ImportOutcome>();
     m_progress = progress;
+    m_cancel = [progress] { progress->isCancelled = true; };
     m_progressTimer =
         Glib::signal_timeout().connect([this] { return showProgress(); }, progressInterval);
     setBusy(true);
@@ -201,7 +233,7 @@ void MainWindow::refresh(const Table *changed, bool isAtEnd) {
     const auto counts = std::make_shared<std::vector<std::size_t>>(m_counts);
     const auto collars = std::make_shared<std::vector<Collar>>();
     const bool hasNewCollars = changed == nullptr || changed->namesHoles;
-    ask(
+    m_thread->run(
         [counts, collars, changed, hasNewCollars](soci::session &holes) {
             counts->resize(holeTables().size());
             for (std::size_t i = 0; i < counts->size(); ++i) {
@@ -213,7 +245,17 @@ void MainWindow::refresh(const Table *changed, bool isAtEnd) {
                 *collars = collarsOf(holes);
             }
         },
-        [this, counts, collars, hasNewCollars, isAtEnd] {
+        [this, counts, collars, hasNewCollars, isAtEnd](const std::string &fault) {
+            if (!fault.empty()) {
+                if (m_counts.empty() && m_isAttended) {
+                    chooseDatabase(fault);
+                    return;
+                }
+                showFault(fault);
+                m_signalOpened.emit();
+                return;
+            }
+            const bool isNew = m_counts.empty();
             m_counts = *counts;
             for (std::size_t i = 0; i < m_counts.size(); ++i) {
                 m_tableButtons[i]->set_label(holeTables()[i].title + " (" + grouped(m_counts[i]) +
@@ -223,6 +265,9 @@ void MainWindow::refresh(const Table *changed, bool isAtEnd) {
                 m_plan.show(*collars);
             }
             showTable(isAtEnd);
+            if (isNew) {
+                m_signalOpened.emit();
+            }
         });
 }
 
@@ -244,7 +289,10 @@ void MainWindow::chooseFile() {
 void MainWindow::chooseSourceTable(const std::string &connection) {
     std::optional<SourceTable> chosen;
     {
-        SourceDialog dialog(*this, connection.empty() ? m_settings.source() : connection);
+        SourceDialog dialog(*this, SourceDialog::Choice::table,
+                            connection.empty() ? m_settings.source() : connection,
+                            "Choose an SQLite file, or type how to reach a database, and connect "
+                            "to see its tables.");
         chosen = dialog.choose();
     }
     if (chosen) {
@@ -258,16 +306,32 @@ void MainWindow::chooseSourceTable(const std::string &connection) {
     }
 }
 
+void MainWindow::exportRefused() {
+    const auto chooser = Gtk::FileChooserNative::create("Export Refused Rows", *this,
+                                                        Gtk::FILE_CHOOSER_ACTION_SAVE, {}, {});
+    chooser->set_do_overwrite_confirmation();
+    chooser->set_current_name(Glib::path_get_basename(m_report.file()));
+    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
+        try {
+            Gio::File::create_for_path(m_report.file())
+                ->copy(chooser->get_file(), Gio::FILE_COPY_OVERWRITE);
+        } catch (const Glib::Error &error) {
+            showFault("The refused rows can't be written there. " + error.what());
+        }
+    }
+}
+
 void MainWindow::showFault(const std::string &fault) {
     m_fault.set_text(fault);
     m_faultBar.show();
 }
 
 bool MainWindow::on_delete_event(GdkEventAny *) {
-    if (m_progress) {
+    const bool isRunning = m_progress && !m_progress->isCancelled;
+    if (isRunning) {
         showFault("An import is running. Wait for its end, or cancel it, before you close.");
     }
-    return m_progress != nullptr;
+    return isRunning;
 }
 
 Gtk::Widget &MainWindow::createToolbar() {
@@ -294,6 +358,24 @@ Gtk::Widget &MainWindow::createToolbar() {
     file->signal_clicked().connect([this] { chooseFile(); });
     auto *source = Gtk::make_managed<Gtk::Button>("Import _Table...", true);
     source->signal_clicked().connect([this] { chooseSourceTable({}); });
+    auto *menu = Gtk::make_managed<Gtk::Menu>();
+    auto *open = Gtk::make_managed<Gtk::MenuItem>("_Open Another Database...", true);
+    open->signal_activate().connect([this] {
+        chooseDatabase("Choose an SQLite file, or type how to reach a database; one that is empty "
+                       "gets the tables of drill holes.");
+    });
+    auto *refused = Gtk::make_managed<Gtk::MenuItem>("_Export Refused Rows...", true);
+    refused->signal_activate().connect([this] { exportRefused(); });
+    menu->append(*open);
+    menu->append(*refused);
+    menu->signal_show().connect(
+        [this, refused] { refused->set_sensitive(!m_report.file().empty()); });
+    menu->show_all();
+    auto *menuButton = Gtk::make_managed<Gtk::MenuButton>();
+    menuButton->set_image_from_icon_name("open-menu-symbolic");
+    menuButton->set_tooltip_text("More");
+    menuButton->set_popup(*menu);
+    m_toolbar.pack_end(*menuButton, Gtk::PACK_SHRINK);
     m_toolbar.pack_end(*file, Gtk::PACK_SHRINK);
     m_toolbar.pack_end(*source, Gtk::PACK_SHRINK);
     m_toolbar.pack_end(m_replace, Gtk::PACK_SHRINK);
@@ -326,8 +408,8 @@ Gtk::Widget &MainWindow::createBody() {
 Gtk::Widget &MainWindow::createProgressLine() {
     auto *cancel = Gtk::make_managed<Gtk::Button>("_Cancel", true);
     cancel->signal_clicked().connect([this] {
-        if (m_progress) {
-            m_progress->isCancelled = true;
+        if (const auto cancelled = m_cancel) {
+            cancelled();
         }
     });
     m_progressBar.set_show_text();

@@ -21,9 +21,16 @@ namespace drillhole {
 /// the ways to the next one.
 class MainWindow : public Gtk::Window {
 public:
-    /// @param connection   the database of the drill holes
     /// @param reportFolder where the reports of refused rows go
-    MainWindow(Settings &settings, const std::string &connection, const std::string &reportFolder);
+    MainWindow(Settings &settings, const std::string &reportFolder);
+
+    /// Opens the database of the drill holes, before anything else is done.
+    ///
+    /// @param isAttended  asks for another one, or for a password, where it can't be opened
+    void open(const std::string &connection, bool isAttended);
+
+    /// The database is open, or the user has given it up.
+    sigc::signal<void> &signalOpened() { return m_signalOpened; }
 
     /// Chooses the table that is shown and imported into.
     void choose(const Table &table);
@@ -51,6 +58,8 @@ private:
     Gtk::Widget &createProgressLine();
 
     void chooseFile();
+    void chooseDatabase(const std::string &message);
+    void exportRefused();
     bool askFor(ImportStory &story, const std::function<std::optional<Match>()> &ask);
     void start(ImportStory story, Import import, std::optional<Replace> decided = {});
     bool agreesTo(const std::string &question);
@@ -71,7 +80,10 @@ private:
     bool m_isBusy = false;
     std::shared_ptr<ImportProgress> m_progress;
     sigc::connection m_progressTimer;
+    std::function<void()> m_cancel; ///< ends what the window waits for
     sigc::signal<void, const ImportStory &> m_signalEnded;
+    sigc::signal<void> m_signalOpened;
+    bool m_isAttended = false;
 
     std::vector<Gtk::RadioButton *> m_tableButtons;
     Gtk::Box m_toolbar;

@@ -21,6 +21,9 @@ public:
 
     void show(const ImportStory &story);
 
+    /// The report of refused rows; empty if there is none.
+    const std::string &file() const { return m_report; }
+
 private:
     void addRow(const Remark &remark);
     void openReport();

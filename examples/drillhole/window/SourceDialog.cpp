@@ -3,6 +3,7 @@
 #include "examples/drillhole/window/SourceDialog.h"
 
 #include "examples/drillhole/database/connection.h"
+#include "examples/drillhole/database/holeDatabase.h"
 #include "examples/drillhole/database/sourceTables.h"
 
 #include <gtkmm/filechoosernative.h>
@@ -16,18 +17,22 @@ constexpr int spacing = 8;
 
 } // namespace
 
-SourceDialog::SourceDialog(Gtk::Window &owner, const std::string &connection)
-    : Gtk::Dialog("Choose a Table to Import", owner, true), m_given(connection),
-      m_grid(Gtk::make_managed<Gtk::Grid>()), m_file("SQLite _File...", true),
-      m_connect("C_onnect", true) {
-    set_default_size(640, 420);
+SourceDialog::SourceDialog(Gtk::Window &owner, Choice choice, const std::string &connection,
+                           const std::string &message)
+    : Gtk::Dialog(choice == Choice::table ? "Choose a Table to Import" : "Open a Database", owner,
+                  true),
+      m_choice(choice), m_given(connection), m_grid(Gtk::make_managed<Gtk::Grid>()),
+      m_file("SQLite _File...", true), m_connect("C_onnect", true) {
+    set_default_size(640, choice == Choice::table ? 420 : 0);
     set_border_width(6);
     add_button("_Cancel", Gtk::RESPONSE_CANCEL);
-    add_button("_Match Columns...", Gtk::RESPONSE_OK)
-        ->get_style_context()
-        ->add_class("suggested-action");
-    set_default_response(Gtk::RESPONSE_OK);
-    set_response_sensitive(Gtk::RESPONSE_OK, false);
+    if (choice == Choice::table) {
+        add_button("_Match Columns...", Gtk::RESPONSE_OK)
+            ->get_style_context()
+            ->add_class("suggested-action");
+        set_default_response(Gtk::RESPONSE_OK);
+        set_response_sensitive(Gtk::RESPONSE_OK, false);
+    }
 
     m_grid->set_row_spacing(spacing);
     m_grid->set_column_spacing(spacing);
@@ -35,24 +40,23 @@ SourceDialog::SourceDialog(Gtk::Window &owner, const std::string &connection)
     m_connection.set_text(withoutPassword(connection));
     m_connection.set_hexpand();
     m_connection.set_placeholder_text("postgresql://host=... dbname=... user=...   odbc://DSN=...");
-    m_connection.signal_activate().connect([this] { listTables(); });
+    m_connection.signal_activate().connect([this] { connectDatabase(); });
     m_password.set_visibility(false);
     m_password.set_input_purpose(Gtk::INPUT_PURPOSE_PASSWORD);
     m_password.set_placeholder_text("if the database wants one; it is not kept");
-    m_password.signal_activate().connect([this] { listTables(); });
+    m_password.signal_activate().connect([this] { connectDatabase(); });
     addRow(0, "Co_nnection", m_connection);
     m_grid->attach(m_file, 2, 0);
     addRow(1, "_Password", m_password);
     m_grid->attach(m_connect, 2, 1);
     m_file.signal_clicked().connect([this] { chooseFile(); });
-    m_connect.signal_clicked().connect([this] { listTables(); });
+    m_connect.signal_clicked().connect([this] { connectDatabase(); });
 
     m_message.set_xalign(0);
     m_message.set_line_wrap();
     m_message.set_max_width_chars(60);
     m_message.set_selectable();
-    m_message.set_text("Choose an SQLite file, or type how to reach a database, and connect to see "
-                       "its tables.");
+    m_message.set_text(message);
     m_grid->attach(m_message, 0, 2, 3);
 
     auto *scrolled = Gtk::make_managed<Gtk::ScrolledWindow>();
@@ -65,6 +69,7 @@ SourceDialog::SourceDialog(Gtk::Window &owner, const std::string &connection)
     m_tables.signal_row_activated().connect(
         [this](Gtk::ListBoxRow *) { response(Gtk::RESPONSE_OK); });
     m_grid->attach(*scrolled, 0, 3, 3);
+    scrolled->set_no_show_all(choice == Choice::holes);
     get_content_area()->pack_start(*m_grid, Gtk::PACK_EXPAND_WIDGET);
     show_all_children();
 }
@@ -72,6 +77,9 @@ SourceDialog::SourceDialog(Gtk::Window &owner, const std::string &connection)
 std::optional<SourceTable> SourceDialog::choose() {
     if (run() != Gtk::RESPONSE_OK) {
         return std::nullopt;
+    }
+    if (m_choice == Choice::holes) {
+        return SourceTable{m_source->connection(), {}};
     }
     const auto *label = dynamic_cast<Gtk::Label *>(m_tables.get_selected_row()->get_child());
     return SourceTable{m_source->connection(), label->get_text()};
@@ -89,11 +97,11 @@ void SourceDialog::chooseFile() {
                                                         Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
     if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
         m_connection.set_text(connectionFor(chooser->get_filename()));
-        listTables();
+        connectDatabase();
     }
 }
 
-void SourceDialog::listTables() {
+void SourceDialog::connectDatabase() {
     const std::string typed = m_connection.get_text();
     if (typed.empty()) {
         m_message.set_text("Type a connection string, or choose an SQLite file.");
@@ -106,15 +114,25 @@ void SourceDialog::listTables() {
     showTables({});
     m_connect.set_sensitive(false);
     m_message.set_text("Connecting...");
-    m_source = std::make_unique<DatabaseThread>(connection, openSource);
-    m_source->run([names](soci::session &source) { *names = sourceTables(source); },
-                  [this, names](const std::string &fault) {
-                      m_connect.set_sensitive();
-                      showTables(*names);
-                      m_message.set_text(fault.empty() && names->empty()
-                                             ? "The database has no tables that you may read."
+    m_message.show();
+    const bool isForTable = m_choice == Choice::table;
+    m_source = std::make_unique<DatabaseThread>(connection, isForTable ? openSource : openHoles);
+    m_source->run(
+        [names, isForTable](soci::session &source) {
+            if (isForTable) {
+                *names = sourceTables(source);
+            }
+        },
+        [this, names, isForTable](const std::string &fault) {
+            m_connect.set_sensitive();
+            showTables(*names);
+            m_message.set_text(fault.empty() ? "The database has no tables that you may read."
                                              : fault);
-                  });
+            m_message.set_visible(names->empty());
+            if (fault.empty() && !isForTable) {
+                response(Gtk::RESPONSE_OK);
+            }
+        });
 }
 
 void SourceDialog::showTables(const std::map<std::string, std::string> &names) {

@@ -19,14 +19,19 @@ namespace drillhole {
 /// A table in another database.
 struct SourceTable {
     std::string connection; ///< with its password
-    std::string name;
+    std::string name;       ///< empty if only a database was to be chosen
 };
 
-/// Lets the user connect to a database and choose a table of it.
+/// Lets the user connect to a database and choose a table of it, or connect to one for the drill
+/// holes.
 class SourceDialog : public Gtk::Dialog {
 public:
+    enum class Choice { table, holes };
+
     /// @param connection  what to begin with, perhaps with a password
-    SourceDialog(Gtk::Window &owner, const std::string &connection);
+    /// @param message     what the user reads first
+    SourceDialog(Gtk::Window &owner, Choice choice, const std::string &connection,
+                 const std::string &message);
 
     /// Nothing if the user pressed Cancel.
     std::optional<SourceTable> choose();
@@ -34,9 +39,10 @@ public:
 private:
     void addRow(int row, const Glib::ustring &text, Gtk::Widget &control);
     void chooseFile();
-    void listTables();
+    void connectDatabase();
     void showTables(const std::map<std::string, std::string> &names);
 
+    Choice m_choice;
     std::string m_given; ///< the connection to begin with; its password is not shown
     std::unique_ptr<DatabaseThread> m_source; ///< whose tables are shown
     Gtk::Grid *m_grid;

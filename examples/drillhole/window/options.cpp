@@ -7,6 +7,7 @@
 #include "examples/drillhole/rows/holeTables.h"
 
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 #include <vector>
 
@@ -32,6 +33,19 @@ std::string usualDatabase() {
     return Glib::build_filename(folder, "holes.sqlite");
 }
 
+/// The connection with the password that the first line of a file holds.
+std::string withPasswordIn(const std::string &path, const std::string &connection) {
+    if (path.empty()) {
+        return connection;
+    }
+    std::ifstream file(path);
+    std::string password;
+    if (!std::getline(file, password)) {
+        throw Fault("There is no password in " + path + ", or it can't be read.");
+    }
+    return withPassword(connection, password);
+}
+
 } // namespace
 
 Options readOptions(int &argc, char **&argv) {
@@ -41,6 +55,8 @@ Options readOptions(int &argc, char **&argv) {
     Glib::ustring source;
     Glib::ustring sourceTable;
     std::vector<std::string> files;
+    std::string passwordFile;
+    std::string sourcePasswordFile;
 
     Glib::OptionGroup group("drillhole", "Drill holes");
     group.add_entry_filename(
@@ -54,6 +70,12 @@ Options readOptions(int &argc, char **&argv) {
     group.add_entry(
         entry("from-table", "The table to import; without it you can choose one", "NAME"),
         sourceTable);
+    group.add_entry_filename(
+        entry("password-file", "A file whose first line is the password of --database", "FILE"),
+        passwordFile);
+    group.add_entry_filename(
+        entry("from-password-file", "A file whose first line is the password of --from", "FILE"),
+        sourcePasswordFile);
     group.add_entry(entry("then-quit", "End when what the command line names is imported"),
                     options.thenQuits);
     Glib::OptionEntry remaining = entry(G_OPTION_REMAINING, "Files to import");
@@ -63,10 +85,12 @@ Options readOptions(int &argc, char **&argv) {
     context.set_main_group(group);
     context.parse(argc, argv);
 
-    options.connection = connectionFor(database.empty() ? usualDatabase() : database);
+    options.connection =
+        withPasswordIn(passwordFile, connectionFor(database.empty() ? usualDatabase() : database));
     options.table = table;
     options.files.assign(files.begin(), files.end());
-    options.source = source.empty() ? std::string() : connectionFor(source);
+    options.source =
+        source.empty() ? std::string() : withPasswordIn(sourcePasswordFile, connectionFor(source));
     options.sourceTable = sourceTable;
     if (!options.table.empty() && findTable(options.table) == nullptr) {
         throw Fault("There is no table " + options.table +
