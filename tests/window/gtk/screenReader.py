@@ -46,6 +46,7 @@ unnamed = [node.get_role_name() for node in below(find("frame", "Import"))
            if "focusable" in states(node) and not node.get_name()]
 expect("what takes the focus without a name", lambda: unnamed, [])
 
+expect("the delimiter", lambda: find("text", "Field delimiter") is not None)
 expect("the file's columns", lambda: find("table", "File columns") is not None)
 rows = find("list", "Column matching")
 expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: Not used"])
