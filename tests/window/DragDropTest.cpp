@@ -350,7 +350,7 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
 }
 
 TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
-    run.appColumns = Names(300, "gold");
+    run.appColumns = Names(80, "gold");
     run.useSavedMatches = false;
     const auto topRow = [] { return matchList().GetTopItem(); };
     run.show([&topRow](Person &person) {
@@ -380,13 +380,13 @@ TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
 
         person.moveTo(Person::matchRow(3));
         onUserInterface([] { matchList().EnsureVisible(0); });
-        scrollTo(299);
-        person.hoverAt(Person::matchRow(298), "the drag is over the row", isInHover(298));
+        scrollTo(79);
+        person.hoverAt(Person::matchRow(78), "the drag is over the row", isInHover(78));
         person.drop();
-        EXPECT_EQ(matchTexts()[298], "AS");
+        EXPECT_EQ(matchTexts()[78], "AS");
 
-        const int rowHeight = Person::matchRow(298).y - Person::matchRow(297).y;
-        person.dragTo(Person::fileRow(8), Person::matchRow(295));
+        const int rowHeight = Person::matchRow(78).y - Person::matchRow(77).y;
+        person.dragTo(Person::fileRow(8), Person::matchRow(75));
         person.hoverAt(Person::matchRow(static_cast<int>(read(topRow))) -
                            wxSize(0, rowHeight / 2 - 2),
                        "the first row is in view", [&topRow] { return topRow() == 0; });
