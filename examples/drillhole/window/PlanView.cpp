@@ -145,14 +145,19 @@ void PlanView::drawCollars(const Picture &picture, const PlanScale &scale) {
         picture->fill();
         cover.isFree(x - holeRadius, y - holeRadius, 2 * holeRadius, 2 * holeRadius, true);
     }
-    // A name that would cover another one or a hole stands on the other side, or is left out.
+    // A name that would cover another one or a hole stands on another side, or is left out.
     for (const Collar &collar : m_collars) {
         int width = 0;
         int height = 0;
         create_pango_layout(collar.name)->get_pixel_size(width, height);
-        const double top = scale.y(collar.northing) - height / 2.0;
         const double x = scale.x(collar.easting);
-        for (const double left : {x + 9, x - 9 - width}) {
+        const double y = scale.y(collar.northing);
+        const double middle = x - width / 2.0;
+        const std::pair<double, double> corners[] = {{x + 9, y - height / 2.0},
+                                                     {x - 9 - width, y - height / 2.0},
+                                                     {middle, y - 9 - height},
+                                                     {middle, y + 9}};
+        for (const auto &[left, top] : corners) {
             if (cover.isFree(left, top, width, height)) {
                 cover.isFree(left, top, width, height, true);
                 write(picture, left, top, collar.name, 1);
