@@ -33,6 +33,7 @@ add_library(columnimport SHARED
     dialogs/HeaderSection.cpp
     dialogs/ImportDetails.cpp
     dialogs/MatchingSection.cpp
+    dialogs/RefreshStep.cpp
     dialogs/Scale.cpp
     dialogs/ScreenColumn.cpp
     dialogs/arrowBitmap.cpp
@@ -45,6 +46,7 @@ add_library(columnimport SHARED
     dragdrop/${platform}/AccessibleRows.cpp
     dragdrop/${platform}/RowMarks.cpp
     dragdrop/${platform}/clipboardText.cpp
+    dragdrop/History.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/MatchListKeys.cpp
@@ -52,6 +54,7 @@ add_library(columnimport SHARED
     dragdrop/clipboard.cpp
     dragdrop/dragText.cpp
     dragdrop/rowsText.cpp
+    dragdrop/findTyped.cpp
     dragdrop/tipWhereCut.cpp
     host/${platform}/HostStandIn.cpp
     host/${platform}/modalLoop.cpp
@@ -83,6 +86,7 @@ else()
         dragdrop/gtk/ForeignText.cpp
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
+        dragdrop/gtk/listBox.cpp
         dragdrop/gtk/markColours.cpp
         host/gtk/frameShadow.cpp)
     include(cmake/ProposeLibrary.cmake)

@@ -9,6 +9,7 @@
 #include "delimited/readPreview.h"
 #include "dialogs/DelimiterField.h"
 #include "dialogs/ImportDetails.h"
+#include "dialogs/RefreshStep.h"
 #include "dialogs/Scale.h"
 #include "dialogs/headerSentence.h"
 #include "dialogs/nativeControls.h"
@@ -117,6 +118,7 @@ void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
     if (typed.empty() || typed.front() == m_delimiter) {
         return;
     }
+    columnimport::RefreshStep::begin(*this, std::move(m_fileSchema));
     m_delimiter = typed.front();
     loadHeader();
     wxCommandEvent refresh(wxEVT_NULL, 0);

@@ -6,6 +6,7 @@
 #include "dialogs/wxImportCSVDialog.h"
 
 #include "dialogs/ImportDetails.h"
+#include "dialogs/RefreshStep.h"
 #include "dialogs/Scale.h"
 #include "dialogs/arrowBitmap.h"
 #include "dialogs/fitToScreen.h"
@@ -35,6 +36,7 @@ using columnimport::findControl;
 using columnimport::ImportDetails;
 using columnimport::ListBoxSource;
 using columnimport::ListCtrlSource;
+using columnimport::RefreshStep;
 using columnimport::TextDropTarget;
 using columnimport::translated;
 
@@ -64,19 +66,15 @@ void showFileColumns(ListBoxSource &list, std::vector<std::string> names,
     for (std::string &name : names) {
         items.push_back(book.addColumn(std::move(name)));
     }
-    if (!items.empty()) {
-        list.Append(items);
-    }
+    list.showNames(std::move(items));
 }
 
 void showMatches(ListCtrlSource &list, const std::vector<std::int32_t> &positions,
                  const std::vector<std::string> &appColumns) {
     assert(positions.size() <= appColumns.size());
-    for (std::size_t index = 0; index < positions.size(); ++index) {
-        const auto row = static_cast<long>(index);
-        list.InsertItem(row, list.names().textOf(positions[index]));
-        list.SetItem(row, wxImportCSVDialog::COLUMN_APP, columnimport::shownText(appColumns[index]),
-                     -1);
+    for (std::size_t row = 0; row < positions.size(); ++row) {
+        list.appendRow(list.names().textOf(positions[row]),
+                       columnimport::shownText(appColumns[row]));
     }
 }
 
@@ -147,6 +145,15 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
             },
             wxID_OK);
     }
+    Bind(wxEVT_CHAR_HOOK, [matches](wxKeyEvent &key) {
+        if (key.GetModifiers() == wxMOD_CONTROL && key.GetKeyCode() == 'Z') {
+            matches->history().undo();
+        } else if (key.GetModifiers() == wxMOD_CONTROL && key.GetKeyCode() == 'Y') {
+            matches->history().redo();
+        } else {
+            key.Skip();
+        }
+    });
 
     columnimport::fitToScreen(*this, *sizer);
     SetSizerAndFit(sizer, true);
@@ -156,13 +163,16 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     onCheckHeader(refresh);
 }
 
-void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
+void wxImportCSVDialog::onCheckHeader(wxCommandEvent &event) {
+    // Whoever else refreshes the lists has changed something before.
+    if (event.GetEventType() == wxEVT_CHECKBOX) {
+        RefreshStep::begin(*this);
+    }
     const wxCheckBox *firstLine = firstLineBoxOf(*this);
     ListBoxSource &files = fileListOf(*this);
     ListCtrlSource &matches = matchListOf(*this);
     const wxWindowUpdateLocker fileListLock(&files);
     const wxWindowUpdateLocker matchListLock(&matches);
-    files.Clear();
     matches.DeleteAllItems();
     matches.names().clear();
     if (firstLine != nullptr) {
@@ -177,6 +187,7 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &) {
                     matches.names());
     showMatches(matches, opening, m_appColumns);
     applyListBoxMatchFont();
+    matches.showUse();
     matches.layOutRows();
 }
 
@@ -188,6 +199,7 @@ void wxImportCSVDialog::applyListBoxMatchFont() {
 }
 
 void wxImportCSVDialog::onBtnRematch(wxCommandEvent &event) {
+    RefreshStep::begin(*this);
     if (wxCheckBox *firstLine = firstLineBoxOf(*this)) {
         firstLine->SetValue(true);
     }

@@ -41,6 +41,10 @@ public:
         Show(!text.empty());
     }
 
+    const wxString &said(Matter matter) const {
+        return m_sentences.at(static_cast<std::size_t>(matter));
+    }
+
 private:
     std::array<wxString, 2> m_sentences; // by their matters
 };
@@ -49,6 +53,10 @@ private:
 
 void say(wxWindow &inside, Matter matter, const wxString &sentence) {
     findControl<QuietSentence>(inside, sentenceId)->say(matter, sentence);
+}
+
+wxString said(wxWindow &inside, Matter matter) {
+    return findControl<QuietSentence>(inside, sentenceId)->said(matter);
 }
 
 void addQuietSentence(wxWindow &dialog, wxBoxSizer &row, int gap) {

@@ -19,6 +19,9 @@ enum class Matter : unsigned char { source, matching };
 ///     say(*this, Matter::source, wxString());
 void say(wxWindow &inside, Matter matter, const wxString &sentence);
 
+/// What was said last on `matter`, or nothing.
+wxString said(wxWindow &inside, Matter matter);
+
 /// Gives `dialog` its place for sentences: what the other items leave free in `row`, but for `gap`
 /// pixels at the left and the top. Whether anything is said there moves nothing.
 void addQuietSentence(wxWindow &dialog, wxBoxSizer &row, int gap);

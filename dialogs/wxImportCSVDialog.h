@@ -13,6 +13,7 @@
 class wxBoxSizer;
 
 namespace columnimport {
+class RefreshStep;
 struct ImportDetails;
 class TextDropTarget;
 } // namespace columnimport
@@ -119,6 +120,8 @@ protected:
     void setFileSchema(std::vector<std::string> fileSchema);
 
 private:
+    friend class columnimport::RefreshStep;
+
     std::vector<std::string> m_appColumns;
     std::vector<std::string> m_fileSchema;
     char m_delimiter;

@@ -6,7 +6,13 @@
 #include "dragdrop/clipboard.h"
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
+#include "dragdrop/findTyped.h"
 #include "dragdrop/tipWhereCut.h"
+#include "listBox.h" // of the platform
+
+#include <utility>
+
+#include <wx/time.h>
 
 namespace columnimport {
 
@@ -15,23 +21,52 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
     : wxListBox(parent, id, position, size) {
     Bind(wxEVT_LEFT_DOWN, &ListBoxSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListBoxSource::onMouseMove, this, wxID_ANY, wxID_ANY);
-    Bind(wxEVT_LEFT_DCLICK, &ListBoxSource::onLeftDown, this);
+    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent &event) { assign(HitTest(event.GetPosition())); });
+    // Also what a screen reader does with an entry.
+    Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent &event) { assign(event.GetInt()); });
+    Bind(wxEVT_CHAR_HOOK, &ListBoxSource::onReturn, this);
     Bind(wxEVT_KEY_DOWN, &ListBoxSource::onKeyDown, this);
+    Bind(wxEVT_CHAR, &ListBoxSource::onCharacter, this);
     // The control would select an entry with any button.
     for (const auto &press :
          {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
         Bind(press, [](wxMouseEvent &) {});
     }
+    hearReturn(*this);
 }
 
 ListBoxSource::~ListBoxSource() = default;
+
+void ListBoxSource::showNames(wxArrayString names) {
+    Clear();
+    m_names = std::move(names);
+    m_isUsed.assign(m_names.size(), false);
+    if (!m_names.empty()) {
+        Append(m_names);
+    }
+}
+
+void ListBoxSource::showUse(const std::unordered_set<std::wstring> &used) {
+    constexpr const wchar_t *checkMark = L" \x2713";
+    for (unsigned row = 0; row < m_names.size(); ++row) {
+        const bool isUsed = used.count(m_names[row].ToStdWstring()) != 0;
+        if (isUsed != m_isUsed[row]) {
+            m_isUsed[row] = isUsed;
+            SetString(row, isUsed ? m_names[row] + checkMark : m_names[row]);
+        }
+    }
+}
+
+wxString ListBoxSource::GetString(unsigned row) const {
+    return m_names[row];
+}
 
 // The control is not told of the press, so it takes no focus by itself.
 void ListBoxSource::onLeftDown(wxMouseEvent &event) {
     SetFocus();
     const int row = HitTest(event.GetPosition());
     if (row >= 0) {
-        SetSelection(row);
+        goToEntry(*this, row);
     }
 }
 
@@ -56,6 +91,45 @@ void ListBoxSource::onKeyDown(wxKeyEvent &event) {
         copyText(GetString(static_cast<unsigned>(row)));
     } else {
         event.Skip();
+    }
+}
+
+// The control would take Return for a second click too.
+void ListBoxSource::onReturn(wxKeyEvent &event) {
+    if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
+        event.Skip();
+    } else if (event.ControlDown()) {
+        assign(GetSelection());
+    } else {
+        wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
+        wxGetTopLevelParent(this)->GetEventHandler()->AddPendingEvent(ok);
+    }
+}
+
+void ListBoxSource::onCharacter(wxKeyEvent &event) {
+    const wxChar character = event.GetUnicodeKey();
+    if (event.HasModifiers() || character < WXK_SPACE || character == WXK_DELETE) {
+        event.Skip();
+        return;
+    }
+    constexpr int pause = 1500; // after which another name is meant
+    const wxLongLong now = wxGetUTCTimeMillis();
+    if (now - m_typedAt > pause) {
+        m_typed.clear();
+    }
+    m_typedAt = now;
+    m_typed += character;
+    const int found = findTyped(m_names, m_typed, GetSelection());
+    if (found != wxNOT_FOUND) {
+        goToEntry(*this, found);
+    }
+}
+
+void ListBoxSource::assign(int row) {
+    m_typed.clear();
+    if (row != wxNOT_FOUND) {
+        findControl<ListCtrlSource>(*this, matchListId)
+            ->assign(GetString(static_cast<unsigned>(row)));
     }
 }
 

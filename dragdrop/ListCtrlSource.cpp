@@ -2,6 +2,7 @@
 
 #include "dragdrop/ListCtrlSource.h"
 
+#include "dragdrop/ListBoxSource.h"
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
 #include "dragdrop/rowsText.h"
@@ -9,6 +10,7 @@
 #include "languages/translated.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace columnimport {
 
@@ -33,27 +35,87 @@ ListCtrlSource::~ListCtrlSource() {
 }
 
 std::string ListCtrlSource::getMatchText(int row) const {
-    return m_names.bytesOf(GetItemText(row, matchColumn));
+    return m_names->bytesOf(GetItemText(row, matchColumn));
 }
 
 SourceMatch ListCtrlSource::getMatch(int row) const {
     const wxString text = GetItemText(row, matchColumn);
-    if (text == m_names.textOf(NameBook::noColumn)) {
+    if (text == m_names->textOf(NameBook::noColumn)) {
         return {};
     }
-    return {m_names.positionOf(text), m_names.bytesOf(text)};
+    return {m_names->positionOf(text), m_names->bytesOf(text)};
 }
 
-void ListCtrlSource::setMatchText(long row, const wxString &text) {
-    SetItem(row, matchColumn, text, -1);
-    applyMatchFont(row);
-    m_accessible.tell({row});
+void ListCtrlSource::appendRow(const wxString &matchText, const wxString &application) {
+    const long row = InsertItem(GetItemCount(), matchText);
+    SetItem(row, matchColumn + 1, application, -1);
 }
 
-void ListCtrlSource::setMarkedMatchTexts(const wxString &text) {
-    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
-        setMatchText(row, text);
+std::vector<wxString> ListCtrlSource::matchTexts() const {
+    std::vector<wxString> texts;
+    for (long row = 0; row < GetItemCount(); ++row) {
+        texts.push_back(GetItemText(row, matchColumn));
     }
+    return texts;
+}
+
+void ListCtrlSource::setMatchTexts(const std::vector<long> &rows, const wxString &text) {
+    if (rows.empty()) {
+        return;
+    }
+    std::vector<wxString> texts(rows.size(), text);
+    exchange(rows, texts);
+    m_history.add([this, rows, texts]() mutable {
+        exchange(rows, texts);
+        EnsureVisible(rows.front());
+    });
+}
+
+void ListCtrlSource::exchange(const std::vector<long> &rows, std::vector<wxString> &texts) {
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        const wxString before = GetItemText(rows[index], matchColumn);
+        SetItem(rows[index], matchColumn, texts[index], -1);
+        applyMatchFont(rows[index]);
+        texts[index] = before;
+    }
+    showUse();
+    m_accessible.tell(rows);
+}
+
+void ListCtrlSource::assign(const wxString &text) {
+    std::vector<long> rows = m_keys.chosenRows();
+    if (rows.empty() && nextUnusedRow(-1) != -1) {
+        rows.push_back(nextUnusedRow(-1));
+    }
+    if (rows.empty()) {
+        return;
+    }
+    setMatchTexts(rows, text);
+    clearMarkedRows();
+    const long next = nextUnusedRow(rows.back());
+    m_keys.goTo(next != -1 ? next : rows.back());
+}
+
+long ListCtrlSource::nextUnusedRow(long row) const {
+    for (long step = 1; step <= GetItemCount(); ++step) {
+        const long next = (row + step) % GetItemCount();
+        if (isUnused(next)) {
+            return next;
+        }
+    }
+    return -1;
+}
+
+void ListCtrlSource::showUse() {
+    std::unordered_set<std::wstring> used;
+    for (const wxString &text : matchTexts()) {
+        used.insert(text.ToStdWstring());
+    }
+    findControl<ListBoxSource>(*this, fileListId)->showUse(used);
+}
+
+bool ListCtrlSource::isUnused(long row) const {
+    return m_names->isUnused(GetItemText(row, matchColumn));
 }
 
 void ListCtrlSource::applyMatchFont(long row) {
@@ -62,8 +124,7 @@ void ListCtrlSource::applyMatchFont(long row) {
     if (!font.IsOk()) {
         font = GetFont();
     }
-    const bool isUnused = m_names.isUnused(GetItemText(row, matchColumn));
-    font.SetWeight(isUnused ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
+    font.SetWeight(isUnused(row) ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
     SetItemFont(row, font);
 }
 
@@ -117,11 +178,15 @@ void ListCtrlSource::clearMarkedRows() {
 }
 
 int ListCtrlSource::countMarkedRows() const {
-    int count = 0;
+    return static_cast<int>(markedRows().size());
+}
+
+std::vector<long> ListCtrlSource::markedRows() const {
+    std::vector<long> rows;
     for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
-        ++count;
+        rows.push_back(row);
     }
-    return count;
+    return rows;
 }
 
 long ListCtrlSource::nextMarkedRow(long row) const {

@@ -4,12 +4,15 @@
 
 #include "AccessibleRows.h" // of the platform
 #include "RowMarks.h"       // of the platform
+#include "dragdrop/History.h"
 #include "dragdrop/MatchListKeys.h"
 #include "names/NameBook.h"
 #include "names/SourceMatch.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
+#include <vector>
 
 #include <wx/listctrl.h>
 
@@ -38,15 +41,33 @@ public:
     /// What stands in `row`.
     SourceMatch getMatch(int row) const;
 
-    /// Writes a match text into `row`, as it is to be shown, and gives the row the weight that goes
-    /// with it.
-    void setMatchText(long row, const wxString &text);
+    /// Appends a row with these texts.
+    void appendRow(const wxString &matchText, const wxString &application);
 
-    /// The same for all marked rows.
-    void setMarkedMatchTexts(const wxString &text);
+    /// The match texts of all rows, as they are shown.
+    std::vector<wxString> matchTexts() const;
+
+    /// Writes a match text into `rows`, as it is to be shown, gives them the weight that goes with
+    /// it, and tells all who are concerned. It is one step of the history.
+    void setMatchTexts(const std::vector<long> &rows, const wxString &text);
+
+    /// Writes it into the marked rows or else into the current one, which before anything was
+    /// chosen is the first that reads "Not used". Then no row is marked, and the next one that
+    /// reads "Not used" is the current one: a person goes on with the next name.
+    void assign(const wxString &text);
+
+    /// What was done in this list, or made it anew.
+    History &history() { return m_history; }
 
     /// The book of the columns that this dialog shows.
-    NameBook &names() { return m_names; }
+    NameBook &names() { return *m_names; }
+
+    /// Goes by `names` from now on, and gives the book back by which it went so far. The rows are
+    /// to be made anew.
+    void exchangeNames(std::unique_ptr<NameBook> &names) { m_names.swap(names); }
+
+    /// Whether `row` reads "Not used".
+    bool isUnused(long row) const;
 
     /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.
     void applyMatchFont(long row);
@@ -72,13 +93,23 @@ public:
     /// Marks the rows from `one` to `other`, both included, in either order.
     void markRows(long one, long other);
 
+    /// Has the list of file columns tell which of them the rows hold.
+    void showUse();
+
     void clearMarkedRows();
     int countMarkedRows() const;
+    std::vector<long> markedRows() const;
 
     /// The first marked row behind `row`, or -1; -1 starts at the first row.
     long nextMarkedRow(long row) const;
 
 private:
+    /// Writes one text into each of `rows`, and keeps in its place what the row held before.
+    void exchange(const std::vector<long> &rows, std::vector<wxString> &texts);
+
+    /// The first row behind `row`, or else from the first one on, that reads "Not used"; or -1.
+    long nextUnusedRow(long row) const;
+
     void onLeftDown(wxMouseEvent &event);
     void onLeftUp(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
@@ -86,7 +117,8 @@ private:
     /// Tells the whole name in `row` at `position` if the column is too narrow for it.
     void tipWhereCutAt(const wxPoint &position, long row);
 
-    NameBook m_names;
+    std::unique_ptr<NameBook> m_names = std::make_unique<NameBook>();
+    History m_history;
     RowMarks m_marks;
     AccessibleRows m_accessible;
     std::int32_t m_lastClickedRow = -1; // the anchor of a Shift range; survives a refresh

@@ -25,6 +25,13 @@ void MatchListKeys::startFrom(long row) {
     m_anchor = row;
 }
 
+void MatchListKeys::goTo(long row) {
+    startFrom(row);
+    m_list.EnsureVisible(row);
+    m_list.clearHoverRows();
+    m_list.hoverOver(row);
+}
+
 long MatchListKeys::currentRow() const {
     return m_list.GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED);
 }
@@ -76,20 +83,11 @@ void MatchListKeys::markCurrentRow(bool alone) {
 }
 
 std::vector<long> MatchListKeys::chosenRows() const {
-    std::vector<long> rows;
-    for (long row = m_list.nextMarkedRow(-1); row != -1; row = m_list.nextMarkedRow(row)) {
-        rows.push_back(row);
-    }
+    std::vector<long> rows = m_list.markedRows();
     if (rows.empty() && currentRow() >= 0) {
         rows.push_back(currentRow());
     }
     return rows;
-}
-
-void MatchListKeys::setMatchTexts(const std::vector<long> &rows, const wxString &text) {
-    for (const long row : rows) {
-        m_list.setMatchText(row, text);
-    }
 }
 
 void MatchListKeys::copy(long row) {
@@ -100,7 +98,7 @@ void MatchListKeys::copy(long row) {
 
 void MatchListKeys::paste(const std::vector<long> &rows) {
     m_paste.start([this, rows](const wxString &text) {
-        setMatchTexts(rows, m_list.names().textOfForeign(text));
+        m_list.setMatchTexts(rows, m_list.names().textOfForeign(text));
     });
 }
 
@@ -147,7 +145,7 @@ std::function<void()> MatchListKeys::workOf(const wxKeyEvent &key) {
     case WXK_DELETE:
     case WXK_NUMPAD_DELETE:
         return [this, rows = chosenRows()] {
-            setMatchTexts(rows, m_list.names().textOf(NameBook::noColumn));
+            m_list.setMatchTexts(rows, m_list.names().textOf(NameBook::noColumn));
         };
     case WXK_RETURN:
     case WXK_NUMPAD_ENTER:

@@ -8,7 +8,6 @@
 #include <vector>
 
 class wxKeyEvent;
-class wxString;
 
 namespace columnimport {
 
@@ -26,6 +25,12 @@ public:
 
     /// The keys go on from `row`, which was clicked on.
     void startFrom(long row);
+
+    /// The same, and `row` is shown as the current one.
+    void goTo(long row);
+
+    /// The marked rows, or else the current one, or none before a row was chosen.
+    std::vector<long> chosenRows() const;
 
 private:
     void onKeyDown(wxKeyEvent &event);
@@ -46,11 +51,6 @@ private:
     void moveCurrentRow(long row, const wxKeyEvent &key);
 
     void markCurrentRow(bool alone);
-
-    /// The marked rows, or else the current one.
-    std::vector<long> chosenRows() const;
-    void setMatchTexts(const std::vector<long> &rows, const wxString &text);
-
     void copy(long row);
     void paste(const std::vector<long> &rows);
     void pressOk();

@@ -32,13 +32,14 @@ wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult sugge
 
 bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     if (m_matchList != nullptr) {
-        m_matchList->setMarkedMatchTexts(m_matchList->names().textOf(NameBook::noColumn));
+        m_matchList->setMatchTexts(m_matchList->markedRows(),
+                                   m_matchList->names().textOf(NameBook::noColumn));
         return true;
     }
     auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);
     const long row = list.rowAt(wxPoint(x, y));
     if (row >= 0) {
-        list.setMatchText(row, list.names().textOfForeign(text));
+        list.setMatchTexts({row}, list.names().textOfForeign(text));
     }
     return true;
 }

@@ -88,6 +88,12 @@ void Person::strike(int key) {
     keyUp(key);
 }
 
+void Person::strikeWith(int modifier, int key) {
+    keyDown(modifier);
+    strike(key);
+    keyUp(modifier);
+}
+
 namespace {
 
 wxTextCtrl &delimiterField() {

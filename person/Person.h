@@ -49,6 +49,9 @@ public:
     void keyUp(int key);
     void strike(int key);
 
+    /// Strikes a key while `modifier` is held down.
+    void strikeWith(int modifier, int key);
+
     /// Replaces the content of the delimiter field by one character.
     void typeDelimiter(char character);
     void emptyDelimiter();

@@ -85,6 +85,24 @@ void takeDrag() {
     });
 }
 
+void takeAssignments() {
+    DialogRun run = runOf("Import assays", assayColumns, "assays.csv");
+    run.useSavedMatches = true;
+    run.matches = {"HOLE-ID", "From (m)", "To (m)", "", "", "", "", "", ""};
+    run.show([](Person &person) {
+        for (const int entry : {4, 5}) {
+            const int row = entry - 1;
+            const std::string name =
+                read([entry] { return fileList().GetString(entry); }).utf8_string();
+            person.click(Person::fileRow(entry));
+            person.click(Person::fileRow(entry));
+            waitForRow(row, name);
+        }
+        takePicture("assigning");
+        pressCancel(person);
+    });
+}
+
 void takeMarks() {
     runOf("Import assays", assayColumns, "assays.csv").show([](Person &person) {
         person.click(Person::matchRow(6));
@@ -162,6 +180,7 @@ int main(int argumentCount, char **arguments) {
     try {
         takeProposal();
         takeDrag();
+        takeAssignments();
         takeMarks();
         takeDelimiter();
         takeDelimiterMenu();

@@ -43,12 +43,6 @@ protected:
         ASSERT_EQ(read(focus), controlId);
     }
 
-    static void strike(Person &person, int modifier, int key) {
-        person.keyDown(modifier);
-        person.strike(key);
-        person.keyUp(modifier);
-    }
-
     static void expectRows(const Rows &marked, const Rows &hover) {
         poll("marked are " + testing::PrintToString(marked) + " and in hover is " +
                  testing::PrintToString(hover),
@@ -94,14 +88,14 @@ TEST_F(Keyboard, ArrowsMoveTheCurrentRowAndSpaceMarks) {
         expectRows({}, {1});
         person.strike(WXK_SPACE);
         expectRows({1}, {});
-        strike(person, WXK_CONTROL, WXK_DOWN);
-        strike(person, WXK_CONTROL, WXK_DOWN);
-        strike(person, WXK_CONTROL, WXK_SPACE);
+        person.strikeWith(WXK_CONTROL, WXK_DOWN);
+        person.strikeWith(WXK_CONTROL, WXK_DOWN);
+        person.strikeWith(WXK_CONTROL, WXK_SPACE);
         expectRows({1, 3}, {});
-        strike(person, WXK_SHIFT, WXK_UP);
+        person.strikeWith(WXK_SHIFT, WXK_UP);
         expectRows({2, 3}, {});
-        strike(person, WXK_SHIFT, WXK_DOWN);
-        strike(person, WXK_SHIFT, WXK_DOWN);
+        person.strikeWith(WXK_SHIFT, WXK_DOWN);
+        person.strikeWith(WXK_SHIFT, WXK_DOWN);
         expectRows({3, 4}, {});
         person.strike(WXK_UP);
         expectRows({}, {3});
@@ -141,11 +135,11 @@ TEST_F(Keyboard, GoesOnFromAClick) {
         person.click(Person::matchRow(0));
         person.strike(WXK_DOWN);
         person.click(Person::fileRow(1));
-        strike(person, WXK_CONTROL, 'c');
+        person.strikeWith(WXK_CONTROL, 'c');
         person.click(Person::matchRow(3));
-        strike(person, WXK_CONTROL, 'v');
+        person.strikeWith(WXK_CONTROL, 'v');
         expectTexts({"HOLE", "FROM", "TO", "FROM", "CU"});
-        strike(person, WXK_SHIFT, WXK_DOWN);
+        person.strikeWith(WXK_SHIFT, WXK_DOWN);
         expectRows({3, 4}, {});
         person.strike(WXK_ESCAPE);
     });
@@ -156,16 +150,16 @@ TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
         tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
         person.strike(WXK_HOME);
         waitUntil("an entry is selected", [] { return fileList().GetSelection() == 0; });
-        strike(person, WXK_CONTROL, 'c');
+        person.strikeWith(WXK_CONTROL, 'c');
         person.strike(WXK_TAB);
         poll("the match list has the focus",
              [] { return read(focus) == wxImportCSVDialog::LISTBOX_MATCH; });
         person.strike(WXK_END);
         expectRows({}, {4});
-        strike(person, WXK_CONTROL, 'v');
+        person.strikeWith(WXK_CONTROL, 'v');
         expectTexts({"HOLE", "FROM", "TO", "AU", "HOLE"});
         person.strike(WXK_UP);
-        strike(person, WXK_SHIFT, WXK_UP);
+        person.strikeWith(WXK_SHIFT, WXK_UP);
         expectRows({2, 3}, {});
         person.strike(WXK_DELETE);
         expectTexts({"HOLE", "FROM", "Not used", "Not used", "HOLE"});
@@ -173,15 +167,47 @@ TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
         person.strike(WXK_HOME);
         person.strike(WXK_DOWN);
         expectRows({}, {1});
-        strike(person, WXK_CONTROL, 'c');
+        person.strikeWith(WXK_CONTROL, 'c');
         person.strike(WXK_DELETE);
         expectTexts({"HOLE", "Not used", "Not used", "Not used", "HOLE"});
         person.strike(WXK_HOME);
-        strike(person, WXK_CONTROL, 'v');
+        person.strikeWith(WXK_CONTROL, 'v');
         expectTexts({"FROM", "Not used", "Not used", "Not used", "HOLE"});
         person.strike(WXK_RETURN);
     }));
     EXPECT_EQ(run.matches, (Names{"FROM", "", "", "", "HOLE"}));
+}
+
+TEST_F(Keyboard, ColumnsAreFoundByTypingAndAssignedOneAfterAnother) {
+    run.matches = {"HOLE", "", "TO", "", ""};
+    EXPECT_TRUE(run.show([](Person &person) {
+        const auto type = [&person](const std::string &typed, int entry) {
+            for (const char character : typed) {
+                person.strike(character);
+            }
+            waitUntil(typed + " is found", [entry] { return fileList().GetSelection() == entry; });
+        };
+        tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
+        type("ro", 1);
+        person.strikeWith(WXK_CONTROL, WXK_RETURN);
+        expectRows({}, {3});
+        type("c", 4);
+        person.strike(WXK_UP);
+        type("", 3);
+        person.strikeWith(WXK_CONTROL, WXK_RETURN);
+        expectTexts({"HOLE", "FROM", "TO", "AU", "Not used"});
+        expectRows({}, {4});
+        person.click(Person::matchRow(0));
+        person.strikeWith(WXK_CONTROL, 'z');
+        expectTexts({"HOLE", "FROM", "TO", "Not used", "Not used"});
+        person.click(Person::fileRow(4));
+        person.click(Person::fileRow(4));
+        expectTexts({"CU", "FROM", "TO", "Not used", "Not used"});
+        expectRows({}, {3});
+        person.strikeWith(WXK_CONTROL, 'y');
+        person.strike(WXK_RETURN);
+    }));
+    EXPECT_EQ(run.matches, (Names{"CU", "FROM", "TO", "", ""}));
 }
 
 TEST_F(Keyboard, ReturnIsOkAndEscapeAndItsLetterAreCancelInBothLists) {
@@ -194,7 +220,7 @@ TEST_F(Keyboard, ReturnIsOkAndEscapeAndItsLetterAreCancelInBothLists) {
                 if (key != 'c') {
                     person.strike(key);
                 } else if (read([] { return control(wxID_CANCEL).GetLabel().Contains("&"); })) {
-                    strike(person, WXK_ALT, key);
+                    person.strikeWith(WXK_ALT, key);
                 } else { // Windows gives Cancel no letter.
                     person.strike(WXK_ESCAPE);
                 }

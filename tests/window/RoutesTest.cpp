@@ -55,6 +55,14 @@ Steps type(char character) {
     return [character](Person &person) { person.typeDelimiter(character); };
 }
 
+void undo(Person &person) {
+    person.strikeWith(WXK_CONTROL, 'z');
+}
+
+void redo(Person &person) {
+    person.strikeWith(WXK_CONTROL, 'y');
+}
+
 /// One thing that a person does, and what both lists show afterwards.
 struct Step {
     Steps action;
@@ -95,14 +103,19 @@ void expectToTake(const Route &route, const std::string &path) {
     run.useSavedMatches = route.useSaved;
     run.matches = route.saved;
     run.firstLineHeader = route.firstLineHeader;
-    const auto act = [&route](Person &person) {
+    const bool isTable = route.source == aTable || route.source == emptyTable;
+    wxString delimiter;
+    const auto act = [&](Person &person) {
         for (const Step &step : route.steps) {
             step.action(person);
             expectShown(step.shown, route.name);
         }
+        if (!isTable) {
+            delimiter =
+                read([] { return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue(); });
+        }
         pressOk(person);
     };
-    const bool isTable = route.source == aTable || route.source == emptyTable;
     EXPECT_TRUE(isTable ? run.showTable(route.source == aTable ? titles : Names(), act)
                         : run.show(act));
     const Lists &last = route.steps.back().shown;
@@ -110,6 +123,7 @@ void expectToTake(const Route &route, const std::string &path) {
     std::replace(result.begin(), result.end(), std::string("Not used"), std::string());
     EXPECT_EQ(run.matches, result) << route.name;
     EXPECT_TRUE(isTable || run.firstLineHeader == (last.fileColumns != numbered.fileColumns));
+    EXPECT_TRUE(isTable || delimiter == run.delimiter) << route.name;
     EXPECT_EQ(run.useSavedMatches, route.useSaved) << route.name;
 }
 
@@ -125,9 +139,11 @@ TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
         {"a first run", depth, false, true, aFile,
          {{look, proposed}, {tick, numbered}, {tick, proposed}, {tick, numbered}}},
         {"saved matches", partly, true, true, aFile,
-         {{look, onlyDepth}, {tick, numbered}, {tick, onlyDepth}}},
+         {{look, onlyDepth}, {undo, onlyDepth}, {tick, numbered}, {undo, onlyDepth}, {redo, numbered},
+          {tick, onlyDepth}}},
         {"a reset", depth, true, true, aFile,
-         {{look, onlyDepth}, {tick, numbered}, {reset, proposed}, {tick, numbered}, {tick, proposed}}},
+         {{look, onlyDepth}, {tick, numbered}, {reset, proposed}, {undo, numbered}, {tick, onlyDepth},
+          {reset, proposed}, {tick, numbered}, {tick, proposed}}},
         {"no titles at the start", depth, true, false, aFile, {{look, numbered}, {tick, proposed}}},
         {"no saved matches", {}, true, true, aFile, {{look, proposed}}},
         {"saved matches without a name", Names(4), true, true, aFile, {{look, proposed}}},
@@ -135,13 +151,17 @@ TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
         {"more saved matches than rows", tooMany, true, true, aFile, {{look, onlyDepth}}},
         {"another delimiter", both, true, true, aFile,
          {{type('X'), unmatched({"BHID,UTM", ",Depth (m)"})}, {type(','), unmatched(titles)},
-          {type(';'), unmatched({"BHID,UTM X,Depth (m)"})}}},
+          {type(';'), unmatched({"BHID,UTM X,Depth (m)"})}, {undo, unmatched(titles)},
+          {type(';'), unmatched({"BHID,UTM X,Depth (m)"})}, {undo, unmatched(titles)},
+          {redo, unmatched({"BHID,UTM X,Depth (m)"})}}},
         {"a drag, and what keeps and drops it", {}, false, true, aFile,
-         {{drag, withDepth}, {type(','), withDepth}, {reset, proposed}}},
+         {{drag, withDepth}, {type(','), withDepth}, {undo, proposed}, {redo, withDepth},
+          {reset, proposed}, {drag, withDepth}, {undo, proposed}, {undo, withDepth}, {undo, withDepth},
+          {redo, proposed}, {redo, withDepth}, {redo, withDepth}, {undo, proposed}}},
         {"a table by position", depth, false, true, aTable,
          {{look, numbered}, {reset, numbered}}},
         {"a table's proposal", {"", ""}, true, true, aTable,
-         {{look, proposed}, {drag, withDepth}, {reset, proposed}}},
+         {{look, proposed}, {drag, withDepth}, {reset, proposed}, {undo, withDepth}}},
         {"a table's saved matches", partly, true, false, aTable,
          {{look, onlyDepth}, {reset, proposed}}},
         {"an empty table", {}, true, true, emptyTable, {{look, empty}}},

@@ -37,6 +37,11 @@ def names(node):
     return [node.get_child_at_index(row).get_name() for row in range(node.get_child_count())]
 
 
+def act(node, action):
+    actions = [node.get_action_name(index) for index in range(node.get_n_actions())]
+    node.do_action(actions.index(action))
+
+
 heard = []
 ears = Atspi.EventListener.new(lambda event: heard.append(event.any_data))
 ears.register("object:announcement")
@@ -56,4 +61,10 @@ rows.select_child(2)
 expect("the marked rows", lambda: [row for row in range(3) if rows.is_child_selected(row)], [2])
 expect("a mark", lambda: "selected" in states(rows.get_child_at_index(2)))
 
-find("push button", "OK").do_action(0)
+act(find("table cell", "CU"), "activate")
+expect("what is heard", lambda: heard, ["copper: CU"])
+expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: CU"])
+expect("a mark at a column in use", lambda: find("table cell", "CU \N{CHECK MARK}") is not None)
+expect("the next row", lambda: "focused" in states(rows.get_child_at_index(1)))
+
+act(find("push button", "OK"), "click")
