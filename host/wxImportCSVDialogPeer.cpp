@@ -24,6 +24,20 @@ std::vector<std::string> namesOf(ImportResult result) {
     return names;
 }
 
+/// What both overloads are asked for.
+ImportRequest requestOf(std::string title, std::vector<std::string> appColumns,
+                        bool useSavedMatches, const std::vector<std::string> &savedMatches,
+                        std::int32_t width, std::int32_t height) {
+    ImportRequest request;
+    request.title = std::move(title);
+    request.width = width;
+    request.height = height;
+    request.appColumns = std::move(appColumns);
+    request.useSavedMatches = useSavedMatches;
+    request.savedMatches = savedMatches;
+    return request;
+}
+
 } // namespace
 
 wxImportCSVDialogPeer::wxImportCSVDialogPeer() {
@@ -40,13 +54,8 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
                                        std::vector<std::string> *savedMatches, char *delimiter,
                                        bool *firstLineHeader, std::int32_t width,
                                        std::int32_t height) {
-    ImportRequest request;
-    request.title = std::move(title);
-    request.width = width;
-    request.height = height;
-    request.appColumns = std::move(appColumns);
-    request.useSavedMatches = *useSavedMatches;
-    request.savedMatches = *savedMatches;
+    ImportRequest request = requestOf(std::move(title), std::move(appColumns), *useSavedMatches,
+                                      *savedMatches, width, height);
     request.path = std::move(fileName);
     request.delimiter = *delimiter;
     request.holdsTitles = *firstLineHeader;
@@ -66,13 +75,8 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
                                        bool *useSavedMatches,
                                        std::vector<std::string> *savedMatches, std::int32_t width,
                                        std::int32_t height) {
-    ImportRequest request;
-    request.title = std::move(title);
-    request.width = width;
-    request.height = height;
-    request.appColumns = std::move(appColumns);
-    request.useSavedMatches = *useSavedMatches;
-    request.savedMatches = *savedMatches;
+    ImportRequest request = requestOf(std::move(title), std::move(appColumns), *useSavedMatches,
+                                      *savedMatches, width, height);
     request.path = std::move(fileName);
     request.table = std::move(fileSchema);
     std::optional<ImportResult> result;

@@ -111,8 +111,8 @@ void expectToTake(const Route &route, const std::string &path) {
             expectShown(step.shown, route.name);
         }
         if (!isTable) {
-            delimiter =
-                read([] { return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue(); });
+            delimiter = read(
+                [] { return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue(); });
         }
         pressOk(person);
     };
