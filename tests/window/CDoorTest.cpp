@@ -45,6 +45,7 @@ std::string said() {
 } // namespace
 
 TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
+    EXPECT_EQ(columnimport_show(nullptr, nullptr), columnimport_wrong_use);
     EXPECT_EQ(show([this](Person &person) {
                   EXPECT_EQ(read([this] { return columnimport_show(import.get(), nullptr); }),
                             columnimport_already_open);
