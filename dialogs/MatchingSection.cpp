@@ -66,7 +66,7 @@ void showFileColumns(ListBoxSource &list, std::vector<std::string> names,
     for (std::string &name : names) {
         items.push_back(book.addColumn(std::move(name)));
     }
-    list.showNames(std::move(items));
+    list.showNames(items);
 }
 
 void showMatches(ListCtrlSource &list, const std::vector<std::int32_t> &positions,

@@ -10,8 +10,6 @@
 #include "dragdrop/tipWhereCut.h"
 #include "listBox.h" // of the platform
 
-#include <utility>
-
 #include <wx/time.h>
 
 namespace columnimport {
@@ -37,9 +35,9 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
 
 ListBoxSource::~ListBoxSource() = default;
 
-void ListBoxSource::showNames(wxArrayString names) {
+void ListBoxSource::showNames(const wxArrayString &names) {
     Clear();
-    m_names = std::move(names);
+    m_names = names;
     m_isUsed.assign(m_names.size(), false);
     if (!m_names.empty()) {
         Append(m_names);

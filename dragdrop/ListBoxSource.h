@@ -31,7 +31,7 @@ public:
     ~ListBoxSource() override;
 
     /// Replaces all entries by `names`, none of which is in use.
-    void showNames(wxArrayString names);
+    void showNames(const wxArrayString &names);
 
     /// Shows the names that are among `used`, and no others, as in use.
     void showUse(const std::unordered_set<std::wstring> &used);

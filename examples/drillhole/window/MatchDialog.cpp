@@ -122,6 +122,7 @@ std::optional<Match> matchTable(Gtk::Window &owner, Settings &settings, const Ta
     const std::string name = table.name + " from table";
     const Door door = doorTo(table, "table " + sourceTable);
     std::vector<const char *> names;
+    names.reserve(sourceColumns.size());
     for (const std::string &column : sourceColumns) {
         names.push_back(column.c_str());
     }

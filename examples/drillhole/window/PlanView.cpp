@@ -50,7 +50,9 @@ public:
                     }
                     continue;
                 }
-                const auto place = static_cast<std::size_t>(row * m_columns + column);
+                const auto place =
+                    static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
+                    static_cast<std::size_t>(column);
                 if (!takes && m_isTaken[place]) {
                     return false;
                 }
