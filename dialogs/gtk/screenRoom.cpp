@@ -11,7 +11,8 @@ namespace columnimport {
 
 wxSize frameRoom() {
     const int screen = wxDisplay::GetFromPoint(framePlace);
-    const wxRect area = wxDisplay(screen != wxNOT_FOUND ? screen : 0).GetClientArea();
+    const wxRect area =
+        wxDisplay(static_cast<unsigned>(screen != wxNOT_FOUND ? screen : 0)).GetClientArea();
     if (GDK_IS_WAYLAND_DISPLAY(gdk_display_get_default())) {
         return area.GetSize(); // the compositor places the frame
     }
