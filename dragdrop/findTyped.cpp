@@ -2,6 +2,8 @@
 
 #include "dragdrop/findTyped.h"
 
+#include <algorithm>
+
 #include <wx/arrstr.h>
 
 namespace columnimport {
@@ -9,10 +11,10 @@ namespace columnimport {
 int findTyped(const wxArrayString &names, const wxString &typed, int selected) {
     const wxString wanted = typed.Lower();
     const std::size_t count = names.size();
-    const std::size_t from = selected < 0 ? 0 : selected + (typed.length() == 1 ? 1 : 0);
+    const int from = std::max(selected + (typed.length() == 1 ? 1 : 0), 0);
     int containing = wxNOT_FOUND;
     for (std::size_t step = 0; step < count; ++step) {
-        const std::size_t row = (from + step) % count;
+        const std::size_t row = (static_cast<std::size_t>(from) + step) % count;
         const std::size_t place = names[row].Lower().find(wanted);
         if (place == 0) {
             return static_cast<int>(row);

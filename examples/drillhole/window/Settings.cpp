@@ -89,6 +89,7 @@ void Settings::setTexts(const std::string &group, const char *key,
                         const std::vector<std::string> &texts) {
     // Names are bytes in whatever encoding, the file is UTF-8.
     std::vector<Glib::ustring> escaped;
+    escaped.reserve(texts.size());
     for (const std::string &each : texts) {
         escaped.emplace_back(Glib::strescape(each));
     }
