@@ -17,6 +17,7 @@ namespace {
 /// The matches as a host of this door knows them: by their names alone.
 std::vector<std::string> namesOf(ImportResult result) {
     std::vector<std::string> names;
+    names.reserve(result.matches.size());
     for (columnimport::SourceMatch &match : result.matches) {
         names.push_back(match.name == columnimport::notUsed ? std::string()
                                                             : std::move(match.name));

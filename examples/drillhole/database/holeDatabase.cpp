@@ -91,7 +91,7 @@ void expectOf(PGconn *server, PGresult *given, ExecStatusType expected) {
 } // namespace
 
 Session openHoles(const std::string &connection) {
-    const Session session = openDatabase(connection);
+    Session session = openDatabase(connection);
     for (const Table &table : holeTables()) {
         if (hasColumns(*session, table)) {
             continue; // also where the account may not make a table
