@@ -18,7 +18,7 @@ using namespace drillhole;
 namespace {
 
 std::string fileOf(std::string_view text) {
-    const std::string path = testing::TempDir() + "drillhole_rows_" + std::to_string(getpid());
+    std::string path = testing::TempDir() + "drillhole_rows_" + std::to_string(getpid());
     std::ofstream(path, std::ios::binary) << text;
     return path;
 }
@@ -39,7 +39,8 @@ std::string cut(std::string_view text, char delimiter, std::size_t piece) {
 }
 
 TEST(CsvFile, CutsRowsAndCountsLines) {
-    const std::string endless(9'000'000, 'x');
+    std::string endless;
+    endless.resize(9'000'000, 'x');
     const std::pair<std::string, std::string> cases[] = {
         {"a,b\n1,2", "1:[a][b] 2:[1][2] "},
         {"\xEF\xBB\xBF" + std::string("a,b\r\n\r\n1, 2 \r\n"), "1:[a][b] 3:[1][2] "},
@@ -62,7 +63,7 @@ TEST(CsvFile, CutsRowsAndCountsLines) {
     const std::string delimiters = ",,,,,,\t \",";
     for (std::size_t i = 0; i < std::size(cases); ++i) {
         const auto &[text, rows] = cases[i];
-        for (const std::size_t piece : {1000, 3, 1}) {
+        for (const std::size_t piece : {1000U, 3U, 1U}) {
             EXPECT_EQ(cut(text, i < delimiters.size() ? delimiters[i] : ',', piece), rows);
         }
     }

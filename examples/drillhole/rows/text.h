@@ -12,8 +12,8 @@ namespace drillhole {
 /// Latin-1.
 std::string asUtf8(std::string_view bytes);
 
-/// At most so many characters of the text, in UTF-8.
-std::string shortened(std::string_view text, std::size_t length);
+/// At most so many characters of the text, as `asUtf8` has it.
+std::string shortened(std::string_view bytes, std::size_t length);
 
 /// The head of a value, between quotes.
 std::string quoted(std::string_view text);
