@@ -92,8 +92,9 @@ void takeAssignments() {
     run.show([](Person &person) {
         for (const int entry : {4, 5}) {
             const int row = entry - 1;
-            const std::string name =
-                read([entry] { return fileList().GetString(entry); }).utf8_string();
+            const std::string name = read([entry] {
+                                         return fileList().GetString(static_cast<unsigned>(entry));
+                                     }).utf8_string();
             person.click(Person::fileRow(entry));
             person.click(Person::fileRow(entry));
             waitForRow(row, name);

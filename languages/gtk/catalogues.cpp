@@ -27,7 +27,7 @@ std::filesystem::path folderOfLibrary() {
 
 // As gettext has it: who lists languages in the variable is heard in every locale but C.
 std::string messageLanguages() {
-    const std::string locale = std::setlocale(LC_MESSAGES, nullptr);
+    std::string locale = std::setlocale(LC_MESSAGES, nullptr);
     if (locale == "C" || locale == "POSIX") {
         return locale;
     }

@@ -189,7 +189,7 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
     std::string text = "Hole,From,To,Au,Cu\n";
     for (int i = 0; i < 1001; ++i) {
         const std::string depth = std::to_string(i);
-        text += "LR-1," + depth + ".1," + depth + ".9,0.1,\n";
+        text.append("LR-1,").append(depth).append(".1,").append(depth).append(".9,0.1,\n");
     }
     write("assays.csv", text + "LR-1,7.1,7.9,0.1,\nLR-1,8.1,8.9,,\nLR-1,8.1,8.9,,\n");
     const ImportOutcome first = importFrom("assay", "assays.csv", match);
@@ -267,7 +267,7 @@ TEST_F(ImportTest, ShowsAViewPageByPageInBothDirections) {
                 for (const auto &row : page) {
                     pageNames += row[1] + ' ';
                 }
-                names = isBefore ? pageNames + names : names + pageNames;
+                names.insert(isBefore ? 0 : names.size(), pageNames);
                 place.key = isBefore ? page.front().front() : page.back().front();
             }
             EXPECT_EQ(names, each.names) << isBefore;
