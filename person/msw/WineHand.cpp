@@ -37,7 +37,7 @@ std::string nameOf(int key) {
 
 void WineHand::findDialog() {
     const std::string title = read([] { return openDialog().GetTitle().utf8_string(); });
-    poll("the dialog has the keys", [&] { return m_hand.isActive(title); });
+    poll("the dialog has the keys", [&] { return m_hand.hasKeys(title); });
     m_dialog = read([] { return openDialog().ClientToScreen(wxPoint()); });
 }
 

@@ -83,6 +83,8 @@ std::string Xdotool::order(const std::string &commands) {
     return printed.substr(0, printed.size() - end.size());
 }
 
-bool Xdotool::isActive(const std::string &title) {
-    return order("getactivewindow getwindowname") == title + '\n';
+// Wine moves the server's focus only some time after the window manager calls a window the active
+// one, and a key that is struck in between is lost.
+bool Xdotool::hasKeys(const std::string &title) {
+    return order("getwindowfocus -f getwindowname") == title + '\n';
 }

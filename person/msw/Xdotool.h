@@ -19,7 +19,7 @@ public:
     std::string order(const std::string &commands);
 
     /// Whether the window that has the keys on the screen has this title, in UTF-8.
-    bool isActive(const std::string &title);
+    bool hasKeys(const std::string &title);
 
 private:
     void write(const std::string &line);

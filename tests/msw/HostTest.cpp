@@ -89,7 +89,7 @@ protected:
             HWND dialog = nullptr;
             poll("the dialog takes keys", [&] {
                 dialog = FindWindowW(nullptr, L"Import of a test");
-                return isOver || (dialog != nullptr && Xdotool().isActive("Import of a test"));
+                return isOver || (dialog != nullptr && Xdotool().hasKeys("Import of a test"));
             });
             steps(dialog);
             poll("the dialog is closed", [&] { return isOver.load(); });

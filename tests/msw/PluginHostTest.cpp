@@ -20,7 +20,7 @@ using ImportNames = void(const std::string &, Names &);
 void leaveDialog() {
     Xdotool hand;
     const ULONGLONG end = GetTickCount64() + 20000;
-    while (!hand.isActive("Import") && GetTickCount64() < end) {
+    while (!hand.hasKeys("Import") && GetTickCount64() < end) {
     }
     hand.order("key Escape");
 }
