@@ -8,7 +8,7 @@
 
 #include <clocale>
 #include <cstdlib>
-#include <filesystem>
+#include <deque>
 #include <iostream>
 
 #include <glibmm/convert.h>
@@ -26,12 +26,8 @@ std::string inFolder(const std::string &folder, const std::string &name) {
     return Glib::build_filename(folder, "drillhole", name);
 }
 
-/// The table that the file is for: the one named on the command line, or in the file's name, as in
-/// collars_2021.csv. Null if neither tells.
-const Table *tableFor(const std::string &path, const Options &options) {
-    if (!options.table.empty()) {
-        return findTable(options.table);
-    }
+/// The table that the file's name tells, as in collars_2021.csv. Null if it tells none.
+const Table *tableFor(const std::string &path) {
     const std::string name = Glib::ustring(Glib::filename_display_basename(path)).lowercase();
     for (const Table &table : holeTables()) {
         if (name.find(table.name) != std::string::npos) {
@@ -41,64 +37,6 @@ const Table *tableFor(const std::string &path, const Options &options) {
     return nullptr;
 }
 
-/// Does what the command line asks for, one import after the other.
-class Errands {
-public:
-    Errands(Options options, MainWindow &window) : m_options(std::move(options)), m_window(window) {
-        m_window.signalEnded().connect([this](const ImportStory &story) { onEnded(story); });
-        m_window.signalOpened().connect([this] {
-            if (!std::exchange(m_isBegun, true)) {
-                goOnWhenIdle();
-            }
-        });
-    }
-
-    bool areDone() const { return m_areDone; }
-
-private:
-    void goOnWhenIdle() {
-        Glib::signal_idle().connect_once([this] { goOn(); });
-    }
-
-    void goOn() {
-        if (!m_options.files.empty()) {
-            const std::string path = m_options.files.front();
-            m_options.files.pop_front();
-            if (const Table *table = tableFor(path, m_options)) {
-                m_window.choose(*table);
-            }
-            m_isRunning = true;
-            m_window.importFile(path);
-        } else if (!m_options.source.empty()) {
-            m_window.choose(*findTable(m_options.table.empty() ? "collar" : m_options.table));
-            const std::string source = std::exchange(m_options.source, {});
-            m_isRunning = true;
-            if (m_options.sourceTable.empty()) {
-                m_window.chooseSourceTable(source);
-            } else {
-                m_window.importTable(source, m_options.sourceTable);
-            }
-        } else if (m_options.thenQuits) {
-            m_window.hide();
-        }
-    }
-
-    void onEnded(const ImportStory &story) {
-        if (!std::exchange(m_isRunning, false)) {
-            return;
-        }
-        print(story.fault.empty() ? std::cout : std::cerr, story);
-        m_areDone = m_areDone && story.isDone();
-        goOnWhenIdle();
-    }
-
-    Options m_options;
-    MainWindow &m_window;
-    bool m_isBegun = false;
-    bool m_isRunning = false;
-    bool m_areDone = true;
-};
-
 int run(int argc, char **argv) {
     const Options options = readOptions(argc, argv);
     // In front of GTK's own start: behind it, GTK warns that the toolkit comes too late to keep it
@@ -106,11 +44,49 @@ int run(int argc, char **argv) {
     const wxImportCSVDialogPeer peer;
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
     Settings settings(inFolder(Glib::get_user_config_dir(), "settings.ini"));
-    MainWindow window(settings, inFolder(Glib::get_user_data_dir(), "reports"));
-    const Errands errands(options, window);
-    window.open(options.connection, !options.thenQuits);
+    MainWindow window(settings, inFolder(Glib::get_user_data_dir(), "reports"), !options.thenQuits);
+
+    // What the command line asks for, one import after the other.
+    std::deque<std::function<void()>> errands;
+    const auto chooseTable = [&](const Table *otherwise) {
+        const Table *table = options.table.empty() ? otherwise : findTable(options.table);
+        if (table != nullptr) {
+            window.choose(*table);
+        }
+    };
+    for (const std::string &path : options.files) {
+        errands.emplace_back([&, path] {
+            chooseTable(tableFor(path));
+            window.importFile(path);
+        });
+    }
+    if (!options.source.empty()) {
+        errands.emplace_back([&] {
+            chooseTable(findTable("collar"));
+            window.importTable(options.source, options.sourceTable);
+        });
+    }
+    if (options.thenQuits) {
+        errands.emplace_back([&] { window.hide(); });
+    }
+
+    bool areDone = true;
+    sigc::connection atRest;
+    atRest = window.signalAtRest().connect([&](const ImportStory *ended) {
+        if (ended != nullptr) {
+            print(ended->fault.empty() ? std::cout : std::cerr, *ended);
+            areDone = areDone && ended->isDone();
+        }
+        if (errands.empty()) {
+            atRest.disconnect(); // what follows is the user's own
+        } else {
+            Glib::signal_idle().connect_once(errands.front());
+            errands.pop_front();
+        }
+    });
+    window.open(options.database);
     application->run(window);
-    return errands.areDone() ? 0 : 1;
+    return areDone ? 0 : 1;
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "examples/drillhole/rows/RowCheck.h"
 #include "examples/drillhole/window/Settings.h"
 
 #include <gtkmm/box.h>
@@ -17,10 +18,13 @@ class ChoicesBar : public Gtk::Box {
 public:
     explicit ChoicesBar(Settings &settings);
 
+    /// Shows what is kept with the table.
     void show(const Table &table);
 
+    ValueChoices choices() const;
+
 private:
-    void keep();
+    void keep(const char *key, const std::string &choice);
 
     Settings &m_settings;
     const Table *m_table = nullptr; // null while its choices are put in

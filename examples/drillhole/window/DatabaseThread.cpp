@@ -15,35 +15,39 @@ constexpr unsigned int interval = 5; // milliseconds
 
 } // namespace
 
-DatabaseThread::DatabaseThread(const std::string &connection, Open open)
-    : m_database(std::make_shared<Database>(Database{connection, open, nullptr})) {}
-
-DatabaseThread::~DatabaseThread() {
-    m_timer.disconnect();
+void DatabaseThread::use(const std::string &connection) {
+    drop();
+    m_database = std::make_shared<Database>(Database{connection, nullptr});
 }
 
-void DatabaseThread::run(Work work, Done done) {
-    m_tasks.emplace_back(std::move(work), std::move(done));
+void DatabaseThread::drop() {
+    m_timer.disconnect();
+    m_tasks.clear();
+}
+
+void DatabaseThread::add(Task task) {
+    m_tasks.push_back(std::move(task));
     if (m_tasks.size() == 1) {
         startNext();
     }
 }
 
 void DatabaseThread::startNext() {
-    m_fault = onOwnThread([database = m_database, work = m_tasks.front().first]() -> std::string {
-        try {
-            inPlainWords(database->connection, [&] {
-                if (!database->session) {
-                    database->session = database->open(database->connection);
-                }
-                work(*database->session);
-            });
-            return {};
-        } catch (const std::exception &error) {
-            database->session.reset();
-            return error.what();
-        }
-    });
+    m_fault = onOwnThread(
+        [open = m_open, database = m_database, work = m_tasks.front().work]() -> std::string {
+            try {
+                inPlainWords(database->connection, [&] {
+                    if (!database->session) {
+                        database->session = open(database->connection);
+                    }
+                    work(*database->session);
+                });
+                return {};
+            } catch (const std::exception &error) {
+                database->session.reset();
+                return error.what();
+            }
+        });
     m_timer = Glib::signal_timeout().connect([this] { return tellEnd(); }, interval);
 }
 
@@ -52,7 +56,7 @@ bool DatabaseThread::tellEnd() {
         return true;
     }
     const std::string fault = m_fault.get();
-    const Done done = std::move(m_tasks.front().second);
+    const auto done = std::move(m_tasks.front().done);
     m_tasks.pop_front();
     if (!m_tasks.empty()) {
         startNext();

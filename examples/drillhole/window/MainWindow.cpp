@@ -9,18 +9,17 @@
 #include "examples/drillhole/window/MatchDialog.h"
 #include "examples/drillhole/window/SourceDialog.h"
 
-#include <utility>
-
 #include <giomm/file.h>
+#include <giomm/menu.h>
 #include <glibmm/convert.h>
 #include <glibmm/main.h>
 #include <glibmm/miscutils.h>
 #include <gtkmm/filechoosernative.h>
 #include <gtkmm/frame.h>
-#include <gtkmm/menu.h>
 #include <gtkmm/menubutton.h>
 #include <gtkmm/messagedialog.h>
 #include <gtkmm/paned.h>
+#include <gtkmm/stackswitcher.h>
 
 namespace drillhole {
 
@@ -31,151 +30,144 @@ constexpr unsigned int progressInterval = 50; // milliseconds
 
 } // namespace
 
-MainWindow::MainWindow(Settings &settings, const std::string &reportFolder)
-    : m_settings(settings), m_reportFolder(reportFolder), m_table(&holeTables().front()),
-      m_toolbar(Gtk::ORIENTATION_HORIZONTAL, spacing),
+MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended)
+    : m_settings(settings), m_reportFolder(reportFolder), m_isAttended(isAttended),
+      m_holes(openHoles), m_source(openSource), m_controls(Gtk::ORIENTATION_VERTICAL, spacing),
       m_replace("_Replace the rows that are there", true), m_choices(settings),
-      m_grid([this](auto work, auto done) { ask(work, done); }),
       m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing) {
     set_default_size(1120, 720);
+    m_controls.pack_start(createToolbar(), Gtk::PACK_SHRINK);
+    m_controls.pack_start(m_choices, Gtk::PACK_SHRINK);
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
     all->property_margin() = 12;
-    all->pack_start(createToolbar(), Gtk::PACK_SHRINK);
-    all->pack_start(m_choices, Gtk::PACK_SHRINK);
+    all->pack_start(m_controls, Gtk::PACK_SHRINK);
     all->pack_start(createFaultBar(), Gtk::PACK_SHRINK);
-    auto *body = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_VERTICAL);
-    body->pack1(createBody(), true, false);
-    body->pack2(m_report, false, false);
-    all->pack_start(*body, Gtk::PACK_EXPAND_WIDGET);
+    all->pack_start(createBody(), Gtk::PACK_EXPAND_WIDGET);
     all->pack_start(createProgressLine(), Gtk::PACK_SHRINK);
     add(*all);
-    m_choices.show(*m_table);
     show_all_children();
 }
 
-void MainWindow::open(const std::string &connection, bool isAttended) {
+void MainWindow::open(const std::string &connection) {
     set_title("Drill holes in " + placeOf(connection));
     m_faultBar.hide();
-    m_isAttended = isAttended;
-    m_counts.clear();
-    m_thread = std::make_unique<DatabaseThread>(connection, openHoles);
-    refresh(nullptr, false);
+    m_isOpen = false;
+    m_holes.use(connection);
+    refresh(nullptr);
 }
 
 void MainWindow::chooseDatabase(const std::string &message) {
-    std::optional<SourceTable> chosen;
-    {
-        SourceDialog dialog(*this, SourceDialog::Choice::holes, m_thread->connection(), message);
-        chosen = dialog.choose();
-    }
-    if (chosen) {
-        open(chosen->connection, true);
-    } else if (m_counts.empty()) {
+    SourceDialog dialog(*this, SourceDialog::Choice::holes, m_holes.connection(), message);
+    if (const std::optional<SourceTable> chosen = dialog.choose()) {
+        open(chosen->connection);
+    } else if (!m_isOpen) {
         showFault(message);
-        m_signalOpened.emit();
+        m_signalAtRest.emit(nullptr);
     }
 }
 
 void MainWindow::choose(const Table &table) {
-    for (std::size_t i = 0; i < m_tableButtons.size(); ++i) {
-        if (&holeTables()[i] == &table) {
-            m_tableButtons[i]->set_active();
-        }
+    m_tables.set_visible_child(table.name);
+}
+
+const Table &MainWindow::table() const {
+    return *findTable(m_tables.get_visible_child_name());
+}
+
+void MainWindow::chooseFile() {
+    const auto chooser = Gtk::FileChooserNative::create("Choose a File to Import", *this,
+                                                        Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
+    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
+        importFile(chooser->get_filename());
     }
 }
 
 void MainWindow::importFile(const std::string &path) {
-    if (m_isBusy) {
-        return;
-    }
-    m_faultBar.hide();
-    ImportStory story;
-    story.table = m_table;
-    story.source = Glib::filename_display_basename(path);
-    if (askFor(story, [&] { return matchFile(*this, m_settings, *m_table, path); })) {
-        start(story, [path, match = story.match](const Destination &destination,
-                                                 ImportProgress &progress) {
-            return drillhole::importFile(destination, path, match, progress);
-        });
-    }
+    begin({path, {}, {}});
+    match({});
 }
 
-bool MainWindow::askFor(ImportStory &story, const std::function<std::optional<Match>()> &ask) {
-    try {
-        const std::optional<Match> match = story.fault.empty() ? ask() : std::nullopt;
-        story.isConfirmed = match.has_value();
-        story.match = match.value_or(Match());
-    } catch (const Fault &fault) {
-        story.fault = fault.what();
+void MainWindow::importTable(const std::string &connection, const std::string &table) {
+    begin({{}, connection, table});
+    if (table.empty()) {
+        SourceDialog dialog(*this, SourceDialog::Choice::table, connection,
+                            "Choose an SQLite file, or type how to reach a database, and connect "
+                            "to see its tables.");
+        const std::optional<SourceTable> chosen = dialog.choose();
+        if (!chosen) {
+            end();
+            return;
+        }
+        m_settings.keep("source", "connection", {withoutPassword(chosen->connection)});
+        m_story.source = {{}, chosen->connection, chosen->name};
     }
-    if (!story.isConfirmed) {
-        end(story);
-    }
-    return story.isConfirmed;
-}
-
-void MainWindow::importTable(const std::string &connection, const std::string &sourceTable) {
-    if (m_isBusy) {
-        return;
-    }
-    m_faultBar.hide();
-    ImportStory story;
-    story.table = m_table;
-    story.source = sourceTable;
-    const auto columns = std::make_shared<std::vector<std::string>>();
-    setBusy(true);
     m_progressBar.set_fraction(0);
     m_progressBar.set_text("Asking for the columns");
     m_progressLine.show();
-    m_cancel = [this, story] {
-        m_source.reset();
-        end(story);
-    };
-    m_source = std::make_unique<DatabaseThread>(connection, openSource);
-    m_source->run(
-        [sourceTable, columns](soci::session &source) {
-            *columns = columnNames(source, nameInQuery(source, sourceTable));
+    m_source.use(m_story.source.connection);
+    m_source.run(
+        [name = m_story.source.table](soci::session &source) {
+            return columnNames(source, nameInQuery(source, name));
         },
-        [this, story, connection, columns](const std::string &fault) mutable {
-            story.fault = fault;
-            m_cancel = nullptr;
+        [this](const std::vector<std::string> &columns, const std::string &fault) {
             m_progressLine.hide();
-            if (askFor(story, [&] {
-                    return matchTable(*this, m_settings, *story.table, story.source, *columns);
-                })) {
-                start(story, [connection, table = story.source, match = story.match](
-                                 const Destination &destination, ImportProgress &progress) {
-                    return drillhole::importTable(destination, connection, table, match, progress);
-                });
-            }
+            m_story.fault = fault;
+            match(columns);
         });
 }
 
-void MainWindow::start(ImportStory story, Import import, std::optional<Replace> decided) {
-    const auto progress = std::make_shared<ImportProgress>();
-    const auto outcome = std::make_shared<ImportOutcome>();
-    m_progress = progress;
-    m_cancel = [progress] { progress->isCancelled = true; };
-    m_progressTimer =
-        Glib::signal_timeout().connect([this] { return showProgress(); }, progressInterval);
-    setBusy(true);
+void MainWindow::begin(const ImportSource &source) {
+    m_faultBar.hide();
+    m_controls.set_sensitive(false);
+    m_story = ImportStory();
+    m_story.table = &table();
+    m_story.source = source;
+}
+
+void MainWindow::match(const std::vector<std::string> &columns) {
+    try {
+        if (m_story.fault.empty()) {
+            m_story.match =
+                matchColumns(*this, m_settings, *m_story.table, m_story.source, columns);
+        }
+    } catch (const Fault &fault) {
+        m_story.fault = fault.what();
+    }
+    if (m_story.match) {
+        start(m_replace.get_active() ? Replace::ifNothingIsLost : Replace::no);
+    } else {
+        end();
+    }
+}
+
+void MainWindow::start(Replace replace) {
+    m_progress = std::make_shared<ImportProgress>();
     m_progressLine.show();
+    const auto showProgress = [this, progress = m_progress] {
+        m_progressBar.set_fraction(progress->share);
+        m_progressBar.set_text(countOf(progress->rows, "row"));
+        return progress == m_progress; // or the import has ended
+    };
+    Glib::signal_timeout().connect(showProgress, progressInterval);
     const std::string report =
-        Glib::build_filename(m_reportFolder, "refused_" + story.table->name + ".csv");
-    const Replace replace =
-        decided.value_or(m_replace.get_active() ? Replace::ifNothingIsLost : Replace::no);
-    const ValueChoices choices = m_settings.choices(*story.table);
-    m_thread->run(
-        [=, table = story.table](soci::session &holes) {
-            *outcome = import({holes, *table, report, replace, choices}, *progress);
+        Glib::build_filename(m_reportFolder, "refused_" + m_story.table->name + ".csv");
+    m_holes.run(
+        [=, story = m_story, choices = m_choices.choices(),
+         progress = m_progress](soci::session &holes) {
+            const Destination destination{holes, *story.table, report, replace, choices};
+            const ImportSource &source = story.source;
+            return source.path.empty()
+                       ? drillhole::importTable(destination, source.connection, source.table,
+                                                *story.match, *progress)
+                       : drillhole::importFile(destination, source.path, *story.match, *progress);
         },
-        [this, story, outcome, import](const std::string &fault) mutable {
-            story.outcome = *outcome;
-            story.fault = fault;
-            if (!outcome->question.empty() && agreesTo(outcome->question)) {
-                start(story, import, Replace::anyway);
+        [this](const ImportOutcome &outcome, const std::string &fault) {
+            m_story.outcome = outcome;
+            m_story.fault = fault;
+            if (!outcome.question.empty() && agreesTo(outcome.question)) {
+                start(Replace::anyway);
             } else {
-                end(story);
+                end();
             }
         });
 }
@@ -188,121 +180,74 @@ bool MainWindow::agreesTo(const std::string &question) {
     return dialog.run() == Gtk::RESPONSE_OK;
 }
 
-void MainWindow::end(const ImportStory &story) {
-    m_progressTimer.disconnect();
+void MainWindow::cancel() {
+    if (m_progress) {
+        m_progress->isCancelled = true;
+    } else { // the columns are still asked for
+        m_source.drop();
+        end();
+    }
+}
+
+void MainWindow::end() {
     m_progress.reset();
     m_progressLine.hide();
-    setBusy(false);
-    if (!story.fault.empty()) {
-        showFault(story.fault);
-    } else if (story.isConfirmed) {
-        m_report.show(story);
+    m_controls.set_sensitive();
+    if (!m_story.fault.empty()) {
+        showFault(m_story.fault);
+    } else if (m_story.match) {
+        m_report.show(m_story);
+        m_export->set_enabled(!m_report.file().empty());
         if (!m_settings.complaint().empty()) {
             showFault(m_settings.complaint());
         }
     }
-    if (story.isDone()) {
+    if (m_story.isDone()) {
         m_replace.set_active(false);
-        refresh(story.table, !story.outcome.replaces); // the new rows stand behind the others
+        refresh(m_story.table);
     }
-    m_signalEnded.emit(story);
+    m_signalAtRest.emit(&m_story);
 }
 
-void MainWindow::setBusy(bool isBusy) {
-    m_isBusy = isBusy;
-    m_toolbar.set_sensitive(!isBusy);
-}
-
-bool MainWindow::showProgress() {
-    m_progressBar.set_fraction(m_progress->share);
-    m_progressBar.set_text(countOf(m_progress->rows, "row"));
-    return true;
-}
-
-void MainWindow::ask(const DatabaseThread::Work &work, const std::function<void()> &done) {
-    m_thread->run(work, [this, done](const std::string &fault) {
-        if (fault.empty()) {
-            done();
-        } else {
-            showFault(fault);
-        }
-    });
-}
-
-void MainWindow::refresh(const Table *changed, bool isAtEnd) {
-    const auto counts = std::make_shared<std::vector<std::size_t>>(m_counts);
-    const auto collars = std::make_shared<std::vector<Collar>>();
-    const bool hasNewCollars = changed == nullptr || changed->namesHoles;
-    m_thread->run(
-        [counts, collars, changed, hasNewCollars](soci::session &holes) {
-            counts->resize(holeTables().size());
-            for (std::size_t i = 0; i < counts->size(); ++i) {
-                if (changed == nullptr || changed == &holeTables()[i]) {
-                    (*counts)[i] = rowCount(holes, holeTables()[i]);
-                }
+void MainWindow::refresh(const Table *changed) {
+    struct Contents {
+        std::vector<std::size_t> counts;
+        std::vector<Collar> collars;
+    };
+    m_holes.run(
+        [](soci::session &holes) {
+            Contents contents{{}, collarsOf(holes)};
+            for (const Table &table : holeTables()) {
+                contents.counts.push_back(rowCount(holes, table));
             }
-            if (hasNewCollars) {
-                *collars = collarsOf(holes);
-            }
+            return contents;
         },
-        [this, counts, collars, hasNewCollars, isAtEnd](const std::string &fault) {
-            if (!fault.empty()) {
-                if (m_counts.empty() && m_isAttended) {
-                    chooseDatabase(fault);
-                    return;
-                }
-                showFault(fault);
-                m_signalOpened.emit();
+        [this, changed](const Contents &contents, const std::string &fault) {
+            if (!fault.empty() && !m_isOpen && m_isAttended) {
+                chooseDatabase(fault);
                 return;
             }
-            const bool isNew = m_counts.empty();
-            m_counts = *counts;
-            for (std::size_t i = 0; i < m_counts.size(); ++i) {
-                m_tableButtons[i]->set_label(holeTables()[i].title + " (" + grouped(m_counts[i]) +
-                                             ')');
+            if (fault.empty()) {
+                showCounts(contents.counts, changed);
+                m_plan.show(contents.collars);
+            } else {
+                showFault(fault);
             }
-            if (hasNewCollars) {
-                m_plan.show(*collars);
-            }
-            showTable(isAtEnd);
-            if (isNew) {
-                m_signalOpened.emit();
+            if (!m_isOpen) {
+                m_isOpen = fault.empty();
+                m_signalAtRest.emit(nullptr);
             }
         });
 }
 
-void MainWindow::showTable(bool isAtEnd) {
-    if (!m_counts.empty()) {
-        m_grid.show(*m_table, m_counts[static_cast<std::size_t>(m_table - holeTables().data())],
-                    isAtEnd);
-    }
-}
-
-void MainWindow::chooseFile() {
-    const auto chooser = Gtk::FileChooserNative::create("Choose a File to Import", *this,
-                                                        Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
-    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
-        importFile(chooser->get_filename());
-    }
-}
-
-void MainWindow::chooseSourceTable(const std::string &connection) {
-    std::optional<SourceTable> chosen;
-    {
-        SourceDialog dialog(*this, SourceDialog::Choice::table,
-                            connection.empty() ? m_settings.source() : connection,
-                            "Choose an SQLite file, or type how to reach a database, and connect "
-                            "to see its tables.");
-        chosen = dialog.choose();
-    }
-    if (chosen) {
-        m_settings.keepSource(chosen->connection);
-        importTable(chosen->connection, chosen->name);
-    } else {
-        ImportStory story;
-        story.table = m_table;
-        story.source = "nothing";
-        end(story);
+void MainWindow::showCounts(const std::vector<std::size_t> &counts, const Table *changed) {
+    for (std::size_t i = 0; i < counts.size(); ++i) {
+        const Table &table = holeTables()[i];
+        m_tables.child_property_title(*m_grids[i]) = table.title + " (" + grouped(counts[i]) + ')';
+        if (changed == nullptr || changed == &table) {
+            // New rows stand behind the others.
+            m_grids[i]->show(counts[i], changed != nullptr && !m_story.outcome.replaces);
+        }
     }
 }
 
@@ -335,51 +280,47 @@ bool MainWindow::on_delete_event(GdkEventAny *) {
 }
 
 Gtk::Widget &MainWindow::createToolbar() {
-    auto *tables = Gtk::make_managed<Gtk::Box>();
-    tables->get_style_context()->add_class("linked");
-    Gtk::RadioButton::Group group;
     for (const Table &table : holeTables()) {
-        auto *button = Gtk::make_managed<Gtk::RadioButton>(group, table.title);
-        button->set_mode(false);
-        button->signal_toggled().connect([this, button, chosen = &table] {
-            if (button->get_active()) {
-                m_table = chosen;
-                m_choices.show(*m_table);
-                showTable(false);
-            }
-        });
-        m_tableButtons.push_back(button);
-        tables->pack_start(*button, Gtk::PACK_SHRINK);
+        m_grids.push_back(Gtk::make_managed<RowGrid>(table, m_holes));
+        m_grids.back()->signalFault().connect(
+            [this](const std::string &fault) { showFault(fault); });
+        m_tables.add(*m_grids.back(), table.name, table.title);
     }
-    m_toolbar.pack_start(*tables, Gtk::PACK_SHRINK);
-
+    m_tables.property_visible_child().signal_changed().connect([this] { m_choices.show(table()); });
+    auto *tables = Gtk::make_managed<Gtk::StackSwitcher>();
+    tables->set_stack(m_tables);
     auto *file = Gtk::make_managed<Gtk::Button>("Import _File...", true);
     file->get_style_context()->add_class("suggested-action");
     file->signal_clicked().connect([this] { chooseFile(); });
     auto *source = Gtk::make_managed<Gtk::Button>("Import _Table...", true);
-    source->signal_clicked().connect([this] { chooseSourceTable({}); });
-    auto *menu = Gtk::make_managed<Gtk::Menu>();
-    auto *open = Gtk::make_managed<Gtk::MenuItem>("_Open Another Database...", true);
-    open->signal_activate().connect([this] {
+    source->signal_clicked().connect(
+        [this] { importTable(m_settings.text("source", "connection"), {}); });
+
+    auto *toolbar = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_HORIZONTAL, spacing);
+    toolbar->pack_start(*tables, Gtk::PACK_SHRINK);
+    toolbar->pack_end(createMenuButton(), Gtk::PACK_SHRINK);
+    toolbar->pack_end(*file, Gtk::PACK_SHRINK);
+    toolbar->pack_end(*source, Gtk::PACK_SHRINK);
+    toolbar->pack_end(m_replace, Gtk::PACK_SHRINK);
+    return *toolbar;
+}
+
+Gtk::Widget &MainWindow::createMenuButton() {
+    add_action("open", [this] {
         chooseDatabase("Choose an SQLite file, or type how to reach a database; one that is empty "
                        "gets the tables of drill holes.");
     });
-    auto *refused = Gtk::make_managed<Gtk::MenuItem>("_Export Refused Rows...", true);
-    refused->signal_activate().connect([this] { exportRefused(); });
-    menu->append(*open);
-    menu->append(*refused);
-    menu->signal_show().connect(
-        [this, refused] { refused->set_sensitive(!m_report.file().empty()); });
-    menu->show_all();
-    auto *menuButton = Gtk::make_managed<Gtk::MenuButton>();
-    menuButton->set_image_from_icon_name("open-menu-symbolic");
-    menuButton->set_tooltip_text("More");
-    menuButton->set_popup(*menu);
-    m_toolbar.pack_end(*menuButton, Gtk::PACK_SHRINK);
-    m_toolbar.pack_end(*file, Gtk::PACK_SHRINK);
-    m_toolbar.pack_end(*source, Gtk::PACK_SHRINK);
-    m_toolbar.pack_end(m_replace, Gtk::PACK_SHRINK);
-    return m_toolbar;
+    m_export = add_action("export", [this] { exportRefused(); });
+    m_export->set_enabled(false);
+    const auto menu = Gio::Menu::create();
+    menu->append("_Open Another Database...", "win.open");
+    menu->append("_Export Refused Rows...", "win.export");
+    auto *button = Gtk::make_managed<Gtk::MenuButton>();
+    button->set_image_from_icon_name("open-menu-symbolic");
+    button->set_tooltip_text("More");
+    button->set_use_popover(false);
+    button->set_menu_model(menu);
+    return *button;
 }
 
 Gtk::Widget &MainWindow::createFaultBar() {
@@ -396,26 +337,25 @@ Gtk::Widget &MainWindow::createFaultBar() {
 }
 
 Gtk::Widget &MainWindow::createBody() {
-    auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
-    both->pack1(m_grid, true, false);
     auto *frame = Gtk::make_managed<Gtk::Frame>();
     frame->add(m_plan);
+    auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
+    both->pack1(m_tables, true, false);
     both->pack2(*frame, true, false);
     both->set_position(660);
-    return *both;
+    auto *body = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_VERTICAL);
+    body->pack1(*both, true, false);
+    body->pack2(m_report, false, false);
+    return *body;
 }
 
 Gtk::Widget &MainWindow::createProgressLine() {
-    auto *cancel = Gtk::make_managed<Gtk::Button>("_Cancel", true);
-    cancel->signal_clicked().connect([this] {
-        if (const auto cancelled = m_cancel) {
-            cancelled();
-        }
-    });
+    auto *cancelButton = Gtk::make_managed<Gtk::Button>("_Cancel", true);
+    cancelButton->signal_clicked().connect([this] { cancel(); });
     m_progressBar.set_show_text();
     m_progressBar.set_valign(Gtk::ALIGN_CENTER);
     m_progressLine.pack_start(m_progressBar, Gtk::PACK_EXPAND_WIDGET);
-    m_progressLine.pack_start(*cancel, Gtk::PACK_SHRINK);
+    m_progressLine.pack_start(*cancelButton, Gtk::PACK_SHRINK);
     m_progressLine.show_all_children();
     m_progressLine.set_no_show_all();
     return m_progressLine;

@@ -9,28 +9,29 @@
 #include "examples/drillhole/window/ReportPane.h"
 #include "examples/drillhole/window/RowGrid.h"
 
+#include <giomm/simpleaction.h>
+#include <gtkmm/applicationwindow.h>
 #include <gtkmm/checkbutton.h>
 #include <gtkmm/infobar.h>
 #include <gtkmm/progressbar.h>
-#include <gtkmm/radiobutton.h>
-#include <gtkmm/window.h>
+#include <gtkmm/stack.h>
 
 namespace drillhole {
 
 /// The program's window: a table's rows, the collars in a plan, what came of the last import, and
 /// the ways to the next one.
-class MainWindow : public Gtk::Window {
+class MainWindow : public Gtk::ApplicationWindow {
 public:
     /// @param reportFolder where the reports of refused rows go
-    MainWindow(Settings &settings, const std::string &reportFolder);
+    /// @param isAttended   asks for another database, or for a password, where one can't be opened
+    MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended);
 
     /// Opens the database of the drill holes, before anything else is done.
-    ///
-    /// @param isAttended  asks for another one, or for a password, where it can't be opened
-    void open(const std::string &connection, bool isAttended);
+    void open(const std::string &connection);
 
-    /// The database is open, or the user has given it up.
-    sigc::signal<void> &signalOpened() { return m_signalOpened; }
+    /// The next thing can be done: an import has ended, however it came; or a database is open or
+    /// given up, and there is no story to tell.
+    sigc::signal<void, const ImportStory *> &signalAtRest() { return m_signalAtRest; }
 
     /// Chooses the table that is shown and imported into.
     void choose(const Table &table);
@@ -39,66 +40,57 @@ public:
     void importFile(const std::string &path);
 
     /// The same for a table in another database.
-    void importTable(const std::string &connection, const std::string &sourceTable);
-
-    /// Lets the user choose a table in another database and then imports it.
     ///
-    /// @param connection  where the choice begins; empty for the last source
-    void chooseSourceTable(const std::string &connection);
-
-    /// Every import's end, however it came.
-    sigc::signal<void, const ImportStory &> &signalEnded() { return m_signalEnded; }
+    /// @param table  empty to let the user choose one, and another database if need be
+    void importTable(const std::string &connection, const std::string &table);
 
 private:
-    using Import = std::function<ImportOutcome(const Destination &, ImportProgress &)>;
-
     Gtk::Widget &createToolbar();
+    Gtk::Widget &createMenuButton();
     Gtk::Widget &createBody();
     Gtk::Widget &createFaultBar();
     Gtk::Widget &createProgressLine();
 
+    const Table &table() const;
+    void refresh(const Table *changed); ///< null for all
+    void showCounts(const std::vector<std::size_t> &counts, const Table *changed);
     void chooseFile();
     void chooseDatabase(const std::string &message);
     void exportRefused();
-    bool askFor(ImportStory &story, const std::function<std::optional<Match>()> &ask);
-    void start(ImportStory story, Import import, std::optional<Replace> decided = {});
-    bool agreesTo(const std::string &question);
-    void end(const ImportStory &story);
-    void setBusy(bool isBusy);
-    bool showProgress();
 
-    void ask(const DatabaseThread::Work &work, const std::function<void()> &done);
-    void refresh(const Table *changed, bool isAtEnd); ///< null for all
-    void showTable(bool isAtEnd);
+    // An import, from its begin to its end.
+    void begin(const ImportSource &source);
+    void match(const std::vector<std::string> &columns);
+    void start(Replace replace);
+    bool agreesTo(const std::string &question);
+    void cancel();
+    void end();
+
     void showFault(const std::string &fault);
     bool on_delete_event(GdkEventAny *event) override;
 
     Settings &m_settings;
     std::string m_reportFolder;
-    const Table *m_table;
-    std::vector<std::size_t> m_counts; ///< rows of each table
-    bool m_isBusy = false;
-    std::shared_ptr<ImportProgress> m_progress;
-    sigc::connection m_progressTimer;
-    std::function<void()> m_cancel; ///< ends what the window waits for
-    sigc::signal<void, const ImportStory &> m_signalEnded;
-    sigc::signal<void> m_signalOpened;
-    bool m_isAttended = false;
+    bool m_isAttended;
+    bool m_isOpen = false;                      ///< the database is
+    ImportStory m_story;                        ///< of the import that runs, or of the last one
+    std::shared_ptr<ImportProgress> m_progress; ///< null if no rows are being imported
+    sigc::signal<void, const ImportStory *> m_signalAtRest;
+    DatabaseThread m_holes;
+    DatabaseThread m_source; ///< is asked for the columns of a table
 
-    std::vector<Gtk::RadioButton *> m_tableButtons;
-    Gtk::Box m_toolbar;
+    Gtk::Box m_controls; ///< insensitive during an import
     Gtk::CheckButton m_replace;
     ChoicesBar m_choices;
+    Glib::RefPtr<Gio::SimpleAction> m_export;
     Gtk::InfoBar m_faultBar;
     Gtk::Label m_fault;
-    RowGrid m_grid;
+    Gtk::Stack m_tables;
+    std::vector<RowGrid *> m_grids; ///< in it, one for each table
     PlanView m_plan;
     ReportPane m_report;
     Gtk::Box m_progressLine;
     Gtk::ProgressBar m_progressBar;
-
-    std::unique_ptr<DatabaseThread> m_source; // while its columns are asked for
-    std::unique_ptr<DatabaseThread> m_thread;
 };
 
 } // namespace drillhole

@@ -6,6 +6,7 @@
 #include "examples/drillhole/rows/startDelimiter.h"
 
 #include <algorithm>
+#include <functional>
 
 #include <columnimport.h>
 #include <glibmm/convert.h>
@@ -32,23 +33,27 @@ Door doorTo(const Table &table, const std::string &source) {
     return door;
 }
 
-std::string textOf(const char *bytes, std::int64_t length) {
-    return bytes == nullptr ? std::string() : std::string(bytes, static_cast<std::size_t>(length));
+using NameOf = const char *(columnimport_import *, std::int32_t, std::int64_t *);
+
+std::vector<std::string> names(columnimport_import *door, std::int32_t count, NameOf nameOf) {
+    std::vector<std::string> names;
+    for (std::int32_t i = 0; i < count; ++i) {
+        std::int64_t length = 0;
+        const char *bytes = nameOf(door, i, &length);
+        names.emplace_back(bytes == nullptr ? "" : bytes, static_cast<std::size_t>(length));
+    }
+    return names;
 }
 
 Match matchOf(columnimport_import *door) {
     Match match;
-    std::int64_t length = 0;
-    for (std::int32_t i = 0; i < columnimport_column_count(door); ++i) {
-        const char *name = columnimport_match_name(door, i, &length);
-        match.names.push_back(textOf(name, length));
+    const std::int32_t count = columnimport_column_count(door);
+    match.names = names(door, count, columnimport_match_name);
+    match.columns = names(door, columnimport_source_column_count(door), columnimport_source_column);
+    for (std::int32_t i = 0; i < count; ++i) {
         const std::int32_t position = columnimport_match_position(door, i);
         match.positions.push_back(position < 0 ? std::nullopt
                                                : std::optional<std::size_t>(position));
-    }
-    for (std::int32_t i = 0; i < columnimport_source_column_count(door); ++i) {
-        const char *name = columnimport_source_column(door, i, &length);
-        match.columns.push_back(textOf(name, length));
     }
     match.delimiter = static_cast<char>(columnimport_delimiter(door));
     match.firstLineHoldsTitles = columnimport_first_line_holds_titles(door) == 1;
@@ -56,33 +61,61 @@ Match matchOf(columnimport_import *door) {
 }
 
 bool has(const std::vector<std::string> &names, const std::string &name) {
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return !name.empty() && std::find(names.begin(), names.end(), name) != names.end();
 }
 
 /// Opens the dialog with the kept matches that the source has, and a proposal for the rest.
-void keepOpen(columnimport_import *door, const std::vector<std::string> &kept) {
+void openWith(std::vector<std::string> kept, columnimport_import *door) {
     if (columnimport_propose(door) != columnimport_ok) {
         return;
     }
     const Match proposal = matchOf(door);
-    std::vector<std::string> names(proposal.names.size());
-    bool anyIsKept = false;
-    for (std::size_t i = 0; i < names.size() && i < kept.size(); ++i) {
-        names[i] = has(proposal.columns, kept[i]) ? kept[i] : std::string();
-        anyIsKept = anyIsKept || !names[i].empty();
+    kept.resize(proposal.names.size());
+    std::replace_if(
+        kept.begin(), kept.end(),
+        [&](const std::string &name) { return !has(proposal.columns, name); }, std::string());
+    if (std::all_of(kept.begin(), kept.end(), std::mem_fn(&std::string::empty))) {
+        return;
     }
-    for (std::size_t i = 0; i < names.size() && anyIsKept; ++i) {
-        if (names[i].empty() && !has(names, proposal.names[i])) {
-            names[i] = proposal.names[i];
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        if (kept[i].empty() && !has(kept, proposal.names[i])) {
+            kept[i] = proposal.names[i];
         }
-        columnimport_set_saved_match(door, static_cast<std::int32_t>(i), names[i].data(),
-                                     static_cast<std::int64_t>(names[i].size()));
+        columnimport_set_saved_match(door, static_cast<std::int32_t>(i), kept[i].data(),
+                                     static_cast<std::int64_t>(kept[i].size()));
     }
 }
 
-std::optional<Match> show(columnimport_import *door, Gtk::Window &owner, Settings &settings,
-                          const std::string &name, const KeptMatch &kept) {
-    keepOpen(door, kept.names);
+} // namespace
+
+std::optional<Match> matchColumns(Gtk::Window &owner, Settings &settings, const Table &table,
+                                  const ImportSource &source,
+                                  const std::vector<std::string> &columns) {
+    const bool isFile = !source.path.empty();
+    const std::string group = table.name + (isFile ? " from file" : " from table");
+    const Door owned =
+        doorTo(table, isFile ? std::string(Glib::filename_display_basename(source.path))
+                             : "table " + source.table);
+    columnimport_import *door = owned.get();
+    std::optional<FileStamp> stamp;
+    if (isFile) {
+        stamp = stampOf(source.path);
+        const std::string kept = settings.text(group, "delimiter");
+        columnimport_set_file(door, Glib::filename_to_utf8(source.path).c_str());
+        columnimport_set_delimiter(
+            door,
+            startDelimiter(source.path, kept.empty() ? std::nullopt : std::optional(kept[0])));
+        columnimport_set_first_line_holds_titles(door, settings.text(group, "titles") != "no");
+    } else {
+        std::vector<const char *> names;
+        names.reserve(columns.size());
+        for (const std::string &column : columns) {
+            names.push_back(column.c_str());
+        }
+        columnimport_set_table(door, names.data(), nullptr,
+                               static_cast<std::int32_t>(names.size()));
+    }
+    openWith(settings.texts(group, "matches"), door);
     switch (columnimport_show(door, owner.gobj())) {
     case columnimport_ok:
         break;
@@ -91,46 +124,17 @@ std::optional<Match> show(columnimport_import *door, Gtk::Window &owner, Setting
     default:
         throw Fault(std::string("The dialog can't be shown. ") + columnimport_message(door));
     }
-    const Match match = matchOf(door);
+    Match match = matchOf(door);
+    match.stamp = stamp;
+    if (isFile) {
+        settings.keep(group, "delimiter", {std::string(1, match.delimiter)});
+        settings.keep(group, "titles", {match.firstLineHoldsTitles ? "yes" : "no"});
+    } else {
+        match.delimiter = '\0';
+    }
     // Without titles the matches are numbers, which say nothing about the next file.
-    settings.keepMatch(name, {match.firstLineHoldsTitles ? match.names : kept.names,
-                              match.delimiter, match.firstLineHoldsTitles});
-    return match;
-}
-
-} // namespace
-
-std::optional<Match> matchFile(Gtk::Window &owner, Settings &settings, const Table &table,
-                               const std::string &path) {
-    const std::string name = table.name + " from file";
-    const KeptMatch kept = settings.match(name);
-    const FileStamp stamp = stampOf(path);
-    const Door door = doorTo(table, Glib::filename_display_basename(path));
-    columnimport_set_file(door.get(), Glib::filename_to_utf8(path).c_str());
-    columnimport_set_delimiter(door.get(), startDelimiter(path, kept.delimiter));
-    columnimport_set_first_line_holds_titles(door.get(), kept.firstLineHoldsTitles ? 1 : 0);
-    std::optional<Match> match = show(door.get(), owner, settings, name, kept);
-    if (match) {
-        match->stamp = stamp;
-    }
-    return match;
-}
-
-std::optional<Match> matchTable(Gtk::Window &owner, Settings &settings, const Table &table,
-                                const std::string &sourceTable,
-                                const std::vector<std::string> &sourceColumns) {
-    const std::string name = table.name + " from table";
-    const Door door = doorTo(table, "table " + sourceTable);
-    std::vector<const char *> names;
-    names.reserve(sourceColumns.size());
-    for (const std::string &column : sourceColumns) {
-        names.push_back(column.c_str());
-    }
-    columnimport_set_table(door.get(), names.data(), nullptr,
-                           static_cast<std::int32_t>(names.size()));
-    std::optional<Match> match = show(door.get(), owner, settings, name, settings.match(name));
-    if (match) {
-        match->delimiter = '\0';
+    if (match.firstLineHoldsTitles) {
+        settings.keep(group, "matches", match.names);
     }
     return match;
 }

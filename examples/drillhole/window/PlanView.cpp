@@ -2,10 +2,13 @@
 
 #include "examples/drillhole/window/PlanView.h"
 
-#include <array>
-#include <charconv>
+#include <algorithm>
 #include <cmath>
+#include <iomanip>
+#include <sstream>
 #include <utility>
+
+#include <cairomm/region.h>
 
 namespace drillhole {
 
@@ -15,61 +18,17 @@ using Picture = Cairo::RefPtr<Cairo::Context>;
 
 constexpr double margin = 70;
 constexpr double gridSpacing = 110;
+constexpr int dotSize = 8;
 constexpr double holeRadius = 3.5;
 constexpr double scaleBarHeight = 30;
 constexpr double faint = 0.6;
 constexpr double veryFaint = 0.15;
 
 std::string coordinate(double value) {
-    std::array<char, 400> digits{};
-    const std::to_chars_result end = std::to_chars(digits.data(), digits.data() + digits.size(),
-                                                   value, std::chars_format::fixed, 3);
-    std::string text(digits.data(), end.ptr);
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') {
-        text.pop_back();
-    }
-    return text == "-0" ? "0" : text;
+    std::ostringstream text;
+    text << std::setprecision(12) << value + 0.0; // which makes -0 a plain one
+    return text.str();
 }
-
-/// Which parts of a picture are covered, in squares of a few pixels.
-class Cover {
-public:
-    Cover(double width, double height)
-        : m_columns(static_cast<int>(width / side) + 1),
-          m_rows(static_cast<int>(height / side) + 1),
-          m_isTaken(static_cast<std::size_t>(m_columns * m_rows)) {}
-
-    /// Whether the box lies in the picture and nothing was there; or takes its place.
-    bool isFree(double left, double top, double width, double height, bool takes = false) {
-        for (int row = at(top); row <= at(top + height); ++row) {
-            for (int column = at(left); column <= at(left + width); ++column) {
-                if (row < 0 || column < 0 || row >= m_rows || column >= m_columns) {
-                    if (!takes) {
-                        return false;
-                    }
-                    continue;
-                }
-                const auto place =
-                    static_cast<std::size_t>(row) * static_cast<std::size_t>(m_columns) +
-                    static_cast<std::size_t>(column);
-                if (!takes && m_isTaken[place]) {
-                    return false;
-                }
-                m_isTaken[place] = takes || m_isTaken[place];
-            }
-        }
-        return true;
-    }
-
-private:
-    static constexpr double side = 4;
-    static int at(double place) { return static_cast<int>(std::floor(place / side)); }
-
-    int m_columns;
-    int m_rows;
-    std::vector<bool> m_isTaken;
-};
 
 } // namespace
 
@@ -121,14 +80,15 @@ void PlanView::drawGrid(const Picture &picture, const PlanScale &scale) {
         picture->line_to(endX, endY);
         picture->stroke();
     };
-    for (double easting = std::ceil(scale.west / step) * step; scale.x(easting) < width;
-         easting += step) {
+    // So many at most: far out, a coordinate stays what it was when a step is added.
+    const double count = std::max(width, height) / gridSpacing + 1;
+    for (int i = 0; i < count; ++i) {
+        const double easting = (std::ceil(scale.west / step) + i) * step;
         const double x = std::floor(scale.x(easting)) + 0.5;
         line(x, 0, x, height);
         write(picture, x + 4, 2, coordinate(easting) + " E", faint);
-    }
-    for (double northing = std::floor(scale.north / step) * step; scale.y(northing) < height;
-         northing -= step) {
+
+        const double northing = (std::floor(scale.north / step) - i) * step;
         const double y = std::floor(scale.y(northing)) + 0.5;
         line(0, y, width, y);
         if (y < height - scaleBarHeight) {
@@ -138,16 +98,24 @@ void PlanView::drawGrid(const Picture &picture, const PlanScale &scale) {
 }
 
 void PlanView::drawCollars(const Picture &picture, const PlanScale &scale) {
-    Cover cover(get_allocated_width(), get_allocated_height());
+    const auto boxAt = [](double left, double top, int width, int height) {
+        return Cairo::RectangleInt{static_cast<int>(std::floor(left)),
+                                   static_cast<int>(std::floor(top)), width, height};
+    };
     picture->set_source_rgb(0.8, 0.3, 0.1);
+    std::vector<Cairo::RectangleInt> dots;
+    dots.reserve(m_collars.size());
     for (const Collar &collar : m_collars) {
         const double x = scale.x(collar.easting);
         const double y = scale.y(collar.northing);
         picture->arc(x, y, holeRadius, 0, 2 * M_PI);
         picture->fill();
-        cover.isFree(x - holeRadius, y - holeRadius, 2 * holeRadius, 2 * holeRadius, true);
+        dots.push_back(boxAt(x - holeRadius, y - holeRadius, dotSize, dotSize));
     }
     // A name that would cover another one or a hole stands on another side, or is left out.
+    const auto free =
+        Cairo::Region::create(boxAt(0, 0, get_allocated_width(), get_allocated_height()));
+    free->subtract(Cairo::Region::create(dots));
     for (const Collar &collar : m_collars) {
         int width = 0;
         int height = 0;
@@ -160,8 +128,9 @@ void PlanView::drawCollars(const Picture &picture, const PlanScale &scale) {
                                                      {middle, y - 9 - height},
                                                      {middle, y + 9}};
         for (const auto &[left, top] : corners) {
-            if (cover.isFree(left, top, width, height)) {
-                cover.isFree(left, top, width, height, true);
+            const Cairo::RectangleInt box = boxAt(left, top, width, height);
+            if (free->contains_rectangle(box) == Cairo::REGION_OVERLAP_IN) {
+                free->subtract(box);
                 write(picture, left, top, collar.name, 1);
                 break;
             }

@@ -2,21 +2,18 @@
 
 #include "examples/drillhole/window/ReportPane.h"
 
-#include "examples/drillhole/rows/text.h"
-
 #include <giomm/appinfo.h>
 #include <glibmm/convert.h>
 
 namespace drillhole {
 
-ReportPane::ReportPane() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_open("_Open Report", true) {
-    m_rows = Gtk::ListStore::create(m_columns);
-    m_view.set_model(m_rows);
-    m_view.append_column("Line", m_columns.lines);
-    m_view.append_column("Why rows were refused, and what else is to be said", m_columns.reason);
+ReportPane::ReportPane()
+    : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_open("_Open Report", true), m_rows(2) {
+    m_rows.set_column_title(0, "Line");
+    m_rows.set_column_title(1, "Why rows were refused, and what else is to be said");
     m_scrolled.set_shadow_type(Gtk::SHADOW_IN);
     m_scrolled.set_min_content_height(140);
-    m_scrolled.add(m_view);
+    m_scrolled.add(m_rows);
     m_heading.set_xalign(0);
     m_heading.set_ellipsize(Pango::ELLIPSIZE_MIDDLE);
     m_heading.set_text("Nothing imported yet in this session.");
@@ -28,35 +25,20 @@ ReportPane::ReportPane() : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_open("_Open
     top->pack_start(m_open, Gtk::PACK_SHRINK);
     pack_start(*top, Gtk::PACK_SHRINK);
     pack_start(m_scrolled, Gtk::PACK_EXPAND_WIDGET);
-    show_all_children();
-    m_open.hide();
-    m_scrolled.hide();
+    m_rows.show();
     m_open.set_no_show_all();
     m_scrolled.set_no_show_all();
 }
 
 void ReportPane::show(const ImportStory &story) {
     m_heading.set_text(summaryOf(story));
-    m_rows->clear();
-    for (const auto *remarks : {&story.outcome.remarks, &story.outcome.firstRefused}) {
-        for (const Remark &remark : *remarks) {
-            addRow(remark);
-        }
-    }
-    if (story.outcome.refused > story.outcome.firstRefused.size()) {
-        addRow({{},
-                countOf(story.outcome.refused - story.outcome.firstRefused.size(), "more row") +
-                    " in the report"});
+    m_rows.clear_items();
+    for (const Remark &remark : remarksOf(story.outcome, story.outcome.firstRefused.size())) {
+        m_rows.set_text(m_rows.append(remark.lines), 1, remark.text);
     }
     m_report = story.outcome.report;
     m_open.set_visible(!m_report.empty());
-    m_scrolled.set_visible(!m_rows->children().empty());
-}
-
-void ReportPane::addRow(const Remark &remark) {
-    const auto row = *m_rows->append();
-    row[m_columns.lines] = remark.lines;
-    row[m_columns.reason] = remark.text;
+    m_scrolled.set_visible(m_rows.size() > 0);
 }
 
 void ReportPane::openReport() {

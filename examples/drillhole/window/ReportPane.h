@@ -7,9 +7,8 @@
 #include <gtkmm/box.h>
 #include <gtkmm/button.h>
 #include <gtkmm/label.h>
-#include <gtkmm/liststore.h>
+#include <gtkmm/listviewtext.h>
 #include <gtkmm/scrolledwindow.h>
-#include <gtkmm/treeview.h>
 
 namespace drillhole {
 
@@ -25,24 +24,12 @@ public:
     const std::string &file() const { return m_report; }
 
 private:
-    void addRow(const Remark &remark);
     void openReport();
 
-    struct Columns : Gtk::TreeModelColumnRecord {
-        Columns() {
-            add(lines);
-            add(reason);
-        }
-        Gtk::TreeModelColumn<Glib::ustring> lines;
-        Gtk::TreeModelColumn<Glib::ustring> reason;
-    };
-
-    Columns m_columns;
-    Glib::RefPtr<Gtk::ListStore> m_rows;
     Gtk::Label m_heading;
     Gtk::Button m_open;
     Gtk::ScrolledWindow m_scrolled;
-    Gtk::TreeView m_view;
+    Gtk::ListViewText m_rows;
     std::string m_report;
 };
 

@@ -7,8 +7,6 @@
 #include <algorithm>
 
 #include <gtkmm/button.h>
-#include <gtkmm/cellrenderertext.h>
-#include <gtkmm/scrolledwindow.h>
 
 namespace drillhole {
 
@@ -18,19 +16,17 @@ constexpr std::size_t pageSize = 500;
 
 } // namespace
 
-RowGrid::RowGrid(Ask ask) : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_ask(std::move(ask)) {
-    for (const Table &table : holeTables()) {
-        m_fields.resize(std::max(m_fields.size(), table.columns.size()));
+RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
+    : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_holes(holes), m_shown{&table, {}, {}, false},
+      m_view(static_cast<unsigned int>(table.columns.size())) {
+    for (unsigned int i = 0; i < table.columns.size(); ++i) {
+        addColumn(i, table.columns[i]);
     }
-    for (auto &field : m_fields) {
-        m_record.add(field);
-    }
-    m_rows = Gtk::ListStore::create(m_record);
-    m_view.set_model(m_rows);
-    auto *scrolled = Gtk::make_managed<Gtk::ScrolledWindow>();
-    scrolled->set_shadow_type(Gtk::SHADOW_IN);
-    scrolled->add(m_view);
-    pack_start(*scrolled, Gtk::PACK_EXPAND_WIDGET);
+    // The last column takes the room that is left; that should not be one of numbers.
+    m_view.append_column(*Gtk::make_managed<Gtk::TreeViewColumn>());
+    m_scrolled.set_shadow_type(Gtk::SHADOW_IN);
+    m_scrolled.add(m_view);
+    pack_start(m_scrolled, Gtk::PACK_EXPAND_WIDGET);
 
     auto *pager = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_HORIZONTAL, 6);
     addButton(*pager, "go-first-symbolic", "First rows", &RowGrid::goToFirst);
@@ -52,6 +48,18 @@ RowGrid::RowGrid(Ask ask) : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_ask(std::m
     pack_start(*pager, Gtk::PACK_SHRINK);
 }
 
+void RowGrid::addColumn(unsigned int number, const Column &column) {
+    m_view.set_column_title(number, column.name);
+    Gtk::TreeViewColumn *shown = m_view.get_column(static_cast<int>(number));
+    shown->set_resizable();
+    shown->set_clickable();
+    shown->signal_clicked().connect([this, number] { sortBy(number); });
+    if (column.kind == Kind::number) {
+        shown->get_first_cell()->set_alignment(1, 0.5);
+        shown->set_alignment(Gtk::ALIGN_END);
+    }
+}
+
 void RowGrid::addButton(Gtk::Box &pager, const char *icon, const char *tip, void (RowGrid::*go)()) {
     auto *button = Gtk::make_managed<Gtk::Button>();
     button->set_image_from_icon_name(icon);
@@ -60,18 +68,15 @@ void RowGrid::addButton(Gtk::Box &pager, const char *icon, const char *tip, void
     pager.pack_start(*button, Gtk::PACK_SHRINK);
 }
 
-void RowGrid::show(const Table &table, std::size_t count, bool isAtEnd) {
-    m_total = count;
-    if (m_shown.table != &table) {
-        m_shown = {&table, m_shown.hole, {}, false};
-        showColumns();
-    }
+void RowGrid::show(std::size_t count, bool isAtEnd) {
+    m_count = count;
     if (!m_shown.hole.empty()) {
         filter();
-        return;
+    } else if (isAtEnd) {
+        goToLast();
+    } else {
+        goToFirst();
     }
-    m_count = count;
-    isAtEnd ? goToLast() : goToFirst();
 }
 
 void RowGrid::goBack() {
@@ -102,14 +107,15 @@ void RowGrid::goTo(const std::string &number) {
 
 void RowGrid::filter() {
     m_shown.hole = m_hole.get_text();
-    const auto count = std::make_shared<std::size_t>(m_total);
-    m_ask(
-        [count, view = m_shown](soci::session &holes) {
-            *count = view.hole.empty() ? *count : rowCount(holes, *view.table, view.hole);
-        },
-        [this, count] {
-            m_count = *count;
-            goToFirst();
+    m_holes.run(
+        [view = m_shown](soci::session &holes) { return rowCount(holes, *view.table, view.hole); },
+        [this](std::size_t count, const std::string &fault) {
+            if (fault.empty()) {
+                m_count = count;
+                goToFirst();
+            } else {
+                m_signalFault.emit(fault);
+            }
         });
 }
 
@@ -130,48 +136,31 @@ void RowGrid::sortBy(std::size_t column) {
 }
 
 void RowGrid::load(const PagePlace &place, std::size_t first) {
-    const auto rows = std::make_shared<Rows>();
-    m_ask([rows, place,
-           view = m_shown](soci::session &holes) { *rows = pageOf(holes, view, place, pageSize); },
-          [this, rows, first] { showRows(*rows, first); });
+    m_holes.run([view = m_shown,
+                 place](soci::session &holes) { return pageOf(holes, view, place, pageSize); },
+                [this, first](const Rows &rows, const std::string &fault) {
+                    if (fault.empty()) {
+                        showRows(rows, first);
+                    } else {
+                        m_signalFault.emit(fault);
+                    }
+                });
 }
 
 void RowGrid::showRows(const Rows &rows, std::size_t first) {
     m_page = rows;
     m_first = first;
-    m_view.unset_model();
-    m_rows->clear();
+    m_view.clear_items();
     for (const std::vector<std::string> &row : rows) {
-        const auto shown = *m_rows->append();
-        for (std::size_t i = 1; i < row.size(); ++i) {
-            shown[m_fields[i - 1]] = row[i];
+        const unsigned int shown = m_view.append();
+        for (unsigned int i = 1; i < row.size(); ++i) { // behind its key
+            m_view.set_text(shown, i - 1, row[i]);
         }
     }
-    m_view.set_model(m_rows);
+    m_scrolled.get_vadjustment()->set_value(0);
     m_place.set_text(rows.empty() ? "No rows"
                                   : grouped(first + 1) + " to " + grouped(first + rows.size()) +
                                         " of " + grouped(m_count));
-}
-
-void RowGrid::showColumns() {
-    m_view.remove_all_columns();
-    m_rows->clear();
-    const std::vector<Column> &columns = m_shown.table->columns;
-    for (std::size_t i = 0; i < columns.size(); ++i) {
-        auto *cell = Gtk::make_managed<Gtk::CellRendererText>();
-        auto *column = Gtk::make_managed<Gtk::TreeViewColumn>(columns[i].name, *cell);
-        column->add_attribute(cell->property_text(), m_fields[i]);
-        column->set_resizable();
-        column->set_clickable();
-        column->signal_clicked().connect([this, i] { sortBy(i); });
-        if (columns[i].kind == Kind::number) {
-            cell->property_xalign() = 1;
-            column->set_alignment(Gtk::ALIGN_END);
-        }
-        m_view.append_column(*column);
-    }
-    // The last column takes the room that is left; that should not be one of numbers.
-    m_view.append_column(*Gtk::make_managed<Gtk::TreeViewColumn>());
 }
 
 } // namespace drillhole

@@ -2,8 +2,6 @@
 
 #include "examples/drillhole/window/Settings.h"
 
-#include "examples/drillhole/database/connection.h"
-
 #include <filesystem>
 #include <system_error>
 
@@ -13,63 +11,11 @@
 
 namespace drillhole {
 
-namespace {
-
-constexpr const char *sourceGroup = "source";
-
-} // namespace
-
 Settings::Settings(const std::string &path) : m_path(path) {
     try {
         m_file.load_from_file(path);
     } catch (const Glib::Error &) {
         return;
-    }
-}
-
-KeptMatch Settings::match(const std::string &name) const {
-    KeptMatch match{texts(name, "matches"), {}, number(name, "titles", 1) != 0};
-    if (const int delimiter = number(name, "delimiter", 0)) {
-        match.delimiter = static_cast<char>(delimiter);
-    }
-    return match;
-}
-
-void Settings::keepMatch(const std::string &name, const KeptMatch &match) {
-    setTexts(name, "matches", match.names);
-    m_file.set_integer(name, "delimiter", static_cast<unsigned char>(match.delimiter.value_or(0)));
-    m_file.set_integer(name, "titles", match.firstLineHoldsTitles ? 1 : 0);
-    save();
-}
-
-ValueChoices Settings::choices(const Table &table) const {
-    const int below = number(table.name, "below detection", 0);
-    return {static_cast<BelowDetection>(below > 0 && below < 4 ? below : 0),
-            texts(table.name, "no value"), number(table.name, "decimal commas", 1) != 0};
-}
-
-void Settings::keepChoices(const Table &table, const ValueChoices &choices) {
-    m_file.set_integer(table.name, "below detection", static_cast<int>(choices.belowDetection));
-    setTexts(table.name, "no value", choices.noValue);
-    m_file.set_integer(table.name, "decimal commas", choices.hasDecimalCommas ? 1 : 0);
-    save();
-}
-
-std::string Settings::source() const {
-    const std::vector<std::string> kept = texts(sourceGroup, "connection");
-    return kept.empty() ? std::string() : kept.front();
-}
-
-void Settings::keepSource(const std::string &connection) {
-    setTexts(sourceGroup, "connection", {withoutPassword(connection)});
-    save();
-}
-
-int Settings::number(const std::string &group, const char *key, int otherwise) const {
-    try {
-        return m_file.get_integer(group, key);
-    } catch (const Glib::Error &) {
-        return otherwise;
     }
 }
 
@@ -85,8 +31,13 @@ std::vector<std::string> Settings::texts(const std::string &group, const char *k
     return texts;
 }
 
-void Settings::setTexts(const std::string &group, const char *key,
-                        const std::vector<std::string> &texts) {
+std::string Settings::text(const std::string &group, const char *key) const {
+    const std::vector<std::string> kept = texts(group, key);
+    return kept.empty() ? std::string() : kept.front();
+}
+
+void Settings::keep(const std::string &group, const char *key,
+                    const std::vector<std::string> &texts) {
     // Names are bytes in whatever encoding, the file is UTF-8.
     std::vector<Glib::ustring> escaped;
     escaped.reserve(texts.size());
@@ -94,10 +45,7 @@ void Settings::setTexts(const std::string &group, const char *key,
         escaped.emplace_back(Glib::strescape(each));
     }
     m_file.set_string_list(group, key, escaped);
-}
-
-void Settings::save() {
-    std::error_code ignored;
+    std::error_code ignored; // writing the file says what is wrong there
     std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
     try {
         Glib::file_set_contents(m_path, m_file.to_data());

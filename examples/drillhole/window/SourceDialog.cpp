@@ -21,56 +21,48 @@ SourceDialog::SourceDialog(Gtk::Window &owner, Choice choice, const std::string 
                            const std::string &message)
     : Gtk::Dialog(choice == Choice::table ? "Choose a Table to Import" : "Open a Database", owner,
                   true),
-      m_choice(choice), m_given(connection), m_grid(Gtk::make_managed<Gtk::Grid>()),
-      m_file("SQLite _File...", true), m_connect("C_onnect", true) {
+      m_choice(choice), m_given(connection),
+      m_source(choice == Choice::table ? openSource : openHoles), m_file("SQLite _File...", true),
+      m_connect("C_onnect", true), m_message(message, Gtk::ALIGN_START), m_tables(1) {
     set_default_size(640, choice == Choice::table ? 420 : 0);
     set_border_width(6);
     add_button("_Cancel", Gtk::RESPONSE_CANCEL);
+
+    m_grid.set_row_spacing(spacing);
+    m_grid.set_column_spacing(spacing);
+    m_grid.property_margin() = 12;
+    m_connection.set_text(withoutPassword(connection));
+    m_connection.set_hexpand();
+    m_connection.set_placeholder_text("postgresql://host=... dbname=... user=...   odbc://DSN=...");
+    m_password.set_visibility(false);
+    m_password.set_input_purpose(Gtk::INPUT_PURPOSE_PASSWORD);
+    m_password.set_placeholder_text("if the database wants one; it is not kept");
+    addRow(0, "Co_nnection", m_connection, m_file);
+    addRow(1, "_Password", m_password, m_connect);
+    m_file.signal_clicked().connect([this] { chooseFile(); });
+    m_connect.signal_clicked().connect([this] { connectDatabase(); });
+    m_message.set_line_wrap();
+    m_message.set_max_width_chars(60);
+    m_message.set_selectable();
+    m_grid.attach(m_message, 0, 2, 3);
+    get_content_area()->pack_start(m_grid, Gtk::PACK_EXPAND_WIDGET);
+
     if (choice == Choice::table) {
         add_button("_Match Columns...", Gtk::RESPONSE_OK)
             ->get_style_context()
             ->add_class("suggested-action");
-        set_default_response(Gtk::RESPONSE_OK);
         set_response_sensitive(Gtk::RESPONSE_OK, false);
+        m_tables.set_headers_visible(false);
+        m_tables.get_selection()->signal_changed().connect(
+            [this] { set_response_sensitive(Gtk::RESPONSE_OK, !m_tables.get_selected().empty()); });
+        m_tables.signal_row_activated().connect(
+            [this](const auto &, auto *) { response(Gtk::RESPONSE_OK); });
+        auto *scrolled = Gtk::make_managed<Gtk::ScrolledWindow>();
+        scrolled->set_shadow_type(Gtk::SHADOW_IN);
+        scrolled->set_vexpand();
+        scrolled->add(m_tables);
+        m_grid.attach(*scrolled, 0, 3, 3);
     }
-
-    m_grid->set_row_spacing(spacing);
-    m_grid->set_column_spacing(spacing);
-    m_grid->property_margin() = 12;
-    m_connection.set_text(withoutPassword(connection));
-    m_connection.set_hexpand();
-    m_connection.set_placeholder_text("postgresql://host=... dbname=... user=...   odbc://DSN=...");
-    m_connection.signal_activate().connect([this] { connectDatabase(); });
-    m_password.set_visibility(false);
-    m_password.set_input_purpose(Gtk::INPUT_PURPOSE_PASSWORD);
-    m_password.set_placeholder_text("if the database wants one; it is not kept");
-    m_password.signal_activate().connect([this] { connectDatabase(); });
-    addRow(0, "Co_nnection", m_connection);
-    m_grid->attach(m_file, 2, 0);
-    addRow(1, "_Password", m_password);
-    m_grid->attach(m_connect, 2, 1);
-    m_file.signal_clicked().connect([this] { chooseFile(); });
-    m_connect.signal_clicked().connect([this] { connectDatabase(); });
-
-    m_message.set_xalign(0);
-    m_message.set_line_wrap();
-    m_message.set_max_width_chars(60);
-    m_message.set_selectable();
-    m_message.set_text(message);
-    m_grid->attach(m_message, 0, 2, 3);
-
-    auto *scrolled = Gtk::make_managed<Gtk::ScrolledWindow>();
-    scrolled->set_shadow_type(Gtk::SHADOW_IN);
-    scrolled->set_vexpand();
-    scrolled->add(m_tables);
-    m_tables.signal_row_selected().connect(
-        [this](Gtk::ListBoxRow *row) { set_response_sensitive(Gtk::RESPONSE_OK, row != nullptr); });
-    m_tables.set_activate_on_single_click(false);
-    m_tables.signal_row_activated().connect(
-        [this](Gtk::ListBoxRow *) { response(Gtk::RESPONSE_OK); });
-    m_grid->attach(*scrolled, 0, 3, 3);
-    scrolled->set_no_show_all(choice == Choice::holes);
-    get_content_area()->pack_start(*m_grid, Gtk::PACK_EXPAND_WIDGET);
     show_all_children();
 }
 
@@ -78,18 +70,19 @@ std::optional<SourceTable> SourceDialog::choose() {
     if (run() != Gtk::RESPONSE_OK) {
         return std::nullopt;
     }
-    if (m_choice == Choice::holes) {
-        return SourceTable{m_source->connection(), {}};
-    }
-    const auto *label = dynamic_cast<Gtk::Label *>(m_tables.get_selected_row()->get_child());
-    return SourceTable{m_source->connection(), label->get_text()};
+    const std::vector<int> rows = m_tables.get_selected();
+    return SourceTable{m_source.connection(),
+                       rows.empty() ? "" : m_tables.get_text(static_cast<unsigned int>(rows[0]))};
 }
 
-void SourceDialog::addRow(int row, const Glib::ustring &text, Gtk::Widget &control) {
+void SourceDialog::addRow(int row, const Glib::ustring &text, Gtk::Entry &entry,
+                          Gtk::Button &button) {
     auto *label = Gtk::make_managed<Gtk::Label>(text, Gtk::ALIGN_END, Gtk::ALIGN_CENTER, true);
-    label->set_mnemonic_widget(control);
-    m_grid->attach(*label, 0, row);
-    m_grid->attach(control, 1, row);
+    label->set_mnemonic_widget(entry);
+    entry.signal_activate().connect([this] { connectDatabase(); });
+    m_grid.attach(*label, 0, row);
+    m_grid.attach(entry, 1, row);
+    m_grid.attach(button, 2, row);
 }
 
 void SourceDialog::chooseFile() {
@@ -110,46 +103,34 @@ void SourceDialog::connectDatabase() {
     const bool isAsGiven = typed == withoutPassword(m_given) && m_password.get_text_length() == 0;
     const std::string connection =
         isAsGiven ? m_given : withPassword(connectionFor(typed), m_password.get_text());
-    const auto names = std::make_shared<std::map<std::string, std::string>>();
-    showTables({});
+    m_tables.clear_items();
     m_connect.set_sensitive(false);
     m_message.set_text("Connecting...");
     m_message.show();
     const bool isForTable = m_choice == Choice::table;
-    m_source = std::make_unique<DatabaseThread>(connection, isForTable ? openSource : openHoles);
-    m_source->run(
-        [names, isForTable](soci::session &source) {
-            if (isForTable) {
-                *names = sourceTables(source);
-            }
+    m_source.use(connection);
+    m_source.run(
+        [isForTable](soci::session &source) {
+            return isForTable ? sourceTables(source) : std::map<std::string, std::string>();
         },
-        [this, names, isForTable](const std::string &fault) {
+        [this, isForTable](const std::map<std::string, std::string> &tables,
+                           const std::string &fault) {
             m_connect.set_sensitive();
-            showTables(*names);
-            m_message.set_text(fault.empty() ? "The database has no tables that you may read."
-                                             : fault);
-            m_message.set_visible(names->empty());
             if (fault.empty() && !isForTable) {
                 response(Gtk::RESPONSE_OK);
+                return;
+            }
+            for (const auto &[name, inQuery] : tables) {
+                m_tables.append(name);
+            }
+            m_message.set_text(fault.empty() ? "The database has no tables that you may read."
+                                             : fault);
+            m_message.set_visible(tables.empty());
+            if (!tables.empty()) {
+                m_tables.set_cursor(Gtk::TreePath("0"));
+                m_tables.grab_focus();
             }
         });
-}
-
-void SourceDialog::showTables(const std::map<std::string, std::string> &names) {
-    for (Gtk::Widget *row : m_tables.get_children()) {
-        m_tables.remove(*row);
-    }
-    for (const auto &[name, inQuery] : names) {
-        auto *label = Gtk::make_managed<Gtk::Label>(name, Gtk::ALIGN_START);
-        label->property_margin() = 4;
-        m_tables.append(*label);
-        label->show_all();
-    }
-    m_tables.show_all();
-    if (Gtk::ListBoxRow *first = m_tables.get_row_at_index(0)) {
-        m_tables.select_row(*first);
-        first->grab_focus();
-    }
 }
 
 } // namespace drillhole

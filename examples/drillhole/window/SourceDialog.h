@@ -4,7 +4,6 @@
 
 #include "examples/drillhole/window/DatabaseThread.h"
 
-#include <map>
 #include <optional>
 
 #include <gtkmm/button.h>
@@ -12,7 +11,7 @@
 #include <gtkmm/entry.h>
 #include <gtkmm/grid.h>
 #include <gtkmm/label.h>
-#include <gtkmm/listbox.h>
+#include <gtkmm/listviewtext.h>
 
 namespace drillhole {
 
@@ -37,21 +36,20 @@ public:
     std::optional<SourceTable> choose();
 
 private:
-    void addRow(int row, const Glib::ustring &text, Gtk::Widget &control);
+    void addRow(int row, const Glib::ustring &text, Gtk::Entry &entry, Gtk::Button &button);
     void chooseFile();
     void connectDatabase();
-    void showTables(const std::map<std::string, std::string> &names);
 
     Choice m_choice;
-    std::string m_given; ///< the connection to begin with; its password is not shown
-    std::unique_ptr<DatabaseThread> m_source; ///< whose tables are shown
-    Gtk::Grid *m_grid;
+    std::string m_given;     ///< the connection to begin with; its password is not shown
+    DatabaseThread m_source; ///< whose tables are shown
+    Gtk::Grid m_grid;
     Gtk::Entry m_connection;
     Gtk::Entry m_password;
     Gtk::Button m_file;
     Gtk::Button m_connect;
     Gtk::Label m_message;
-    Gtk::ListBox m_tables;
+    Gtk::ListViewText m_tables;
 };
 
 } // namespace drillhole

@@ -18,11 +18,10 @@ namespace drillhole {
 
 namespace {
 
-Glib::OptionEntry entry(const char *name, const char *description, const char *value = "") {
+Glib::OptionEntry entry(const char *name, const char *description) {
     Glib::OptionEntry entry;
     entry.set_long_name(name);
     entry.set_description(description);
-    entry.set_arg_description(value);
     return entry;
 }
 
@@ -33,71 +32,68 @@ std::string usualDatabase() {
     return Glib::build_filename(folder, "holes.sqlite");
 }
 
-/// The connection with the password that the first line of a file holds.
-std::string withPasswordIn(const std::string &path, const std::string &connection) {
-    if (path.empty()) {
-        return connection;
-    }
-    std::ifstream file(path);
+/// The connection, with the password that the first line of a file holds, if there is one.
+std::string connectionTo(const std::string &database, const std::string &passwordFile) {
     std::string password;
-    if (!std::getline(file, password)) {
-        throw Fault("There is no password in " + path + ", or it can't be read.");
+    if (!passwordFile.empty()) {
+        std::ifstream file(passwordFile);
+        if (!std::getline(file, password)) {
+            throw Fault("There is no password in " + passwordFile + ", or it can't be read.");
+        }
     }
-    return withPassword(connection, password);
+    return withPassword(connectionFor(database), password);
 }
 
 } // namespace
 
 Options readOptions(int &argc, char **&argv) {
     Options options;
-    std::string database;
-    Glib::ustring table;
-    Glib::ustring source;
-    Glib::ustring sourceTable;
-    std::vector<std::string> files;
     std::string passwordFile;
     std::string sourcePasswordFile;
-
+    const struct {
+        const char *name;
+        const char *value;
+        const char *description;
+        std::string &text;
+    } entries[] = {
+        {"database", "DATABASE",
+         "Where the drill holes are: an SQLite file, made if it is missing, or a connection such "
+         "as "
+         "postgresql://host=... dbname=...",
+         options.database},
+        {"table", "TABLE", "Import into collar, survey or assay", options.table},
+        {"from", "DATABASE", "Import a table of another database", options.source},
+        {"from-table", "NAME", "The table to import; without it you can choose one",
+         options.sourceTable},
+        {"password-file", "FILE", "A file whose first line is the password of --database",
+         passwordFile},
+        {"from-password-file", "FILE", "A file whose first line is the password of --from",
+         sourcePasswordFile},
+    };
     Glib::OptionGroup group("drillhole", "Drill holes");
-    group.add_entry_filename(
-        entry("database",
-              "Where the drill holes are: an SQLite file, made if it is missing, or a "
-              "connection such as postgresql://host=... dbname=...",
-              "DATABASE"),
-        database);
-    group.add_entry(entry("table", "Import into collar, survey or assay", "TABLE"), table);
-    group.add_entry(entry("from", "Import a table of another database", "DATABASE"), source);
-    group.add_entry(
-        entry("from-table", "The table to import; without it you can choose one", "NAME"),
-        sourceTable);
-    group.add_entry_filename(
-        entry("password-file", "A file whose first line is the password of --database", "FILE"),
-        passwordFile);
-    group.add_entry_filename(
-        entry("from-password-file", "A file whose first line is the password of --from", "FILE"),
-        sourcePasswordFile);
+    for (const auto &each : entries) {
+        Glib::OptionEntry option = entry(each.name, each.description);
+        option.set_arg_description(each.value);
+        group.add_entry_filename(option, each.text);
+    }
     group.add_entry(entry("then-quit", "End when what the command line names is imported"),
                     options.thenQuits);
-    Glib::OptionEntry remaining = entry(G_OPTION_REMAINING, "Files to import");
-    group.add_entry_filename(remaining, files);
-
+    group.add_entry_filename(entry(G_OPTION_REMAINING, "Files to import"), options.files);
     Glib::OptionContext context("[FILE...]");
     context.set_main_group(group);
     context.parse(argc, argv);
 
-    options.connection =
-        withPasswordIn(passwordFile, connectionFor(database.empty() ? usualDatabase() : database));
-    options.table = table;
-    options.files.assign(files.begin(), files.end());
-    options.source =
-        source.empty() ? std::string() : withPasswordIn(sourcePasswordFile, connectionFor(source));
-    options.sourceTable = sourceTable;
     if (!options.table.empty() && findTable(options.table) == nullptr) {
         throw Fault("There is no table " + options.table +
                     "; give --table=collar, survey or assay.");
     }
     if (options.source.empty() && !options.sourceTable.empty()) {
         throw Fault("Give the database of that table too, with --from.");
+    }
+    options.database =
+        connectionTo(options.database.empty() ? usualDatabase() : options.database, passwordFile);
+    if (!options.source.empty()) {
+        options.source = connectionTo(options.source, sourcePasswordFile);
     }
     return options;
 }

@@ -11,18 +11,10 @@ namespace {
 
 constexpr double leastExtent = 100;
 
-double scaleFor(double extent, double pixels) {
-    return std::max(pixels, 1.0) / extent;
-}
-
 } // namespace
 
 PlanScale planScale(const std::vector<Collar> &collars, double width, double height,
                     double margin) {
-    PlanScale scale;
-    if (collars.empty()) {
-        return scale;
-    }
     const auto [west, east] =
         std::minmax_element(collars.begin(), collars.end(),
                             [](const Collar &a, const Collar &b) { return a.easting < b.easting; });
@@ -30,14 +22,15 @@ PlanScale planScale(const std::vector<Collar> &collars, double width, double hei
         std::minmax_element(collars.begin(), collars.end(), [](const Collar &a, const Collar &b) {
             return a.northing < b.northing;
         });
-    double extentEast = east->easting - west->easting;
-    double extentNorth = north->northing - south->northing;
-    if (extentEast <= 0 && extentNorth <= 0) {
-        extentEast = extentNorth = leastExtent;
+    const auto scaleFor = [margin](double extent, double pixels) {
+        return extent > 0 ? std::max(pixels - 2 * margin, 1.0) / extent : HUGE_VAL;
+    };
+    PlanScale scale;
+    scale.pixelsPerUnit = std::min(scaleFor(east->easting - west->easting, width),
+                                   scaleFor(north->northing - south->northing, height));
+    if (scale.pixelsPerUnit == HUGE_VAL) {
+        scale.pixelsPerUnit = scaleFor(leastExtent, std::min(width, height));
     }
-    scale.pixelsPerUnit =
-        std::min(extentEast > 0 ? scaleFor(extentEast, width - 2 * margin) : HUGE_VAL,
-                 extentNorth > 0 ? scaleFor(extentNorth, height - 2 * margin) : HUGE_VAL);
     scale.west = (west->easting + east->easting) / 2 - width / 2 / scale.pixelsPerUnit;
     scale.north = (south->northing + north->northing) / 2 + height / 2 / scale.pixelsPerUnit;
     return scale;

@@ -17,7 +17,8 @@ struct PlanScale {
 };
 
 /// The largest scale at which all collars stand in the middle of a picture, `margin` pixels off its
-/// edges. One collar, or several at one place, get the scale of a hundred units.
+/// edges; there is one at least. One collar, or several at one place, get the scale of a hundred
+/// units.
 PlanScale planScale(const std::vector<Collar> &collars, double width, double height, double margin);
 
 /// The smallest of 1, 2, 5, 10, 20, 50 and so on, down to 0.001 and up, that is at least `units`.
