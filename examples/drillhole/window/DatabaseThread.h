@@ -3,16 +3,17 @@
 #pragma once
 
 #include "examples/drillhole/database/connection.h"
+#include "examples/drillhole/database/onOwnThread.h"
 
-#include <deque>
+#include <atomic>
 #include <functional>
 #include <future>
 
-#include <sigc++/connection.h>
+#include <glibmm/main.h>
 
 namespace drillhole {
 
-/// The thread that a database lives on, so that the window stays alive however long it takes. Work
+/// The threads that a database lives on, so that the window stays alive however long it takes. Work
 /// is done in the order in which it was given; the database is opened when there is some, and
 /// again after work that failed.
 ///
@@ -20,8 +21,12 @@ namespace drillhole {
 /// nobody hears any more.
 class DatabaseThread {
 public:
-    /// @param open  opens the database of a connection
-    explicit DatabaseThread(Session (*open)(const std::string &connection)) : m_open(open) {}
+    using Open = Session(const std::string &connection);
+    using Tell = std::function<void(const std::string &fault)>;
+
+    /// @param tellFault  tells the user why what was asked for is not there
+    explicit DatabaseThread(Open &open, Tell tellFault = {})
+        : m_open(open), m_tellFault(std::move(tellFault)) {}
     ~DatabaseThread() { drop(); }
     DatabaseThread(const DatabaseThread &) = delete;
     DatabaseThread &operator=(const DatabaseThread &) = delete;
@@ -31,6 +36,7 @@ public:
 
     const std::string &connection() const { return m_database->connection; }
 
+    /// Turns to none.
     void drop();
 
     /// Has `work(soci::session &)` done on the thread, and then calls `done(result, fault)` on the
@@ -39,29 +45,40 @@ public:
     template <typename Work, typename Done>
     void run(Work work, Done done) {
         const auto result = std::make_shared<std::invoke_result_t<Work, soci::session &>>();
-        add({[result, work](soci::session &session) { *result = work(session); },
-             [result, done](const std::string &fault) { done(*result, fault); }});
+        m_last = start([result, work](soci::session &session) { *result = work(session); });
+        const auto tellEnd = [database = m_database, fault = m_last, result, done] {
+            const bool isOver =
+                fault.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+            if (isOver && !database->isDropped) {
+                done(*result, fault.get());
+            }
+            return !isOver;
+        };
+        Glib::signal_timeout().connect(tellEnd, interval);
+    }
+
+    /// The same with `done(result)` for what went well; a fault is told the user.
+    template <typename Work, typename Done>
+    void ask(Work work, Done done) {
+        run(work, [this, done](const auto &result, const std::string &fault) {
+            fault.empty() ? done(result) : m_tellFault(fault);
+        });
     }
 
 private:
+    static constexpr unsigned int interval = 5; // milliseconds
     struct Database {
         std::string connection;
         Session session;
-    };
-    struct Task {
-        std::function<void(soci::session &session)> work;
-        std::function<void(const std::string &fault)> done;
+        std::atomic<bool> isDropped{false};
     };
 
-    void add(Task task);
-    void startNext();
-    bool tellEnd();
+    std::shared_future<std::string> start(std::function<void(soci::session &)> work) const;
 
-    Session (*m_open)(const std::string &connection);
+    Open &m_open;
+    Tell m_tellFault;
     std::shared_ptr<Database> m_database;
-    std::deque<Task> m_tasks;         // the first one runs
-    std::future<std::string> m_fault; // of that one
-    sigc::connection m_timer;
+    std::shared_future<std::string> m_last; // fault of the last work
 };
 
 } // namespace drillhole

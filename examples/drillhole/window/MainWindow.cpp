@@ -23,16 +23,13 @@
 
 namespace drillhole {
 
-namespace {
-
 constexpr int spacing = 8;
 constexpr unsigned int progressInterval = 50; // milliseconds
 
-} // namespace
-
 MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended)
     : m_settings(settings), m_reportFolder(reportFolder), m_isAttended(isAttended),
-      m_holes(openHoles), m_source(openSource), m_controls(Gtk::ORIENTATION_VERTICAL, spacing),
+      m_holes(openHoles, [this](const std::string &fault) { showFault(fault); }),
+      m_source(openSource), m_controls(Gtk::ORIENTATION_VERTICAL, spacing),
       m_replace("_Replace the rows that are there", true), m_choices(settings),
       m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing) {
     set_default_size(1120, 720);
@@ -53,12 +50,26 @@ void MainWindow::open(const std::string &connection) {
     m_faultBar.hide();
     m_isOpen = false;
     m_holes.use(connection);
-    refresh(nullptr);
+    m_holes.run(collarsOf, [this](const std::vector<Collar> &collars, const std::string &fault) {
+        if (!fault.empty() && m_isAttended) {
+            chooseDatabase(fault);
+            return;
+        }
+        m_isOpen = fault.empty();
+        if (m_isOpen) {
+            m_plan.show(collars);
+            for (RowGrid *grid : m_grids) {
+                grid->refresh(false);
+            }
+        } else {
+            showFault(fault);
+        }
+        m_signalAtRest.emit(nullptr);
+    });
 }
 
 void MainWindow::chooseDatabase(const std::string &message) {
-    SourceDialog dialog(*this, SourceDialog::Choice::holes, m_holes.connection(), message);
-    if (const std::optional<SourceTable> chosen = dialog.choose()) {
+    if (const auto chosen = chooseSource(*this, SourceKind::holes, m_holes.connection(), message)) {
         open(chosen->connection);
     } else if (!m_isOpen) {
         showFault(message);
@@ -70,8 +81,8 @@ void MainWindow::choose(const Table &table) {
     m_tables.set_visible_child(table.name);
 }
 
-const Table &MainWindow::table() const {
-    return *findTable(m_tables.get_visible_child_name());
+RowGrid &MainWindow::grid() {
+    return *dynamic_cast<RowGrid *>(m_tables.get_visible_child());
 }
 
 void MainWindow::chooseFile() {
@@ -90,16 +101,15 @@ void MainWindow::importFile(const std::string &path) {
 void MainWindow::importTable(const std::string &connection, const std::string &table) {
     begin({{}, connection, table});
     if (table.empty()) {
-        SourceDialog dialog(*this, SourceDialog::Choice::table, connection,
-                            "Choose an SQLite file, or type how to reach a database, and connect "
-                            "to see its tables.");
-        const std::optional<SourceTable> chosen = dialog.choose();
+        const auto chosen = chooseSource(*this, SourceKind::table, connection,
+                                         "Choose an SQLite file, or type how to reach a database, "
+                                         "and connect to see its tables.");
         if (!chosen) {
             end();
             return;
         }
         m_settings.keep("source", "connection", {withoutPassword(chosen->connection)});
-        m_story.source = {{}, chosen->connection, chosen->name};
+        m_story.source = *chosen;
     }
     m_progressBar.set_fraction(0);
     m_progressBar.set_text("Asking for the columns");
@@ -120,7 +130,7 @@ void MainWindow::begin(const ImportSource &source) {
     m_faultBar.hide();
     m_controls.set_sensitive(false);
     m_story = ImportStory();
-    m_story.table = &table();
+    m_story.table = &grid().table();
     m_story.source = source;
 }
 
@@ -204,51 +214,11 @@ void MainWindow::end() {
     }
     if (m_story.isDone()) {
         m_replace.set_active(false);
-        refresh(m_story.table);
+        grid().refresh(!m_story.outcome.replaces); // the new rows stand behind the others
+        m_holes.ask(collarsOf,
+                    [this](const std::vector<Collar> &collars) { m_plan.show(collars); });
     }
     m_signalAtRest.emit(&m_story);
-}
-
-void MainWindow::refresh(const Table *changed) {
-    struct Contents {
-        std::vector<std::size_t> counts;
-        std::vector<Collar> collars;
-    };
-    m_holes.run(
-        [](soci::session &holes) {
-            Contents contents{{}, collarsOf(holes)};
-            for (const Table &table : holeTables()) {
-                contents.counts.push_back(rowCount(holes, table));
-            }
-            return contents;
-        },
-        [this, changed](const Contents &contents, const std::string &fault) {
-            if (!fault.empty() && !m_isOpen && m_isAttended) {
-                chooseDatabase(fault);
-                return;
-            }
-            if (fault.empty()) {
-                showCounts(contents.counts, changed);
-                m_plan.show(contents.collars);
-            } else {
-                showFault(fault);
-            }
-            if (!m_isOpen) {
-                m_isOpen = fault.empty();
-                m_signalAtRest.emit(nullptr);
-            }
-        });
-}
-
-void MainWindow::showCounts(const std::vector<std::size_t> &counts, const Table *changed) {
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-        const Table &table = holeTables()[i];
-        m_tables.child_property_title(*m_grids[i]) = table.title + " (" + grouped(counts[i]) + ')';
-        if (changed == nullptr || changed == &table) {
-            // New rows stand behind the others.
-            m_grids[i]->show(counts[i], changed != nullptr && !m_story.outcome.replaces);
-        }
-    }
 }
 
 void MainWindow::exportRefused() {
@@ -281,12 +251,16 @@ bool MainWindow::on_delete_event(GdkEventAny *) {
 
 Gtk::Widget &MainWindow::createToolbar() {
     for (const Table &table : holeTables()) {
-        m_grids.push_back(Gtk::make_managed<RowGrid>(table, m_holes));
-        m_grids.back()->signalFault().connect(
-            [this](const std::string &fault) { showFault(fault); });
-        m_tables.add(*m_grids.back(), table.name, table.title);
+        auto *grid = Gtk::make_managed<RowGrid>(table, m_holes);
+        m_grids.push_back(grid);
+        m_tables.add(*grid, table.name, table.title);
+        grid->signalCounted().connect([this, grid](std::size_t count) {
+            m_tables.child_property_title(*grid) =
+                grid->table().title + " (" + grouped(count) + ')';
+        });
     }
-    m_tables.property_visible_child().signal_changed().connect([this] { m_choices.show(table()); });
+    m_tables.property_visible_child().signal_changed().connect(
+        [this] { m_choices.show(grid().table()); });
     auto *tables = Gtk::make_managed<Gtk::StackSwitcher>();
     tables->set_stack(m_tables);
     auto *file = Gtk::make_managed<Gtk::Button>("Import _File...", true);

@@ -51,9 +51,7 @@ private:
     Gtk::Widget &createFaultBar();
     Gtk::Widget &createProgressLine();
 
-    const Table &table() const;
-    void refresh(const Table *changed); ///< null for all
-    void showCounts(const std::vector<std::size_t> &counts, const Table *changed);
+    RowGrid &grid(); ///< of the table that is shown
     void chooseFile();
     void chooseDatabase(const std::string &message);
     void exportRefused();

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "examples/drillhole/window/planScale.h"
+#include "examples/drillhole/database/holeDatabase.h"
 
 #include <gtkmm/drawingarea.h>
 
@@ -17,12 +17,6 @@ public:
 
 private:
     bool on_draw(const Cairo::RefPtr<Cairo::Context> &picture) override;
-    void useInk(const Cairo::RefPtr<Cairo::Context> &picture, double strength) const;
-    void write(const Cairo::RefPtr<Cairo::Context> &picture, double left, double top,
-               const std::string &text, double strength);
-    void drawGrid(const Cairo::RefPtr<Cairo::Context> &picture, const PlanScale &scale);
-    void drawCollars(const Cairo::RefPtr<Cairo::Context> &picture, const PlanScale &scale);
-    void drawScaleBar(const Cairo::RefPtr<Cairo::Context> &picture, const PlanScale &scale);
 
     std::vector<Collar> m_collars;
 };

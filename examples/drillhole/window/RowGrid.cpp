@@ -10,11 +10,7 @@
 
 namespace drillhole {
 
-namespace {
-
 constexpr std::size_t pageSize = 500;
-
-} // namespace
 
 RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
     : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_holes(holes), m_shown{&table, {}, {}, false},
@@ -43,7 +39,7 @@ RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
     m_hole.set_width_chars(14);
     m_hole.set_placeholder_text("Holes like LR-1");
     m_hole.set_tooltip_text("Shows only the rows of holes whose names begin so");
-    m_hole.signal_search_changed().connect([this] { filter(); });
+    m_hole.signal_search_changed().connect([this] { refresh(false); });
     pager->pack_start(m_hole, Gtk::PACK_SHRINK);
     pack_start(*pager, Gtk::PACK_SHRINK);
 }
@@ -68,15 +64,19 @@ void RowGrid::addButton(Gtk::Box &pager, const char *icon, const char *tip, void
     pager.pack_start(*button, Gtk::PACK_SHRINK);
 }
 
-void RowGrid::show(std::size_t count, bool isAtEnd) {
-    m_count = count;
-    if (!m_shown.hole.empty()) {
-        filter();
-    } else if (isAtEnd) {
-        goToLast();
-    } else {
-        goToFirst();
-    }
+void RowGrid::refresh(bool isAtEnd) {
+    m_shown.hole = m_hole.get_text();
+    m_holes.ask(
+        [view = m_shown](soci::session &holes) {
+            const std::size_t all = rowCount(holes, *view.table);
+            return std::pair(all,
+                             view.hole.empty() ? all : rowCount(holes, *view.table, view.hole));
+        },
+        [this, isAtEnd](const auto &counts) {
+            m_signalCounted.emit(counts.first);
+            m_count = counts.second;
+            isAtEnd ? goToLast() : goToFirst();
+        });
 }
 
 void RowGrid::goBack() {
@@ -105,20 +105,6 @@ void RowGrid::goTo(const std::string &number) {
     }
 }
 
-void RowGrid::filter() {
-    m_shown.hole = m_hole.get_text();
-    m_holes.run(
-        [view = m_shown](soci::session &holes) { return rowCount(holes, *view.table, view.hole); },
-        [this](std::size_t count, const std::string &fault) {
-            if (fault.empty()) {
-                m_count = count;
-                goToFirst();
-            } else {
-                m_signalFault.emit(fault);
-            }
-        });
-}
-
 void RowGrid::sortBy(std::size_t column) {
     const bool isSorted = m_shown.sortedBy == column;
     if (isSorted && m_shown.descends) {
@@ -136,15 +122,9 @@ void RowGrid::sortBy(std::size_t column) {
 }
 
 void RowGrid::load(const PagePlace &place, std::size_t first) {
-    m_holes.run([view = m_shown,
+    m_holes.ask([view = m_shown,
                  place](soci::session &holes) { return pageOf(holes, view, place, pageSize); },
-                [this, first](const Rows &rows, const std::string &fault) {
-                    if (fault.empty()) {
-                        showRows(rows, first);
-                    } else {
-                        m_signalFault.emit(fault);
-                    }
-                });
+                [this, first](const Rows &rows) { showRows(rows, first); });
 }
 
 void RowGrid::showRows(const Rows &rows, std::size_t first) {

@@ -19,13 +19,13 @@ class RowGrid : public Gtk::Box {
 public:
     RowGrid(const Table &table, DatabaseThread &holes);
 
-    /// Shows the first rows of the table, or its last ones.
-    ///
-    /// @param count  the rows that the table has
-    void show(std::size_t count, bool isAtEnd);
+    const Table &table() const { return *m_shown.table; }
 
-    /// Why rows can't be shown.
-    sigc::signal<void, const std::string &> &signalFault() { return m_signalFault; }
+    /// Counts the rows, and shows the first or the last ones of those that pass the filter.
+    void refresh(bool isAtEnd);
+
+    /// The number of the table's rows was counted.
+    sigc::signal<void, std::size_t> &signalCounted() { return m_signalCounted; }
 
 private:
     using Rows = std::vector<std::vector<std::string>>;
@@ -37,7 +37,6 @@ private:
     void goOn();
     void goToLast();
     void goTo(const std::string &number);
-    void filter();
     void sortBy(std::size_t column);
     void load(const PagePlace &place, std::size_t first);
     void showRows(const Rows &rows, std::size_t first);
@@ -47,7 +46,7 @@ private:
     std::size_t m_count = 0; ///< rows that pass the filter
     std::size_t m_first = 0; ///< the number of the first one on the page, counted from 0
     Rows m_page;
-    sigc::signal<void, const std::string &> m_signalFault;
+    sigc::signal<void, std::size_t> m_signalCounted;
     Gtk::ScrolledWindow m_scrolled;
     Gtk::ListViewText m_view;
     Gtk::Label m_place;

@@ -2,54 +2,23 @@
 
 #pragma once
 
-#include "examples/drillhole/window/DatabaseThread.h"
+#include "examples/drillhole/window/ImportStory.h"
 
-#include <optional>
-
-#include <gtkmm/button.h>
-#include <gtkmm/dialog.h>
-#include <gtkmm/entry.h>
-#include <gtkmm/grid.h>
-#include <gtkmm/label.h>
-#include <gtkmm/listviewtext.h>
+#include <gtkmm/window.h>
 
 namespace drillhole {
 
-/// A table in another database.
-struct SourceTable {
-    std::string connection; ///< with its password
-    std::string name;       ///< empty if only a database was to be chosen
+enum class SourceKind {
+    table, ///< one in a database to read from
+    holes  ///< a database for the drill holes
 };
 
-/// Lets the user connect to a database and choose a table of it, or connect to one for the drill
-/// holes.
-class SourceDialog : public Gtk::Dialog {
-public:
-    enum class Choice { table, holes };
-
-    /// @param connection  what to begin with, perhaps with a password
-    /// @param message     what the user reads first
-    SourceDialog(Gtk::Window &owner, Choice choice, const std::string &connection,
-                 const std::string &message);
-
-    /// Nothing if the user pressed Cancel.
-    std::optional<SourceTable> choose();
-
-private:
-    void addRow(int row, const Glib::ustring &text, Gtk::Entry &entry, Gtk::Button &button);
-    void chooseFile();
-    void connectDatabase();
-
-    Choice m_choice;
-    std::string m_given;     ///< the connection to begin with; its password is not shown
-    DatabaseThread m_source; ///< whose tables are shown
-    Gtk::Grid m_grid;
-    Gtk::Entry m_connection;
-    Gtk::Entry m_password;
-    Gtk::Button m_file;
-    Gtk::Button m_connect;
-    Gtk::Label m_message;
-    Gtk::ListViewText m_tables;
-};
+/// Lets the user connect to a database, and choose a table of it if it is to be one. Gives nothing
+/// if the user pressed Cancel.
+///
+/// @param connection  what to begin with, perhaps with a password
+/// @param message     what the user reads first
+std::optional<ImportSource> chooseSource(Gtk::Window &owner, SourceKind kind,
+                                         const std::string &connection, const std::string &message);
 
 } // namespace drillhole

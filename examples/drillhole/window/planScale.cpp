@@ -7,11 +7,7 @@
 
 namespace drillhole {
 
-namespace {
-
 constexpr double leastExtent = 100;
-
-} // namespace
 
 PlanScale planScale(const std::vector<Collar> &collars, double width, double height,
                     double margin) {
