@@ -45,6 +45,7 @@ add_library(columnimport SHARED
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/AccessibleRows.cpp
     dragdrop/${platform}/RowMarks.cpp
+    dragdrop/${platform}/UseMarks.cpp
     dragdrop/${platform}/clipboardText.cpp
     dragdrop/History.cpp
     dragdrop/ListBoxSource.cpp

@@ -10,7 +10,6 @@
 #include "dialogs/Scale.h"
 #include "dialogs/arrowBitmap.h"
 #include "dialogs/fitToScreen.h"
-#include "dialogs/nativeControls.h"
 #include "dialogs/quietSentence.h"
 #include "dialogs/requiredSentence.h"
 #include "dragdrop/ListBoxSource.h"
@@ -119,8 +118,6 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
 
     matches->InsertColumn(COLUMN_MATCH, translated("Matching"), wxLIST_FORMAT_LEFT, scale(245));
     matches->InsertColumn(COLUMN_APP, translated("Application"), wxLIST_FORMAT_LEFT, scale(245));
-
-    columnimport::setAccessibleName(*files, translated("File columns"));
 
     m_matchDropTarget = new TextDropTarget(*matches);
     matches->SetDropTarget(m_matchDropTarget);

@@ -8,6 +8,7 @@
 #include "dragdrop/dragText.h"
 #include "dragdrop/findTyped.h"
 #include "dragdrop/tipWhereCut.h"
+#include "languages/translated.h"
 #include "listBox.h" // of the platform
 
 #include <wx/time.h>
@@ -16,7 +17,7 @@ namespace columnimport {
 
 ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                              const wxSize &size)
-    : wxListBox(parent, id, position, size) {
+    : wxListBox(parent, id, position, size), m_useMarks(*this, translated("File columns")) {
     Bind(wxEVT_LEFT_DOWN, &ListBoxSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListBoxSource::onMouseMove, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent &event) { assign(HitTest(event.GetPosition())); });
@@ -36,21 +37,15 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
 ListBoxSource::~ListBoxSource() = default;
 
 void ListBoxSource::showNames(const wxArrayString &names) {
-    Clear();
     m_names = names;
-    m_isUsed.assign(m_names.size(), false);
-    if (!m_names.empty()) {
-        Append(m_names);
-    }
+    m_useMarks.showNames(names);
 }
 
 void ListBoxSource::showUse(const std::unordered_set<std::wstring> &used) {
-    constexpr const wchar_t *checkMark = L" \x2713";
     for (unsigned row = 0; row < m_names.size(); ++row) {
         const bool isUsed = used.count(m_names[row].ToStdWstring()) != 0;
-        if (isUsed != m_isUsed[row]) {
-            m_isUsed[row] = isUsed;
-            SetString(row, isUsed ? m_names[row] + checkMark : m_names[row]);
+        if (isUsed != m_useMarks.isUsed(row)) {
+            m_useMarks.set(row, isUsed);
         }
     }
 }
@@ -73,7 +68,8 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
     if (row < 0) {
         return;
     }
-    tipWhereCut(*this, GetString(static_cast<unsigned>(row)), GetClientSize().x - GetCharWidth());
+    tipWhereCut(*this, GetString(static_cast<unsigned>(row)),
+                GetClientSize().x - m_useMarks.width() - GetCharWidth());
     if (!movedWithButtonDown(event)) {
         return;
     }

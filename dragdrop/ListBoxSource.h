@@ -2,9 +2,10 @@
 
 #pragma once
 
+#include "UseMarks.h" // of the platform
+
 #include <string>
 #include <unordered_set>
-#include <vector>
 
 #include <wx/arrstr.h>
 #include <wx/listbox.h>
@@ -16,13 +17,8 @@ namespace columnimport {
 ///
 /// It takes the left button for itself: a press selects the entry under it, and the first move with
 /// the button down over an entry drags that entry's text. A second click, or Ctrl+Enter, writes the
-/// text into the match list. The list is not changed by any of them, but for the check mark that
-/// follows each name which the match list holds:
-///
-///     HOLE ✓
-///     AU
-///
-/// The mark is shown and told by a screen reader, and is no part of the entry's text.
+/// text into the match list. The list is not changed by any of them, but for the check mark before
+/// each name which the match list holds. The mark is no part of the entry's text.
 ///
 /// What is typed selects the next entry that begins with it, or else the next one that contains it.
 class ListBoxSource : public wxListBox {
@@ -50,9 +46,9 @@ private:
     void assign(int row);
 
     wxArrayString m_names;
-    std::vector<bool> m_isUsed; // by entry
-    wxString m_typed;           // to be found
-    wxLongLong m_typedAt;       // when its last character was typed, in milliseconds
+    UseMarks m_useMarks;
+    wxString m_typed;     // to be found
+    wxLongLong m_typedAt; // when its last character was typed, in milliseconds
 };
 
 } // namespace columnimport

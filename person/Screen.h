@@ -48,3 +48,6 @@ std::optional<wxPoint> placeOfDrag();
 
 /// Whether a row of the match list is shown as marked.
 bool isShownAsMarked(int row);
+
+/// Whether a check mark is shown before an entry of the list of file columns.
+bool isShownAsUsed(int entry);

@@ -98,3 +98,15 @@ Names fileTexts() {
         return texts;
     });
 }
+
+std::vector<int> usedEntries() {
+    return read([] {
+        std::vector<int> entries;
+        for (int entry = 0; entry < static_cast<int>(fileList().GetCount()); ++entry) {
+            if (isShownAsUsed(entry)) {
+                entries.push_back(entry);
+            }
+        }
+        return entries;
+    });
+}

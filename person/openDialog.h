@@ -35,5 +35,6 @@ std::vector<int> boldRows();
 std::vector<int> markedRows();
 std::vector<int> hoverRows();
 
-/// The texts of the list of file columns.
+/// The texts of the list of file columns, and those of its entries that are shown as in use.
 Names fileTexts();
+std::vector<int> usedEntries();

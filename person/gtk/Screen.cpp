@@ -6,6 +6,7 @@
 #include "person/wayland/MutterHand.h"
 #include "person/x11/XTestHand.h"
 
+#include <cstdlib>
 #include <exception>
 #include <future>
 
@@ -178,4 +179,27 @@ std::optional<wxPoint> placeOfDrag() {
 bool isShownAsMarked(int row) {
     const wxColour colour = matchList().GetItemBackgroundColour(row);
     return colour.IsOk() && colour != matchList().GetBackgroundColour();
+}
+
+// As the row would be dragged: its picture stands also before it has been given its place.
+bool isShownAsUsed(int entry) {
+    GtkTreePath *path = gtk_tree_path_new_from_indices(entry, -1);
+    cairo_surface_t *row =
+        gtk_tree_view_create_row_drag_icon(GTK_TREE_VIEW(fileList().m_focusWidget), path);
+    gtk_tree_path_free(path);
+    constexpr int border = 2;
+    const int side = fileList().GetCharHeight(); // the name begins behind it
+    GdkPixbuf *picture = gdk_pixbuf_get_from_surface(row, border, border, side, side);
+    cairo_surface_destroy(row);
+    const unsigned char *const pixels = gdk_pixbuf_read_pixels(picture);
+    bool isSeen = false;
+    for (int line = 0; line < side; ++line) {
+        for (int column = 0; column < side; ++column) {
+            const int place = line * gdk_pixbuf_get_rowstride(picture) +
+                              column * gdk_pixbuf_get_n_channels(picture);
+            isSeen = isSeen || std::abs(pixels[place] - pixels[0]) > 60;
+        }
+    }
+    g_object_unref(picture);
+    return isSeen;
 }

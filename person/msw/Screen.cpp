@@ -7,6 +7,7 @@
 
 #include <exception>
 #include <future>
+#include <string>
 
 #include <wx/msw/private.h>
 
@@ -127,4 +128,13 @@ std::optional<wxPoint> placeOfDrag() {
 
 bool isShownAsMarked(int row) {
     return matchList().GetItemState(row, wxLIST_STATE_DROPHILITED) != 0;
+}
+
+bool isShownAsUsed(int entry) {
+    const HWND list = fileList().GetHWND();
+    const auto row = static_cast<WPARAM>(entry);
+    std::wstring text(static_cast<std::size_t>(SendMessageW(list, LB_GETTEXTLEN, row, 0)) + 1,
+                      L'\0');
+    SendMessageW(list, LB_GETTEXT, row, reinterpret_cast<LPARAM>(text.data()));
+    return text.front() == L'\x2713';
 }

@@ -94,6 +94,13 @@ void expectShown(const Lists &lists, const std::string &where) {
         EXPECT_EQ(read(application), collar[row]);
     }
     EXPECT_EQ(boldRows(), unused) << where;
+    std::vector<int> used;
+    for (std::size_t entry = 0; entry < lists.fileColumns.size(); ++entry) {
+        if (std::count(lists.matches.begin(), lists.matches.end(), lists.fileColumns[entry]) > 0) {
+            used.push_back(static_cast<int>(entry));
+        }
+    }
+    EXPECT_EQ(usedEntries(), used) << where;
 }
 
 void expectToTake(const Route &route, const std::string &path) {

@@ -5,6 +5,7 @@
 
 #include "dragdrop/gtk/markColours.h"
 #include "person/DialogRun.h"
+#include "person/Screen.h"
 #include "tests/ScratchFile.h"
 
 #include <string>
@@ -112,6 +113,7 @@ TEST_F(Look, WhatCannotBeSeenIsTold) {
         wxListCtrl &matches = matchList();
         person.hoverAt(Person::matchRow(2), "the whole name is told", tipIs(matches, cut));
         person.hoverAt(Person::matchRow(0), "nothing is told", tipIs(matches, ""));
+        EXPECT_TRUE(read([] { return isShownAsUsed(1); }));
         onUserInterface([] {
             GtkWidget *preview = control(wxImportCSVDialog::TEXT_FILE_PREVIEW).GetHandle();
             EXPECT_TRUE(pango_layout_is_ellipsized(gtk_label_get_layout(GTK_LABEL(preview))));

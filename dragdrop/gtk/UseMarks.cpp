@@ -1,0 +1,159 @@
+// SPDX-License-Identifier: MIT
+
+#include "UseMarks.h"
+
+#include "languages/translated.h"
+
+#include <gtk/gtk.h>
+#include <wx/arrstr.h>
+#include <wx/listbox.h>
+
+namespace columnimport {
+
+namespace {
+
+/// Shows a name with room before it. A reader finds the cell's text, which tells in words what the
+/// mark shows: what is measured and drawn is the name alone.
+struct NameCell {
+    GtkCellRendererText parent;
+    int room;         // before the name
+    char *markedName; // null if the name has no mark
+};
+
+NameCell &nameCell(void *cell) {
+    return *static_cast<NameCell *>(cell);
+}
+
+GtkCellRendererClass *parentClass() {
+    return GTK_CELL_RENDERER_CLASS(g_type_class_peek(GTK_TYPE_CELL_RENDERER_TEXT));
+}
+
+void takeWordsAway(GtkCellRenderer *cell) {
+    if (const char *name = nameCell(cell).markedName) {
+        g_object_set(cell, "text", name, nullptr);
+    }
+}
+
+void getPreferredWidth(GtkCellRenderer *cell, GtkWidget *widget, int *least, int *natural) {
+    takeWordsAway(cell);
+    parentClass()->get_preferred_width(cell, widget, least, natural);
+    for (int *width : {least, natural}) {
+        if (width != nullptr) {
+            *width += nameCell(cell).room;
+        }
+    }
+}
+
+/// In the middle of `area`, in the colour of the text there.
+void drawMark(cairo_t *context, GtkWidget *widget, const GdkRectangle &area) {
+    GtkStyleContext *style = gtk_widget_get_style_context(widget);
+    GdkRGBA colour;
+    gtk_style_context_get_color(style, gtk_style_context_get_state(style), &colour);
+    const double side = area.width / 2.0;
+    cairo_save(context);
+    gdk_cairo_set_source_rgba(context, &colour);
+    cairo_set_line_width(context, side / 5);
+    cairo_translate(context, area.x + side / 2, area.y + (area.height - side) / 2);
+    cairo_move_to(context, 0, side * 0.55);
+    cairo_line_to(context, side * 0.35, side * 0.9);
+    cairo_line_to(context, side, side * 0.1);
+    cairo_stroke(context);
+    cairo_restore(context);
+}
+
+void render(GtkCellRenderer *cell, cairo_t *context, GtkWidget *widget,
+            const GdkRectangle *background, const GdkRectangle *area, GtkCellRendererState state) {
+    takeWordsAway(cell);
+    const int room = nameCell(cell).room;
+    if (nameCell(cell).markedName != nullptr) {
+        drawMark(context, widget, {area->x, area->y, room, area->height});
+    }
+    const GdkRectangle rest = {area->x + room, area->y, area->width - room, area->height};
+    parentClass()->render(cell, context, widget, background, &rest, state);
+}
+
+void finalize(GObject *object) {
+    g_free(nameCell(object).markedName);
+    G_OBJECT_CLASS(parentClass())->finalize(object);
+}
+
+void initClass(void *cellClass, void *) {
+    GTK_CELL_RENDERER_CLASS(cellClass)->get_preferred_width = getPreferredWidth;
+    GTK_CELL_RENDERER_CLASS(cellClass)->render = render;
+    G_OBJECT_CLASS(cellClass)->finalize = finalize;
+}
+
+GType cellType() {
+    static const GType type = g_type_register_static_simple(
+        GTK_TYPE_CELL_RENDERER_TEXT, "ColumnImportNameCell", sizeof(GtkCellRendererTextClass),
+        initClass, sizeof(NameCell), nullptr, GTypeFlags(0));
+    return type;
+}
+
+/// Runs when the cell has got the text of its entry.
+void markCell(GtkCellLayout *, GtkCellRenderer *cell, GtkTreeModel *model, GtkTreeIter *entry,
+              void *marks) {
+    GtkTreePath *path = gtk_tree_model_get_path(model, entry);
+    const auto row = static_cast<unsigned>(*gtk_tree_path_get_indices(path));
+    gtk_tree_path_free(path);
+    char *&name = nameCell(cell).markedName;
+    g_free(name);
+    name = nullptr;
+    if (static_cast<const UseMarks *>(marks)->isUsed(row)) {
+        g_object_get(cell, "text", &name, nullptr);
+        const wxString words = wxString::Format(translated("%s, in use"), wxString::FromUTF8(name));
+        g_object_set(cell, "text", words.utf8_str().data(), nullptr);
+    }
+}
+
+GtkTreeView *viewOf(const wxListBox &list) {
+    return GTK_TREE_VIEW(list.m_focusWidget);
+}
+
+GtkCellLayout *cellsOf(const wxListBox &list) {
+    return GTK_CELL_LAYOUT(gtk_tree_view_get_column(viewOf(list), 0));
+}
+
+} // namespace
+
+// In the place of the toolkit's own cell, which shows the entry's text too.
+UseMarks::UseMarks(wxListBox &list, const wxString &name) : m_list(list) {
+    GtkCellLayout *cells = cellsOf(list);
+    auto *cell = static_cast<GtkCellRenderer *>(g_object_new(cellType(), nullptr));
+    nameCell(cell).room = width();
+    gtk_cell_layout_clear(cells);
+    gtk_cell_layout_pack_start(cells, cell, TRUE);
+    gtk_cell_layout_add_attribute(cells, cell, "text", 0);
+    gtk_cell_layout_set_cell_data_func(cells, cell, markCell, this, nullptr);
+    for (GtkWidget *part : {list.GetHandle(), list.m_focusWidget}) {
+        atk_object_set_name(gtk_widget_get_accessible(part), name.utf8_str());
+    }
+}
+
+UseMarks::~UseMarks() {
+    gtk_cell_layout_clear(cellsOf(m_list));
+}
+
+void UseMarks::showNames(const wxArrayString &names) {
+    m_list.Clear();
+    m_isUsed.assign(names.size(), false);
+    if (!names.empty()) {
+        m_list.Append(names);
+    }
+}
+
+void UseMarks::set(unsigned row, bool isUsed) {
+    m_isUsed[row] = isUsed;
+    GtkTreeModel *model = gtk_tree_view_get_model(viewOf(m_list));
+    GtkTreePath *path = gtk_tree_path_new_from_indices(static_cast<int>(row), -1);
+    GtkTreeIter entry;
+    gtk_tree_model_get_iter(model, &entry, path);
+    gtk_tree_model_row_changed(model, path, &entry);
+    gtk_tree_path_free(path);
+}
+
+int UseMarks::width() const {
+    return m_list.GetCharHeight();
+}
+
+} // namespace columnimport

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <vector>
+
+class wxArrayString;
+class wxListBox;
+class wxString;
+
+namespace columnimport {
+
+/// The check marks in a list of names. Each entry has room for one before its name, so that it is
+/// seen beside a name that is cut off too:
+///
+///     ✓ HOLE     a screen reader is told "HOLE, in use"
+///       AU       "AU"
+///
+/// It is drawn and no character: no font has to have it.
+class UseMarks {
+public:
+    /// To be made after `list`, and to go before it. `name` tells the list from others to a reader.
+    UseMarks(wxListBox &list, const wxString &name);
+    ~UseMarks();
+    UseMarks(const UseMarks &) = delete;
+    UseMarks &operator=(const UseMarks &) = delete;
+
+    /// Replaces all entries by `names`, without marks.
+    void showNames(const wxArrayString &names);
+
+    void set(unsigned row, bool isUsed);
+    bool isUsed(unsigned row) const { return row < m_isUsed.size() && m_isUsed[row]; }
+
+    /// The room before a name, in pixels.
+    int width() const;
+
+private:
+    wxListBox &m_list;
+    std::vector<bool> m_isUsed; // by entry
+};
+
+} // namespace columnimport

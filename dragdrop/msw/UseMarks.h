@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <vector>
+
+class wxArrayString;
+class wxListBox;
+class wxString;
+
+namespace columnimport {
+
+/// The check marks in a list of names. Each entry has room for one before its name, so that it is
+/// seen beside a name that is cut off too:
+///
+///     ✓ HOLE     a screen reader is told "HOLE, in use"
+///       AU       "AU"
+///
+/// The native control shows texts alone: an entry is the mark or nothing, a tab, and the name.
+class UseMarks {
+public:
+    /// To be made after `list`, and to go before it. `name` tells the list from others to a reader.
+    UseMarks(wxListBox &list, const wxString &name);
+
+    /// Replaces all entries by `names`, without marks.
+    void showNames(const wxArrayString &names);
+
+    void set(unsigned row, bool isUsed);
+    bool isUsed(unsigned row) const { return row < m_isUsed.size() && m_isUsed[row]; }
+
+    /// The room before a name, in pixels.
+    int width() const;
+
+private:
+    wxListBox &m_list;
+    std::vector<bool> m_isUsed; // by entry
+};
+
+} // namespace columnimport
