@@ -171,7 +171,8 @@ TEST_F(ImportTest, ReplacesNothingUnaskedThatWouldBeLost) {
          "Replace 2 collars by 1 new one? 1 row of the source would be left out.",
          "LR-1 1.0, LR-2 3.0"},
         {"hole,x,y\nLR-3,7,8\n", Replace::ifNothingIsLost,
-         "Replace 2 collars by 1 new one? 1 survey would lose their collar.", "LR-1 1.0, LR-2 3.0"},
+         "Replace 2 collars by 1 new one? 1 row of the other tables would lose their collar.",
+         "LR-1 1.0, LR-2 3.0"},
         {"hole,x,y\nLR-1,7,8\n", Replace::ifNothingIsLost, "", "LR-1 7.0"},
         {"hole,x,y\nLR-3,9,8\nLR-1,a,8\n", Replace::anyway, "", "LR-3 9.0"},
     };

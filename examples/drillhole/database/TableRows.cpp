@@ -2,14 +2,18 @@
 
 #include "examples/drillhole/database/TableRows.h"
 
+#include "examples/drillhole/database/Answer.h"
 #include "examples/drillhole/database/connection.h"
 #include "examples/drillhole/database/faultText.h"
 #include "examples/drillhole/database/onOwnThread.h"
 #include "examples/drillhole/database/sourceTables.h"
 #include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/rows/text.h"
 
 #include <algorithm>
 #include <optional>
+
+#include <boost/algorithm/string/join.hpp>
 
 namespace drillhole {
 
@@ -23,34 +27,31 @@ constexpr std::size_t batchSize = 1000;
 struct TableRows::Source {
     std::string connection;
     std::string table;
-    std::vector<std::string> columns;
-    FieldPositions wanted;
+    RowLayout layout;
     double count = 0;
     Session session;
+    std::vector<std::size_t> read; // the positions of the columns that are
+    std::string query;
     bool isCursor = false;
-    std::vector<std::string> fields;
-    std::vector<soci::indicator> indicators;
-    std::optional<soci::statement> statement; // of the open session
+    std::optional<Answer> answer; // of the open session
 
     void open() {
         session = openSource(connection);
         const std::string name = nameInQuery(*session, table);
-        if (columnNames(*session, name) != columns) {
+        if (columnNames(*session, name) != layout.columns) {
             throw Fault("The columns of table " + table +
                         " were changed meanwhile. Import it again to match the present ones.");
         }
         *session << "select count(*) from " + name, soci::into(count);
-        fields.resize(columns.size());
-        indicators.resize(columns.size());
-        statement.emplace(*session);
-        std::string list;
-        for (std::size_t i = 0; i < columns.size(); ++i) {
+        std::vector<std::string> names;
+        for (std::size_t i = 0; i < layout.columns.size(); ++i) {
+            const auto &wanted = layout.positions;
             if (std::find(wanted.begin(), wanted.end(), i) != wanted.end()) {
-                list += (list.empty() ? "" : ", ") + quotedName(columns[i]);
-                statement->exchange(soci::into(fields[i], indicators[i]));
+                read.push_back(i);
+                names.push_back(inQuotes(layout.columns[i], '"', '"'));
             }
         }
-        std::string query = "select " + list + " from " + name;
+        query = "select " + boost::join(names, ", ") + " from " + name;
         // The client of PostgreSQL takes the whole answer to a query into memory.
         isCursor = session->get_backend_name() == "postgresql";
         if (isCursor) {
@@ -58,27 +59,21 @@ struct TableRows::Source {
             *session << "declare all_rows no scroll cursor for " + query;
             query = "fetch " + std::to_string(batchSize) + " from all_rows";
         }
-        statement->alloc();
-        statement->prepare(query);
-        statement->define_and_bind();
     }
 
-    Batch read() {
+    Batch readBatch() {
         Batch batch;
         inPlainWords(connection, [&] {
-            const bool isFirst = !session;
-            if (isFirst) {
+            if (!session) {
                 open();
             }
-            if (isFirst || isCursor) {
-                statement->execute();
+            if (!answer || isCursor) {
+                answer.emplace(*session, query, std::vector<Kind>(read.size(), Kind::text));
             }
-            while (batch.size() < batchSize && statement->fetch()) {
-                batch.push_back(fields);
-                for (std::size_t i = 0; i < fields.size(); ++i) {
-                    if (indicators[i] == soci::i_null) {
-                        batch.back()[i].clear();
-                    }
+            while (batch.size() < batchSize && answer->next()) {
+                std::vector<std::string> &fields = batch.emplace_back(layout.columns.size());
+                for (std::size_t i = 0; i < read.size(); ++i) {
+                    fields[read[i]] = answer->row()[i].text;
                 }
             }
         });
@@ -87,32 +82,31 @@ struct TableRows::Source {
 };
 
 TableRows::TableRows(const std::string &connection, const std::string &table,
-                     const std::vector<std::string> &columns, const FieldPositions &wanted,
-                     const std::atomic<bool> &isCancelled)
+                     const RowLayout &layout, const std::atomic<bool> &isCancelled)
     : m_source(std::make_shared<Source>()), m_isCancelled(isCancelled) {
     m_source->connection = connection;
     m_source->table = table;
-    m_source->columns = columns;
-    m_source->wanted = wanted;
-    m_ahead = onOwnThread([source = m_source] { return source->read(); });
+    m_source->layout = layout;
+    readAhead();
+}
+
+void TableRows::readAhead() {
+    m_ahead = onOwnThread([source = m_source] { return source->readBatch(); });
 }
 
 bool TableRows::next(Row &row) {
     if (m_nextOfBatch == m_batch.size()) {
-        while (m_ahead.valid() &&
-               m_ahead.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready) {
+        while (m_ahead.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready) {
             if (m_isCancelled) {
                 return false;
             }
         }
-        m_batch = m_ahead.valid() ? m_ahead.get() : Batch();
+        m_batch = m_ahead.get();
         m_nextOfBatch = 0;
-        if (m_batch.size() == batchSize) {
-            m_ahead = onOwnThread([source = m_source] { return source->read(); });
-        }
         if (m_batch.empty()) {
             return false;
         }
+        readAhead();
     }
     const std::vector<std::string> &fields = m_batch[m_nextOfBatch++];
     row.firstLine = row.lastLine = ++m_read;

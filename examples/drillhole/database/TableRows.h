@@ -15,12 +15,10 @@ namespace drillhole {
 /// A row's line is its number; its fields are there for the columns that are wanted.
 class TableRows : public RowSource {
 public:
-    /// @param columns      those that the user saw; a Fault comes with the first row if the table
-    ///                     has others now
-    /// @param wanted       the positions of those that are read
+    /// @param layout       the columns that the user saw, and which of them are read; a Fault comes
+    ///                     with the first row if the table has others now
     /// @param isCancelled  ends the wait for a row, also for that of a server that is silent
-    TableRows(const std::string &connection, const std::string &table,
-              const std::vector<std::string> &columns, const FieldPositions &wanted,
+    TableRows(const std::string &connection, const std::string &table, const RowLayout &layout,
               const std::atomic<bool> &isCancelled);
 
     bool next(Row &row) override;
@@ -29,6 +27,7 @@ public:
 private:
     using Batch = std::vector<std::vector<std::string>>;
     struct Source;
+    void readAhead();
 
     std::shared_ptr<Source> m_source;
     const std::atomic<bool> &m_isCancelled;

@@ -5,12 +5,14 @@
 #include "examples/drillhole/database/faultText.h"
 #include "examples/drillhole/database/onOwnThread.h"
 #include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/rows/text.h"
 
 #include <filesystem>
 #include <regex>
 #include <vector>
 
-#include <poll.h>
+#include <boost/algorithm/string/join.hpp>
+#include <boost/algorithm/string/replace.hpp>
 #include <soci/odbc/soci-odbc.h>
 #include <soci/postgresql/soci-postgresql.h>
 #include <soci/sqlite3/soci-sqlite3.h>
@@ -34,33 +36,29 @@ struct Parts {
     std::vector<std::string> passwords;
 };
 
-std::string escapedIn(const std::string &text, const char *special) {
-    return std::regex_replace(text, std::regex(special), R"re(\$&)re");
-}
-
 // The client of the server knows which of its settings are secret. A string that it can't read has
 // no settings.
 Parts partsForServer(const std::string &connection) {
-    Parts parts{server, server, {}};
+    std::vector<std::string> open;
+    std::vector<std::string> whole;
+    std::vector<std::string> passwords;
     const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
         PQconninfoParse(connection.c_str() + server.size(), nullptr), &PQconninfoFree);
     const PQconninfoOption *each = options.get();
     for (; each != nullptr && each->keyword != nullptr; ++each) {
-        if (each->val == nullptr) {
+        const std::string value = each->val == nullptr ? "" : each->val;
+        if (value.empty()) {
             continue;
         }
-        const bool isPlain = std::regex_match(each->val, std::regex(R"re([^\s'\\]+)re"));
-        const std::string setting =
-            std::string(parts.whole == server ? "" : " ") + each->keyword + '=' +
-            (isPlain ? each->val : '\'' + escapedIn(each->val, R"re(['\\])re") + '\'');
-        parts.whole += setting;
+        const bool isPlain = value.find_first_of(" \t\n'\\") == std::string::npos;
+        whole.push_back(each->keyword + ('=' + (isPlain ? value : inQuotes(value, '\'', '\\'))));
         if (*each->dispchar == '*') {
-            parts.passwords.emplace_back(each->val);
+            passwords.push_back(value);
         } else {
-            parts.open += parts.open == server ? setting.substr(setting.front() == ' ') : setting;
+            open.push_back(whole.back());
         }
     }
-    return parts;
+    return {server + boost::join(open, " "), server + boost::join(whole, " "), passwords};
 }
 
 Parts partsFor(const std::string &connection) {
@@ -69,7 +67,7 @@ Parts partsFor(const std::string &connection) {
     }
     // PWD={se;cret}, SslPassword=secret
     static const std::regex secret(
-        R"re((^|[;/])[\w\s]*(?:password|passwd|passphrase|pwd|secret|token)\s*=\s*(\{(?:[^}]|\}\})*\}|[^;]*);?)re",
+        R"re((^|[;/])[\w\s]*(?:password|passwd|passphrase|pwd|secret|token)\s*=\s*(?:\{((?:[^}]|\}\})*)\}|([^;]*));?)re",
         std::regex::icase);
     Parts parts{connection, connection, {}};
     if (!isFor(connection, odbc)) {
@@ -78,13 +76,8 @@ Parts partsFor(const std::string &connection) {
     parts.open = std::regex_replace(connection, secret, "$1");
     for (std::sregex_iterator each(connection.begin(), connection.end(), secret), end; each != end;
          ++each) {
-        const std::string password = (*each)[2];
-        parts.passwords.push_back(password);
-        if (password.size() > 1 && password.front() == '{') {
-            const std::string bare = password.substr(1, password.size() - 2);
-            parts.passwords.push_back(bare);
-            parts.passwords.push_back(std::regex_replace(bare, std::regex("\\}\\}"), "}"));
-        }
+        parts.passwords.push_back(each->str(2) + each->str(3));
+        parts.passwords.push_back(boost::replace_all_copy(parts.passwords.back(), "}}", "}"));
     }
     return parts;
 }
@@ -96,28 +89,18 @@ std::chrono::seconds timeLimitOf(const std::string &connection) {
                                                                               : 10);
 }
 
-// SOCI hands no SQLSTATE on when the server does not let it in, so this knocks first.
-void knock(const std::string &settings, std::chrono::milliseconds limit) {
-    const std::unique_ptr<PGconn, decltype(&PQfinish)> knocking(PQconnectStart(settings.c_str()),
-                                                                &PQfinish);
-    PQsetErrorVerbosity(knocking.get(), PQERRORS_SQLSTATE);
-    auto state =
-        PQstatus(knocking.get()) == CONNECTION_BAD ? PGRES_POLLING_FAILED : PGRES_POLLING_WRITING;
-    while (state == PGRES_POLLING_READING || state == PGRES_POLLING_WRITING) {
-        const int events = state == PGRES_POLLING_READING ? POLLIN : POLLOUT;
-        pollfd socket{PQsocket(knocking.get()), static_cast<short>(events), 0};
-        state = poll(&socket, 1, static_cast<int>(limit.count())) > 0
-                    ? PQconnectPoll(knocking.get())
-                    : PGRES_POLLING_FAILED;
-    }
-    if (state == PGRES_POLLING_FAILED) {
-        const std::string words = PQerrorMessage(knocking.get());
-        std::smatch code;
-        const bool isSaid = std::regex_search(words, code, std::regex("([0-9A-Z]{5})\\s*$"));
-        throw soci::postgresql_soci_error(words, PQconnectionNeedsPassword(knocking.get()) ? "28P01"
-                                                 : isSaid ? code[1].str().c_str()
-                                                          : "08001");
-    }
+// SOCI hands no SQLSTATE on when the server does not let it in, so this asks once more for that.
+[[noreturn]] void throwRefusalOf(const std::string &settings) {
+    const std::unique_ptr<PGconn, decltype(&PQfinish)> asking(PQconnectStart(settings.c_str()),
+                                                              &PQfinish);
+    PQsetErrorVerbosity(asking.get(), PQERRORS_SQLSTATE);
+    PQreset(asking.get());
+    const std::string words = PQerrorMessage(asking.get());
+    std::smatch code;
+    std::regex_search(words, code, std::regex("([0-9A-Z]{5})\\s*$"));
+    throw soci::postgresql_soci_error(words, PQconnectionNeedsPassword(asking.get()) ? "28P01"
+                                             : code.empty()                          ? "08001"
+                                                            : code.str(1).c_str());
 }
 
 Session newSession(const std::string &connection, const std::string &more) {
@@ -127,8 +110,13 @@ Session newSession(const std::string &connection, const std::string &more) {
             throw Fault("Write its settings as in postgresql://host=db dbname=holes user=ann.");
         }
         // The one who waits is to give up first, and says so.
-        knock(settings, timeLimitOf(connection) + std::chrono::seconds(1));
-        return std::make_shared<soci::session>(soci::postgresql, settings);
+        const auto limit = (timeLimitOf(connection) + std::chrono::seconds(1)).count();
+        const std::string limited = settings + " connect_timeout=" + std::to_string(limit);
+        try {
+            return std::make_shared<soci::session>(soci::postgresql, limited);
+        } catch (const soci::soci_error &) {
+            throwRefusalOf(limited);
+        }
     }
     if (isFor(connection, odbc)) {
         return std::make_shared<soci::session>(soci::odbc, connection.substr(odbc.size()));
@@ -143,16 +131,18 @@ Session newSession(const std::string &connection, const std::string &more) {
 
 Session open(const std::string &connection, const std::string &more) {
     const std::string place = "The database " + placeOf(connection) + " can't be opened. ";
-    auto opened = onOwnThread([=] { return newSession(connection, more); });
-    if (opened.wait_for(timeLimitOf(connection)) != std::future_status::ready) {
-        throw Fault(place + "It did not answer within " +
-                    std::to_string(timeLimitOf(connection).count()) +
+    auto opened = onOwnThread([=] {
+        Session session;
+        inPlainWords(connection, [&] { session = newSession(connection, more); });
+        return session;
+    });
+    const std::chrono::seconds limit = timeLimitOf(connection);
+    if (opened.wait_for(limit) != std::future_status::ready) {
+        throw Fault(place + "It did not answer within " + std::to_string(limit.count()) +
                     " seconds. See that it runs and that the network is there.");
     }
     try {
         return opened.get();
-    } catch (const soci::soci_error &error) {
-        throw Fault(place + faultText(error, connection));
     } catch (const Fault &fault) {
         throw Fault(place + fault.what());
     }
@@ -172,10 +162,10 @@ std::string withPassword(const std::string &connection, const std::string &passw
         return connection;
     }
     if (isFor(connection, odbc)) {
-        const std::string escaped = std::regex_replace(password, std::regex("\\}"), "}}");
-        return connection + (connection.back() == ';' ? "" : ";") + "PWD={" + escaped + "}";
+        return connection + (connection.back() == ';' ? "" : ";") + "PWD={" +
+               boost::replace_all_copy(password, "}", "}}") + '}';
     }
-    return partsFor(connection).whole + " password='" + escapedIn(password, R"re(['\\])re") + '\'';
+    return partsFor(connection).whole + " password=" + inQuotes(password, '\'', '\\');
 }
 
 std::string withoutPassword(const std::string &connection) {
@@ -191,10 +181,7 @@ std::string placeOf(const std::string &connection) {
 
 std::string hidePasswords(std::string text, const std::string &connection) {
     for (const std::string &password : partsFor(connection).passwords) {
-        for (std::size_t place = password.empty() ? std::string::npos : text.find(password);
-             place != std::string::npos; place = text.find(password, place + 3)) {
-            text.replace(place, password.size(), "***");
-        }
+        boost::replace_all(text, password, "***");
     }
     return text;
 }

@@ -2,11 +2,8 @@
 
 #pragma once
 
+#include "examples/drillhole/database/Answer.h"
 #include "examples/drillhole/database/connection.h"
-#include "examples/drillhole/rows/RowCheck.h"
-
-#include <libpq-fe.h>
-#include <soci/soci.h>
 
 namespace drillhole {
 
@@ -47,30 +44,16 @@ struct Collar {
 
 std::vector<Collar> collarsOf(soci::session &session);
 
-/// Puts rows into a table, one after the other. A server of PostgreSQL gets them in bulk.
-class RowInsertion {
-public:
-    RowInsertion(soci::session &session, const Table &table);
+/// The names of the columns, each with the text before it, separated by commas.
+std::string columnList(const Table &table, const std::string &before = {});
 
-    void insert(const std::vector<Value> &values);
+/// The first columns of all of the table's rows.
+Answer rowsOf(soci::session &session, const Table &table, std::size_t width);
 
-    /// From here on the database answers with all rows that were inserted. It is not to be asked
-    /// for anything between an insertion and this.
-    void flush();
+/// All holes that have a collar, and the depths that the table's rows tell of.
+Holes holesOf(soci::session &session, const Table &table);
 
-private:
-    void sendLines();
-
-    const Table &m_table;
-    const std::string m_target;
-    PGconn *m_server = nullptr; ///< null if it is no server of PostgreSQL
-    bool m_isCopying = false;
-    std::string m_lines; ///< for the server, as COPY wants them
-    // What the statement is bound to: one of each for every column.
-    std::vector<double> m_numbers;
-    std::vector<std::string> m_texts;
-    std::vector<soci::indicator> m_indicators;
-    soci::statement m_statement;
-};
+/// How many rows of all tables belong to no collar.
+std::size_t orphanCount(soci::session &session);
 
 } // namespace drillhole

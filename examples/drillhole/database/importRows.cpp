@@ -2,78 +2,42 @@
 
 #include "examples/drillhole/database/importRows.h"
 
+#include "examples/drillhole/database/RowInsertion.h"
 #include "examples/drillhole/database/TableRows.h"
-#include "examples/drillhole/database/storedRows.h"
 #include "examples/drillhole/rows/Fault.h"
 #include "examples/drillhole/rows/text.h"
 
 #include <algorithm>
+#include <utility>
+
+#include <boost/algorithm/string/join.hpp>
 
 namespace drillhole {
 
 namespace {
 
-constexpr std::size_t mostNames = 20;
-
-/// How many rows of each other table have no collar.
-std::vector<std::size_t> orphanCounts(const Destination &destination) {
-    std::vector<std::size_t> counts;
-    for (const Table &table : holeTables()) {
-        const bool mayHave = destination.table.namesHoles && !table.namesHoles;
-        counts.push_back(mayHave ? orphanCount(destination.session, table) : 0);
-    }
-    return counts;
-}
-
-/// What would be lost if the rows were replaced, or nothing.
-std::string questionOf(const Destination &destination, std::size_t before, std::size_t taken,
-                       std::size_t refused, const std::vector<std::size_t> &orphansBefore) {
-    std::string lost =
-        refused > 0 ? ' ' + countOf(refused, "row") + " of the source would be left out." : "";
-    const std::vector<std::size_t> orphans = orphanCounts(destination);
-    for (std::size_t i = 0; i < orphans.size(); ++i) {
-        if (orphans[i] > orphansBefore[i]) {
-            lost += ' ' + countOf(orphans[i] - orphansBefore[i], holeTables()[i].name) +
-                    " would lose their collar.";
-        }
-    }
-    return lost.empty() || before == 0 ? std::string()
-                                       : "Replace " + countOf(before, destination.table.name) +
-                                             " by " + countOf(taken, "new one") + '?' + lost;
-}
-
-void addNames(const char *what, const std::vector<std::string> &names,
-              std::vector<Remark> &remarks) {
-    std::string list;
-    for (std::size_t i = 0; i < names.size() && i < mostNames; ++i) {
-        list += (i == 0 ? "" : ", ") + shortened(names[i], 60);
-    }
-    if (names.size() > mostNames) {
-        list += " and " + std::to_string(names.size() - mostNames) + " more";
-    }
-    if (!names.empty()) {
-        remarks.push_back({{}, what + list});
-    }
-}
+constexpr long namesToTell = 1000; // characters of all of them
 
 /// The columns of both sides that the import passes over.
 std::vector<Remark> columnsLeftOut(const Table &table, const RowLayout &layout) {
-    std::vector<std::string> unused;
+    std::vector<std::string> unfilled;
+    std::vector<std::string> nowhere = layout.columns;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        if (!layout.positions[i]) {
-            unused.push_back(table.columns[i].name);
+        if (const std::optional<std::size_t> position = layout.positions[i]) {
+            nowhere[*position].clear();
+        } else {
+            unfilled.push_back(table.columns[i].name);
         }
     }
-    std::vector<std::string> nowhere;
-    for (std::size_t i = 0; i < layout.titles.size(); ++i) {
-        const auto &used = layout.positions;
-        if (!layout.titles[i].empty() && std::find(used.begin(), used.end(), i) == used.end()) {
-            nowhere.push_back(layout.titles[i]);
-        }
-    }
+    nowhere.erase(std::remove(nowhere.begin(), nowhere.end(), ""), nowhere.end());
     std::vector<Remark> remarks;
-    addNames("not filled: ", unused, remarks);
-    addNames("not imported: ", nowhere, remarks);
+    if (!unfilled.empty()) {
+        remarks.push_back({{}, "not filled: " + boost::join(unfilled, ", ")});
+    }
+    if (!nowhere.empty()) {
+        const std::string names = shortened(boost::join(nowhere, ", "), namesToTell);
+        remarks.push_back({{}, "not imported: " + names});
+    }
     return remarks;
 }
 
@@ -88,17 +52,16 @@ FieldPositions fieldsOf(const Match &match, const Row &first) {
                     ". Correct it and import the file again.");
     }
     const bool cutsRuns = match.delimiter == ' ' || match.delimiter == '\t';
+    const auto isRun = [&](char left, char right) {
+        return cutsRuns && left == match.delimiter && right == match.delimiter;
+    };
     std::vector<std::size_t> fields;
     for (std::size_t i = 0; i < first.fields.size(); ++i) {
-        const std::string_view field = first.fields[i];
-        if (cutsRuns && field.data() == nullptr) {
-            continue;
-        }
-        fields.push_back(i);
-        for (std::size_t at = 0; at < field.size(); ++at) {
-            const bool isInRun = cutsRuns && at > 0 && field[at - 1] == match.delimiter;
-            fields.insert(fields.end(), field[at] == match.delimiter && !isInRun ? 1 : 0, i);
-        }
+        std::string text(first.fields[i]);
+        text.erase(std::unique(text.begin(), text.end(), isRun), text.end());
+        const auto cuts = std::count(text.begin(), text.end(), match.delimiter);
+        const bool isNone = cutsRuns && first.fields[i].data() == nullptr;
+        fields.insert(fields.end(), isNone ? 0 : static_cast<std::size_t>(cuts) + 1, i);
     }
     if (fields.size() < match.columns.size()) {
         throw Fault("The rows have " + countOf(fields.size(), "column") + ", the dialog showed " +
@@ -119,27 +82,25 @@ FieldPositions fieldsOf(const Match &match, const Row &first) {
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
                          ImportProgress &progress) {
     const Table &table = destination.table;
-    RefusedRows refused(destination.report, layout.titles);
-    soci::transaction transaction(destination.session);
+    soci::session &session = destination.session;
+    RefusedRows refused(destination.report, layout.columns);
+    soci::transaction transaction(session);
     ImportOutcome outcome;
     outcome.replaces = destination.replace != Replace::no;
-    const std::size_t before = outcome.replaces ? rowCount(destination.session, table) : 0;
-    const auto orphans = orphanCounts(destination);
+    const std::size_t before = outcome.replaces ? rowCount(session, table) : 0;
+    const std::size_t orphans = outcome.replaces ? orphanCount(session) : 0;
     if (outcome.replaces) {
-        destination.session << "delete from " + table.name;
+        session << "delete from " + table.name;
     }
-    Holes holes = holesOf(destination.session, table);
-    RowInsertion insertion(destination.session, table);
-    StoredRows stored(destination.session, table, insertion);
-    RowCheck check(table, layout, destination.choices, std::move(holes),
-                   [&](const std::vector<Value> &values) { return stored.hold(values); });
+    RowInsertion insertion(session, table);
+    RowCheck check(table, layout, destination.choices, holesOf(session, table),
+                   [&](const std::vector<Value> &values) { return insertion.has(values); });
     std::vector<Value> values;
     Row row;
     while (!progress.isCancelled && source.next(row)) {
         const std::string reason = check.check(row, values);
         if (reason.empty()) {
             insertion.insert(values);
-            stored.add(values);
             ++outcome.taken;
         } else {
             refused.add(row, reason);
@@ -147,15 +108,31 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
         ++progress.rows;
         progress.share = source.share();
     }
+    outcome.refused = refused.count();
+    outcome.firstRefused = refused.first();
+    outcome.remarks = columnsLeftOut(table, layout);
+    const std::vector<Remark> odd = check.remarks().byKind();
+    outcome.remarks.insert(outcome.remarks.end(), odd.begin(), odd.end());
     outcome.isCancelled = progress.isCancelled;
-    if (!outcome.isCancelled) {
-        insertion.flush();
+    if (outcome.isCancelled) {
+        return outcome;
     }
-    if (!outcome.isCancelled && destination.replace == Replace::ifNothingIsLost &&
-        outcome.taken > 0) {
-        outcome.question = questionOf(destination, before, outcome.taken, refused.count(), orphans);
+    insertion.flush();
+    if (destination.replace == Replace::ifNothingIsLost && before > 0 && outcome.taken > 0) {
+        std::string lost;
+        if (outcome.refused > 0) {
+            lost = ' ' + countOf(outcome.refused, "row") + " of the source would be left out.";
+        }
+        if (const std::size_t now = orphanCount(session); now > orphans) {
+            lost += ' ' + countOf(now - orphans, "row") +
+                    " of the other tables would lose their collar.";
+        }
+        if (!lost.empty()) {
+            outcome.question = "Replace " + countOf(before, table.name) + " by " +
+                               countOf(outcome.taken, "new one") + '?' + lost;
+        }
     }
-    if (!outcome.isCancelled && outcome.question.empty()) {
+    if (outcome.question.empty()) {
         refused.finish();
         if (outcome.taken > 0) {
             transaction.commit();
@@ -163,11 +140,6 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
         refused.publish();
         outcome.report = refused.count() > 0 ? destination.report : std::string();
     }
-    outcome.refused = refused.count();
-    outcome.firstRefused = refused.first();
-    outcome.remarks = columnsLeftOut(table, layout);
-    const std::vector<Remark> odd = check.remarks().byKind();
-    outcome.remarks.insert(outcome.remarks.end(), odd.begin(), odd.end());
     return outcome;
 }
 
@@ -179,10 +151,11 @@ ImportOutcome importFile(const Destination &destination, const std::string &path
     }
     Row first;
     file.next(first);
-    RowLayout layout{fieldsOf(match, first), first.fields.size(), match.delimiter, {}};
-    for (std::size_t i = 0; i < first.fields.size(); ++i) {
-        layout.titles.push_back(match.firstLineHoldsTitles ? asUtf8(first.fields[i])
-                                                           : "Column" + std::to_string(i + 1));
+    RowLayout layout{fieldsOf(match, first), match.delimiter, {}};
+    for (const std::string_view field : first.fields) {
+        layout.columns.push_back(match.firstLineHoldsTitles
+                                     ? asUtf8(field)
+                                     : "Column" + std::to_string(layout.columns.size() + 1));
     }
     if (!match.firstLineHoldsTitles) {
         file.putBack(first);
@@ -192,9 +165,8 @@ ImportOutcome importFile(const Destination &destination, const std::string &path
 
 ImportOutcome importTable(const Destination &destination, const std::string &connection,
                           const std::string &table, const Match &match, ImportProgress &progress) {
-    TableRows rows(connection, table, match.columns, match.positions, progress.isCancelled);
-    return importRows(destination, rows,
-                      {match.positions, match.columns.size(), '\0', match.columns}, progress);
+    TableRows rows(connection, table, match, progress.isCancelled);
+    return importRows(destination, rows, match, progress);
 }
 
 } // namespace drillhole

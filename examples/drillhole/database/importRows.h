@@ -55,14 +55,11 @@ struct Destination {
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
                          ImportProgress &progress);
 
-/// How the dialog was left with OK.
-struct Match {
-    FieldPositions positions; ///< for each column of the table, among those of the source
-    char delimiter = '\0';    ///< of a file
+/// How the dialog was left with OK: the columns are those of the source as the dialog cut them.
+struct Match : RowLayout {
     bool firstLineHoldsTitles = true;
-    std::vector<std::string> columns; ///< of the source, as the dialog cut them
-    std::vector<std::string> names;   ///< for each column of the table, empty for none
-    std::optional<FileStamp> stamp;   ///< of the file when the dialog read it
+    std::vector<std::string> names; ///< for each column of the table, empty for none
+    std::optional<FileStamp> stamp; ///< of the file when the dialog read it
 };
 
 /// Imports a file. As `importRows`.

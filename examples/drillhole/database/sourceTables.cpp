@@ -2,7 +2,9 @@
 
 #include "examples/drillhole/database/sourceTables.h"
 
+#include "examples/drillhole/database/Answer.h"
 #include "examples/drillhole/rows/Fault.h"
+#include "examples/drillhole/rows/text.h"
 
 #include <array>
 
@@ -25,19 +27,22 @@ constexpr const char *serverTables =
 using Names = std::map<std::string, std::string>;
 
 void add(Names &names, const std::string &schema, const std::string &name) {
-    names[schema.empty() ? name : schema + '.' + name] =
-        (schema.empty() ? "" : quotedName(schema) + '.') + quotedName(name);
+    const std::string table = inQuotes(name, '"', '"');
+    if (schema.empty()) {
+        names[name] = table;
+    } else {
+        names[schema + '.' + name] = inQuotes(schema, '"', '"') + '.' + table;
+    }
 }
 
 // Each database keeps its tables in another place, but an ODBC driver lists them.
 Names odbcTables(soci::session &source) {
     constexpr SQLUSMALLINT schemaColumn = 2; // of the result of SQLTables
     constexpr SQLUSMALLINT nameColumn = 3;
-    SQLHSTMT handle = nullptr;
-    SQLAllocHandle(SQL_HANDLE_STMT,
-                   static_cast<soci::odbc_session_backend *>(source.get_backend())->hdbc_, &handle);
-    const std::unique_ptr<void, void (*)(SQLHSTMT)> statement(
-        handle, [](SQLHSTMT each) { SQLFreeHandle(SQL_HANDLE_STMT, each); });
+    soci::statement statement(source);
+    statement.alloc();
+    const SQLHSTMT handle =
+        static_cast<soci::odbc_statement_backend *>(statement.get_backend())->hstmt_;
     std::string types = "TABLE,VIEW";
     if (!SQL_SUCCEEDED(SQLTables(handle, nullptr, 0, nullptr, 0, nullptr, 0,
                                  reinterpret_cast<SQLCHAR *>(types.data()), SQL_NTS))) {
@@ -63,15 +68,10 @@ Names sourceTables(soci::session &source) {
     if (backend == "odbc") {
         return odbcTables(source);
     }
-    std::string schema;
-    std::string name;
-    soci::statement statement =
-        (source.prepare << (backend == "postgresql" ? serverTables : sqliteTables),
-         soci::into(schema), soci::into(name));
-    statement.execute();
     Names names;
-    while (statement.fetch()) {
-        add(names, schema, name);
+    const char *query = backend == "postgresql" ? serverTables : sqliteTables;
+    for (Answer answer(source, query, {Kind::text, Kind::text}); answer.next();) {
+        add(names, answer.row()[0].text, answer.row()[1].text);
     }
     return names;
 }
@@ -106,14 +106,6 @@ std::vector<std::string> columnNames(soci::session &source, const std::string &n
         names.push_back(row.get_properties(i).get_name());
     }
     return names;
-}
-
-std::string quotedName(const std::string &name) {
-    std::string quoted = "\"";
-    for (const char byte : name) {
-        quoted.append(byte == '"' ? 2 : 1, byte);
-    }
-    return quoted + '"';
 }
 
 } // namespace drillhole

@@ -20,7 +20,4 @@ std::string nameInQuery(soci::session &source, const std::string &shown);
 /// The names of the table's columns, in its order.
 std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery);
 
-/// The name as it stands in a query.
-std::string quotedName(const std::string &name);
-
 } // namespace drillhole

@@ -7,12 +7,15 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <limits>
+#include <utility>
+
+#include <boost/algorithm/string/replace.hpp>
 
 namespace drillhole {
 
 namespace {
 
-constexpr std::size_t headSize = 65'536;
 constexpr std::size_t longestRow = 4'194'304;
 constexpr std::size_t mostFields = 100'000;
 
@@ -22,6 +25,8 @@ Fault unreadable(const std::string &path, int error) {
         advice = "There is no such file; choose another one.";
     } else if (error == EACCES) {
         advice = "You may not read it; ask its owner for access, or copy it to a folder of yours.";
+    } else if (error == EISDIR || error == ENOTSUP) {
+        advice = "It is no file but a folder or a device; choose a text file.";
     }
     return Fault("The file " + path + " can't be read. " + advice);
 }
@@ -60,56 +65,36 @@ bool holdsARow(std::string_view text, char delimiter, std::size_t width) {
 } // namespace
 
 FileStamp stampOf(const std::string &path) {
-    std::error_code failure;
-    const auto status = std::filesystem::status(path, failure);
-    // A pipe or a device could keep the reader waiting for ever.
-    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-        throw Fault("The file " + path +
-                    " can't be read. It is no file but a folder or a device; "
-                    "choose a text file.");
+    try {
+        // Only what is a file has a size: a pipe could keep the reader waiting for ever.
+        return {std::filesystem::file_size(path), std::filesystem::last_write_time(path)};
+    } catch (const std::filesystem::filesystem_error &error) {
+        throw unreadable(path, error.code().value());
     }
-    FileStamp stamp;
-    if (!failure) {
-        stamp.first = std::filesystem::file_size(path, failure);
-        stamp.second = std::filesystem::last_write_time(path, failure);
-    }
-    if (failure) {
-        throw unreadable(path, failure.value());
-    }
-    return stamp;
 }
 
-CsvFile::CsvFile(const std::string &path, char delimiter, std::size_t chunk)
+CsvFile::CsvFile(const std::string &path, char delimiter)
     : m_path(path), m_stamp(stampOf(path)), m_file(path, std::ios::binary), m_delimiter(delimiter),
-      m_chunk(chunk) {
+      m_lineRead(new char[longestRow]) {
     if (delimiter == '\n' || delimiter == '\r') {
         throw Fault("A line end can't be the delimiter. Type another one in the dialog.");
     }
     if (!m_file) {
         throw unreadable(path, errno);
     }
-    while (m_text.size() < headSize && m_text.find('\n') == std::string::npos && readOn()) {
-    }
-    if (rest().substr(0, 3) == "\xEF\xBB\xBF") {
-        m_end = 3;
-    }
+    addLine();
+    m_end = m_text.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
     requireText(std::string_view(m_text).substr(m_end));
 }
 
 bool CsvFile::next(Row &row) {
     do {
+        // What was cut goes when it is the larger part, so that this costs little for each row.
+        if (m_end > m_text.size() / 2) {
+            m_text.erase(0, std::exchange(m_end, 0));
+        }
         m_begin = m_end;
-        if (m_skipsLine) {
-            skipLine();
-        }
-        m_isTooLong = false;
-        while (!endsWithin(row)) {
-            m_isTooLong = m_text.size() - m_begin >= longestRow;
-            if (!m_isTooLong) {
-                readOn();
-            }
-        }
-        if (m_end == m_begin) {
+        if (m_begin == m_text.size() && !addLine()) {
             if (m_read != m_stamp.first || stampOf(m_path) != m_stamp) {
                 throw Fault("The file " + m_path +
                             " was changed while it was read. Nothing was "
@@ -117,11 +102,20 @@ bool CsvFile::next(Row &row) {
             }
             return false;
         }
-        const auto *text = m_text.data();
+        m_isWhole = false;
+        while (!endsWithin(row)) {
+            // Twice as much each time, since the row is cut anew.
+            const std::size_t had = m_text.size() - m_begin;
+            m_isWhole = had >= longestRow;
+            while (!m_isWhole && m_text.size() < m_begin + 2 * had) {
+                m_isWhole = !addLine();
+            }
+        }
+        const char *text = m_text.data();
         const auto lineEnds = std::count(text + m_begin, text + m_end - 1, '\n');
         row.firstLine = m_line;
         row.lastLine = m_line + static_cast<std::size_t>(lineEnds);
-        m_line = row.lastLine + (text[m_end - 1] == '\n' ? 1 : 0);
+        m_line = row.lastLine + 1;
     } while (std::all_of(row.fields.begin(), row.fields.end(),
                          [](std::string_view field) { return field.empty(); }));
     m_width = m_width == 0 ? row.fields.size() : m_width;
@@ -145,34 +139,25 @@ const char *CsvFile::behindBlanks(const char *at, const char *end) const {
     return at;
 }
 
-bool CsvFile::readOn() {
-    m_text.erase(0, m_begin);
-    m_end -= std::min(m_end, m_begin);
-    m_begin = 0;
-    const std::size_t had = m_text.size();
-    m_text.resize(had + std::max(m_chunk, had)); // a row is cut anew each time
-    m_file.read(&m_text[had], static_cast<std::streamsize>(m_text.size() - had));
+/// Appends the file's next line to the text; of one that is longer than a row may be, its head.
+bool CsvFile::addLine() {
+    m_file.getline(m_lineRead.get(), longestRow);
     if (m_file.bad()) {
         throw unreadable(m_path, errno);
     }
-    m_text.resize(had + static_cast<std::size_t>(m_file.gcount()));
-    m_read += m_text.size() - had;
-    m_isAtEnd = m_text.size() == had;
-    return !m_isAtEnd;
-}
-
-/// Skips what is left of a line that began before.
-void CsvFile::skipLine() {
-    std::size_t lineEnd = m_text.find('\n', m_begin);
-    for (; lineEnd == std::string::npos; lineEnd = m_text.find('\n')) {
-        m_begin = m_text.size();
-        if (!readOn()) {
-            return;
-        }
+    const auto count = static_cast<std::size_t>(m_file.gcount());
+    if (count == 0) {
+        return false;
     }
-    m_begin = lineEnd + 1;
-    m_skipsLine = false;
-    ++m_line;
+    m_read += count;
+    m_text.append(m_lineRead.get(), m_file.good() ? count - 1 : count);
+    m_text.append(m_file.eof() ? 0 : 1, '\n');
+    if (m_file.fail()) {
+        m_file.clear();
+        m_file.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+        m_read += static_cast<std::size_t>(m_file.gcount());
+    }
+    return true;
 }
 
 /// Cuts the row, or returns false if the text has to go on for that.
@@ -180,39 +165,39 @@ bool CsvFile::endsWithin(Row &row) {
     m_ownTexts.clear();
     row.fields.clear();
     row.refusal = nullptr;
-    const char *at = m_text.data() + m_begin;
+    const char *begin = m_text.data() + m_begin;
     const char *end = m_text.data() + m_text.size();
-    while (true) {
+    const char *at = begin;
+    do {
         at = behindBlanks(at, end);
-        const bool isQuoted = at != end && *at == '"' && m_delimiter != '"';
-        if (!(isQuoted ? takeQuoted(row, at, end) : takePlain(row, at, end))) {
+        if (at == end || *at != '"' || m_delimiter == '"') {
+            takePlain(row, at, end);
+        } else if (!takeQuoted(row, at, end)) {
             return false;
+        }
+        if (row.fields.size() > mostFields) {
+            refuse(row, "more than 100,000 fields", begin);
         }
         if (row.refusal != nullptr) {
             return true;
         }
-        if (row.fields.size() > mostFields) {
-            refuse(row, "more than 100,000 fields", m_text.data() + m_begin);
-            return true;
-        }
-        if (at == end || *at++ == '\n') {
-            m_end = static_cast<std::size_t>(at - m_text.data());
-            return true;
-        }
+    } while (at != end && *at++ != '\n');
+    m_end = static_cast<std::size_t>(at - m_text.data());
+    if (m_end - m_begin >= longestRow) {
+        refuse(row, "longer than 4 MiB", at - 1);
     }
+    return true;
 }
 
 bool CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
     const char *opening = at++;
     const char *begin = at;
-    bool isDoubled = false;
     while ((at = std::find(at, end, '"')) != end && at + 1 != end && at[1] == '"') {
-        isDoubled = true;
         at += 2;
     }
     const char *closing = at;
     at = closing == end ? end : behindBlanks(closing + 1, end);
-    if (at == end && !m_isAtEnd && !m_isTooLong) {
+    if (at == end && !m_isWhole) {
         return false;
     }
     const std::string_view text(begin, static_cast<std::size_t>(closing - begin));
@@ -222,28 +207,19 @@ bool CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
         refuse(row, "text follows a double quote that closes a field", opening);
     } else if (holdsARow(text, m_delimiter, m_width)) {
         refuse(row, "a double quote opens here and closes behind other rows", opening);
-    } else if (isDoubled) {
-        std::string &own = m_ownTexts.emplace_back();
-        for (std::size_t i = 0; i < text.size(); i += text[i] == '"' ? 2 : 1) {
-            own += text[i];
-        }
-        row.fields.emplace_back(own);
-    } else {
+    } else if (text.find('"') == std::string_view::npos) {
         row.fields.push_back(text);
+    } else {
+        row.fields.emplace_back(
+            m_ownTexts.emplace_back(boost::replace_all_copy(std::string(text), "\"\"", "\"")));
     }
     return true;
 }
 
-bool CsvFile::takePlain(Row &row, const char *&at, const char *end) {
+void CsvFile::takePlain(Row &row, const char *&at, const char *end) const {
     const char *begin = at;
     while (at != end && *at != m_delimiter && *at != '\n') {
         ++at;
-    }
-    if (at == end && !m_isAtEnd) {
-        if (m_isTooLong) {
-            refuse(row, "longer than 4 MiB", begin);
-        }
-        return m_isTooLong;
     }
     const char *last = at;
     while (last != begin && behindBlanks(last - 1, last) == last) {
@@ -254,16 +230,15 @@ bool CsvFile::takePlain(Row &row, const char *&at, const char *end) {
     } else if (m_delimiter != ' ') {
         row.fields.emplace_back();
     }
-    return true;
 }
 
 /// Leaves the row with its text up to the end of the line that `from` stands in.
 void CsvFile::refuse(Row &row, const char *reason, const char *from) {
-    const std::size_t lineEnd = m_text.find('\n', static_cast<std::size_t>(from - m_text.data()));
-    m_skipsLine = lineEnd == std::string::npos && !m_isAtEnd;
-    m_end = lineEnd == std::string::npos ? m_text.size() : lineEnd + 1;
+    const auto place = static_cast<std::size_t>(from - m_text.data());
+    const std::size_t lineEnd = std::min(m_text.find('\n', place), m_text.size());
+    m_end = std::min(lineEnd + 1, m_text.size());
     row.refusal = reason;
-    row.fields.assign(1, rest().substr(0, std::min(lineEnd, m_text.size()) - m_begin));
+    row.fields.assign(1, std::string_view(m_text).substr(m_begin, lineEnd - m_begin));
 }
 
 } // namespace drillhole

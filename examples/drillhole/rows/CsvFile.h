@@ -7,6 +7,7 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <string>
 
 namespace drillhole {
@@ -29,9 +30,7 @@ class CsvFile : public RowSource {
 public:
     /// Opens the file; the path is in the file system's encoding. Throws a Fault if it can't be
     /// read, if it is no text of that kind, and if the delimiter is a line end.
-    ///
-    /// @param chunk  how many bytes are read at once
-    CsvFile(const std::string &path, char delimiter, std::size_t chunk = 65'536);
+    CsvFile(const std::string &path, char delimiter);
 
     /// At the end, throws a Fault if the file was changed since it was opened.
     bool next(Row &row) override;
@@ -43,30 +42,26 @@ public:
     const FileStamp &stamp() const { return m_stamp; }
 
 private:
-    std::string_view rest() const { return std::string_view(m_text).substr(m_begin); }
     const char *behindBlanks(const char *at, const char *end) const;
-    bool readOn();
-    void skipLine();
+    bool addLine();
     bool endsWithin(Row &row);
     bool takeQuoted(Row &row, const char *&at, const char *end);
-    bool takePlain(Row &row, const char *&at, const char *end);
+    void takePlain(Row &row, const char *&at, const char *end) const;
     void refuse(Row &row, const char *reason, const char *from);
 
     std::string m_path;
     FileStamp m_stamp;
     std::ifstream m_file;
     char m_delimiter;
-    std::size_t m_chunk;
-    std::string m_text;                 // of the present row and of what was read behind it
+    std::unique_ptr<char[]> m_lineRead; // pages that no line needs are never touched
+    std::string m_text;                 // lines: the present row's and those read behind it
     std::size_t m_begin = 0;            // of the row in the text
     std::size_t m_end = 0;              // of the row, behind its line end
     std::deque<std::string> m_ownTexts; // of fields that don't stand in the text as they are
     std::size_t m_line = 1;
     std::size_t m_width = 0; // fields of the first row
     std::uintmax_t m_read = 0;
-    bool m_isAtEnd = false;   // of the file
-    bool m_isTooLong = false; // the row is
-    bool m_skipsLine = false; // the rest of a row that was refused
+    bool m_isWhole = false; // the text holds as much of the row as it ever will
 };
 
 } // namespace drillhole

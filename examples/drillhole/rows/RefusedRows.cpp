@@ -15,11 +15,7 @@ namespace {
 constexpr std::size_t countInMemory = 1000;
 
 std::string asCsv(std::string_view field) {
-    std::string text = "\"";
-    for (const char byte : field) {
-        text.append(byte == '"' ? 2 : 1, byte);
-    }
-    return text + '"';
+    return ',' + inQuotes(field, '"', '"');
 }
 
 } // namespace
@@ -31,7 +27,7 @@ RefusedRows::RefusedRows(const std::string &path, const std::vector<std::string>
     m_file.open(m_unfinished, std::ios::binary | std::ios::trunc);
     m_file << "line,reason";
     for (const std::string &title : titles) {
-        m_file << ',' << asCsv(title);
+        m_file << asCsv(title);
     }
     m_file << '\n';
     finish();
@@ -45,9 +41,9 @@ RefusedRows::~RefusedRows() {
 void RefusedRows::add(const Row &row, const std::string &reason) {
     ++m_count;
     const Remark remark{linesOf(row.firstLine, row.lastLine), shortened(reason, 60)};
-    m_file << remark.lines << ',' << asCsv(remark.text);
+    m_file << remark.lines << asCsv(remark.text);
     for (const std::string_view field : row.fields) {
-        m_file << ',' << asCsv(field);
+        m_file << asCsv(field);
     }
     m_file << '\n';
     if (m_first.size() < countInMemory) {

@@ -21,8 +21,6 @@ public:
     /// @param titles  of the source, above its fields: the report can be corrected and imported
     RefusedRows(const std::string &path, const std::vector<std::string> &titles);
     ~RefusedRows();
-    RefusedRows(const RefusedRows &) = delete;
-    RefusedRows &operator=(const RefusedRows &) = delete;
 
     void add(const Row &row, const std::string &reason);
 

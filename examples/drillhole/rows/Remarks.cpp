@@ -14,28 +14,28 @@ constexpr std::size_t mostStretches = 20;
 
 } // namespace
 
-void Remarks::add(const std::string &kind, std::size_t line) {
+void Remarks::add(const std::string &text, std::size_t line) {
     auto found = std::find_if(m_kinds.begin(), m_kinds.end(),
-                              [&](const Kind &each) { return each.text == kind; });
+                              [&](const Kind &each) { return each.text == text; });
     if (found == m_kinds.end()) {
-        found = m_kinds.insert(found, {kind, 0, {}, 1, line, line});
+        found = m_kinds.insert(found, {text, 0, {}});
     }
     ++found->count;
-    if (line > found->last + 1) {
-        if (found->stretches++ < mostStretches) {
-            found->lines += linesOf(found->first, found->last) + ", ";
-        }
-        found->first = line;
+    if (found->lines.iterative_size() <= mostStretches) {
+        found->lines.add(line);
     }
-    found->last = line;
 }
 
 std::vector<Remark> Remarks::byKind() const {
     std::vector<Remark> remarks;
     for (const Kind &kind : m_kinds) {
-        remarks.push_back(
-            {kind.lines + (kind.stretches > mostStretches ? "..." : linesOf(kind.first, kind.last)),
-             kind.text + ": " + countOf(kind.count, "row")});
+        std::string lines;
+        std::size_t count = 0;
+        for (const auto &stretch : kind.lines) {
+            lines += count == 0 ? "" : ", ";
+            lines += count++ == mostStretches ? "..." : linesOf(first(stretch), last(stretch));
+        }
+        remarks.push_back({lines, kind.text + ": " + countOf(kind.count, "row")});
     }
     return remarks;
 }

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include <boost/icl/interval_set.hpp>
+
 namespace drillhole {
 
 /// Something to tell the user, and the lines it is about: "7", "7-9", "3, 7-9, ...".
@@ -17,7 +19,7 @@ struct Remark {
 /// Remarks of a few kinds on many rows.
 class Remarks {
 public:
-    void add(const std::string &kind, std::size_t line);
+    void add(const std::string &text, std::size_t line);
 
     /// One of each kind: how often it was made, and on which lines.
     std::vector<Remark> byKind() const;
@@ -26,10 +28,7 @@ private:
     struct Kind {
         std::string text;
         std::size_t count;
-        std::string lines; // of the stretches before the last one
-        std::size_t stretches;
-        std::size_t first; // line of the last stretch
-        std::size_t last;
+        boost::icl::interval_set<std::size_t> lines; // the first stretches of them
     };
     std::vector<Kind> m_kinds;
 };

@@ -9,7 +9,7 @@
 #include <cmath>
 #include <utility>
 
-#include <glib.h>
+#include <boost/algorithm/string/predicate.hpp>
 
 namespace drillhole {
 
@@ -31,38 +31,32 @@ bool mayBeCutInANumber(const Row &row) {
            }) != row.fields.end();
 }
 
-std::string inPlainForm(double number) {
-    std::string text = std::to_string(number);
-    return text.erase(text.find_last_not_of('0') + 1).erase(text.find_last_not_of('.') + 1);
-}
-
 /// What is odd about a number, or nothing.
 std::string oddityOf(const Column &column, double number) {
     if (std::count(std::begin(noValues), std::end(noValues), number) > 0) {
-        return column.name + " is " + inPlainForm(number) + ", perhaps a word for no value";
+        return column.name + " is " + digitsOf(number) + ", perhaps a word for no value";
     }
     if (number >= column.least && number <= column.greatest) {
         return {};
     }
-    return column.name + (std::isinf(column.greatest)
-                              ? " is below " + inPlainForm(column.least)
-                              : " is not from " + inPlainForm(column.least) + " to " +
-                                    inPlainForm(column.greatest));
+    return column.name + (std::isinf(column.greatest) ? " is below " + digitsOf(column.least)
+                                                      : " is not from " + digitsOf(column.least) +
+                                                            " to " + digitsOf(column.greatest));
 }
 
 } // namespace
 
-boost::icl::interval_set<double>::interval_type depthsOf(const Table &table,
-                                                         const std::vector<Value> &values) {
+Depths::interval_type depthsOf(const Table &table, const std::vector<Value> &values) {
     const double from = values[1].number;
     const double to = table.hasIntervals ? values[2].number : from + 3 * tolerance;
-    return boost::icl::interval_set<double>::interval_type::right_open(from, to);
+    return Depths::interval_type::right_open(from, to);
 }
 
 RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, Holes holes,
                    std::function<bool(const std::vector<Value> &)> isThere)
     : m_table(table), m_layout(std::move(layout)), m_choices(std::move(choices)),
-      m_holes(std::move(holes)), m_lastHole(m_holes.end()), m_isThere(std::move(isThere)) {
+      m_fieldCount(m_layout.columns.size()), m_holes(std::move(holes)), m_lastHole(m_holes.end()),
+      m_isThere(std::move(isThere)) {
     m_layout.positions.resize(table.columns.size());
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const std::optional<std::size_t> &position = m_layout.positions[i];
@@ -73,7 +67,7 @@ RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, H
         m_fieldsNeeded = std::max(m_fieldsNeeded, position ? *position + 1 : 0);
     }
     // A field left out between blanks moves those behind it.
-    m_fieldsNeeded = m_layout.delimiter == ' ' ? m_layout.fieldCount : m_fieldsNeeded;
+    m_fieldsNeeded = m_layout.delimiter == ' ' ? m_fieldCount : m_fieldsNeeded;
 }
 
 std::string RowCheck::check(const Row &row, std::vector<Value> &values) {
@@ -85,12 +79,6 @@ std::string RowCheck::check(const Row &row, std::vector<Value> &values) {
         if (position) {
             reason = takeValue(m_table.columns[i], trimmed(row.fields[*position]), values[i]);
         }
-    }
-    if (reason.empty() && m_table.hasIntervals && !(values[1].number < values[2].number)) {
-        reason = m_table.columns[1].name + ' ' +
-                 std::string(trimmed(row.fields[*m_layout.positions[1]])) + " is not below " +
-                 m_table.columns[2].name + ' ' +
-                 std::string(trimmed(row.fields[*m_layout.positions[2]]));
     }
     if (reason.empty()) {
         reason = checkHole(values);
@@ -107,18 +95,18 @@ std::string RowCheck::checkLayout(const Row &row) {
     if (count < m_fieldsNeeded) {
         return "too few fields: " + std::to_string(count) + " of " + std::to_string(m_fieldsNeeded);
     }
-    // Delimiters without a value at the end of a row are what a spreadsheet leaves there.
-    const auto isEmpty = [](std::string_view field) { return field.empty(); };
-    if (count <= m_layout.fieldCount) {
+    if (count <= m_fieldCount) {
         return {};
     }
-    const auto more = row.fields.begin() + static_cast<std::ptrdiff_t>(m_layout.fieldCount);
-    const bool onlyEmptyMore = std::all_of(more, row.fields.end(), isEmpty);
+    // Delimiters without a value at the end of a row are what a spreadsheet leaves there.
+    const bool onlyEmptyMore =
+        std::all_of(row.fields.begin() + static_cast<std::ptrdiff_t>(m_fieldCount),
+                    row.fields.end(), [](std::string_view field) { return field.empty(); });
     if (onlyEmptyMore && isFirst) {
-        m_layout.fieldCount = count;
+        m_fieldCount = count;
     } else if (!onlyEmptyMore || (m_layout.delimiter == ',' && mayBeCutInANumber(row))) {
         return "too many fields: " + std::to_string(count) + " where a row has " +
-               std::to_string(m_layout.fieldCount);
+               std::to_string(m_fieldCount);
     }
     return {};
 }
@@ -161,8 +149,7 @@ std::string RowCheck::takeValue(const Column &column, std::string_view text, Val
 bool RowCheck::isNoValue(std::string_view text, std::optional<double> number) const {
     const auto &words = m_choices.noValue;
     return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
-        return (word.size() == text.size() &&
-                g_ascii_strncasecmp(word.data(), text.data(), word.size()) == 0) ||
+        return boost::iequals(word, text, std::locale::classic()) ||
                (number && parseNumber(word) == number);
     });
 }
@@ -179,6 +166,10 @@ std::optional<double> RowCheck::numberIn(std::string_view text) const {
 }
 
 std::string RowCheck::checkHole(const std::vector<Value> &values) {
+    if (m_table.hasIntervals && !(values[1].number < values[2].number)) {
+        return m_table.columns[1].name + ' ' + digitsOf(values[1].number) + " is not below " +
+               m_table.columns[2].name + ' ' + digitsOf(values[2].number);
+    }
     const std::string &name = values.front().text;
     if (m_table.namesHoles) {
         return m_holes.try_emplace(name).second ? std::string()
@@ -193,8 +184,8 @@ std::string RowCheck::checkHole(const std::vector<Value> &values) {
     Hole &hole = m_lastHole->second;
     const auto depths = depthsOf(m_table, values);
     const double margin = std::min(tolerance, (depths.upper() - depths.lower()) / 3);
-    const auto within = boost::icl::interval_set<double>::interval_type::open(
-        depths.lower() + margin, depths.upper() - margin);
+    const auto within =
+        Depths::interval_type::open(depths.lower() + margin, depths.upper() - margin);
     if (boost::icl::intersects(hole.depths, within)) {
         if (m_isThere(values)) {
             return "there already";

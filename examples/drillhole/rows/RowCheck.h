@@ -38,22 +38,22 @@ using FieldPositions = std::vector<std::optional<std::size_t>>;
 /// How the rows of a source are laid out.
 struct RowLayout {
     FieldPositions positions;
-    std::size_t fieldCount = 0;      ///< of a full row; one of more has been cut in the wrong place
-    char delimiter = '\0';           ///< of a file
-    std::vector<std::string> titles; ///< of the source's columns, in UTF-8
+    char delimiter = '\0';            ///< of a file
+    std::vector<std::string> columns; ///< the titles of the fields
 };
+
+using Depths = boost::icl::interval_set<double>;
 
 /// What is known of a hole: its length, and the depths that its rows tell of.
 struct Hole {
     double length = std::numeric_limits<double>::infinity();
-    boost::icl::interval_set<double> depths;
+    Depths depths;
 };
 
 using Holes = std::unordered_map<std::string, Hole>;
 
 /// The depths that a row of surveys or assays tells of.
-boost::icl::interval_set<double>::interval_type depthsOf(const Table &table,
-                                                         const std::vector<Value> &values);
+Depths::interval_type depthsOf(const Table &table, const std::vector<Value> &values);
 
 /// Takes the values of a table out of rows, and refuses those that don't fit.
 class RowCheck {
@@ -84,7 +84,8 @@ private:
     RowLayout m_layout;
     ValueChoices m_choices;
     std::size_t m_fieldsNeeded = 0;
-    bool m_hasRows = false; // that were seen
+    std::size_t m_fieldCount; // of a full row; one of more has been cut in the wrong place
+    bool m_hasRows = false;   // that were seen
     Holes m_holes;
     Holes::iterator m_lastHole;
     std::function<bool(const std::vector<Value> &)> m_isThere;

@@ -21,9 +21,6 @@ struct Row {
 /// Rows that come one after the other, from a file or from a table.
 class RowSource {
 public:
-    RowSource() = default;
-    RowSource(const RowSource &) = delete;
-    RowSource &operator=(const RowSource &) = delete;
     virtual ~RowSource() = default;
 
     /// Reads the next row, or returns false if there is none. Throws a Fault if it can't be read.

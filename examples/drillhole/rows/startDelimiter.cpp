@@ -10,25 +10,18 @@ namespace {
 
 constexpr int rowCount = 10;
 
-struct Cut {
-    int evenRows = 0; ///< 0 if the first row stays whole
-    std::size_t fields = 0;
-};
+/// How many rows are cut like the first one, and into how many fields; the better cut is greater.
+using Cut = std::pair<int, std::size_t>;
 
 Cut cutOf(const std::string &path, char delimiter) {
     CsvFile file(path, delimiter);
     Cut cut;
     Row row;
     for (int i = 0; i < rowCount && file.next(row); ++i) {
-        cut.fields = i == 0 ? row.fields.size() : cut.fields;
-        cut.evenRows += row.refusal == nullptr && row.fields.size() == cut.fields ? 1 : 0;
+        cut.second = i == 0 ? row.fields.size() : cut.second;
+        cut.first += row.refusal == nullptr && row.fields.size() == cut.second ? 1 : 0;
     }
-    return cut.fields > 1 ? cut : Cut();
-}
-
-bool isBetter(const Cut &cut, const Cut &other) {
-    return cut.evenRows != other.evenRows ? cut.evenRows > other.evenRows
-                                          : cut.fields > other.fields;
+    return cut.second > 1 ? cut : Cut();
 }
 
 } // namespace
@@ -38,15 +31,12 @@ char startDelimiter(const std::string &path, std::optional<char> lastUsed) {
     Cut bestCut;
     for (const char delimiter : {',', ';', '\t', ' ', '|'}) {
         const Cut cut = cutOf(path, delimiter);
-        if (isBetter(cut, bestCut)) {
+        if (cut > bestCut) {
             best = delimiter;
             bestCut = cut;
         }
     }
-    if (lastUsed && cutOf(path, *lastUsed).evenRows >= bestCut.evenRows) {
-        return *lastUsed;
-    }
-    return best;
+    return lastUsed && cutOf(path, *lastUsed).first >= bestCut.first ? *lastUsed : best;
 }
 
 } // namespace drillhole

@@ -2,8 +2,10 @@
 
 #include "examples/drillhole/rows/text.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
+#include <memory>
 
 #include <glib.h>
 
@@ -19,18 +21,15 @@ std::string asUtf8(std::string_view bytes) {
     if (text == nullptr) {
         text = g_convert(bytes.data(), length, "UTF-8", "ISO-8859-1", nullptr, &written, nullptr);
     }
-    std::string result(text, written);
-    g_free(text);
-    return result;
+    const std::unique_ptr<char, decltype(&g_free)> owner(text, &g_free);
+    return {text, written};
 }
 
-std::string shortened(std::string_view bytes, std::size_t length) {
+std::string shortened(std::string_view bytes, long length) {
     std::string text = asUtf8(bytes);
-    if (static_cast<std::size_t>(g_utf8_strlen(text.c_str(), -1)) > length) {
-        const auto shown = static_cast<glong>(length) - 3;
-        text.erase(
-            static_cast<std::size_t>(g_utf8_offset_to_pointer(text.c_str(), shown) - text.c_str()));
-        text += "...";
+    if (g_utf8_strlen(text.c_str(), -1) > length) {
+        const char *end = g_utf8_offset_to_pointer(text.c_str(), length - 3);
+        text.replace(static_cast<std::size_t>(end - text.c_str()), std::string::npos, "...");
     }
     return text;
 }
@@ -46,6 +45,15 @@ std::string_view trimmed(std::string_view text) {
                : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+std::string inQuotes(std::string_view text, char quote, char escape) {
+    std::string quoted(1, quote);
+    for (const char byte : text) {
+        quoted.append(byte == quote || byte == escape ? 1 : 0, escape);
+        quoted += byte;
+    }
+    return quoted += quote;
+}
+
 std::optional<double> parseNumber(std::string_view text) {
     if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
         text.remove_prefix(1);
@@ -57,6 +65,11 @@ std::optional<double> parseNumber(std::string_view text) {
         return std::nullopt;
     }
     return number;
+}
+
+std::string digitsOf(double number) {
+    std::array<char, 32> digits{};
+    return {digits.begin(), std::to_chars(digits.begin(), digits.end(), number).ptr};
 }
 
 std::string grouped(std::size_t count) {

@@ -13,15 +13,21 @@ namespace drillhole {
 std::string asUtf8(std::string_view bytes);
 
 /// At most so many characters of the text, as `asUtf8` has it.
-std::string shortened(std::string_view bytes, std::size_t length);
+std::string shortened(std::string_view bytes, long length);
 
 /// The head of a value, between quotes.
 std::string quoted(std::string_view text);
 
 std::string_view trimmed(std::string_view text);
 
+/// The text between quotes, with the escaping character before each quote and itself within it.
+std::string inQuotes(std::string_view text, char quote, char escape);
+
 /// The number that the whole text is, with a decimal point, or nothing.
 std::optional<double> parseNumber(std::string_view text);
+
+/// The number in the fewest digits that give it back.
+std::string digitsOf(double number);
 
 /// "1,234".
 std::string grouped(std::size_t count);
