@@ -12,7 +12,7 @@ namespace columnimport {
 
 namespace {
 
-constexpr int roomInDialogUnits = 12; // a quarter of an average character's width each
+constexpr int roomInDialogUnits = 9; // a quarter of an average character's width each
 
 wxString entryText(const wxString &name, bool isUsed) {
     constexpr wchar_t checkMark = 0x2713;

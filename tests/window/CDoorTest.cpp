@@ -5,6 +5,7 @@
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
+#include <filesystem>
 #include <memory>
 
 #include <columnimport.h>
@@ -53,9 +54,15 @@ TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
                             columnimport_wrong_use);
                   person.drag(Person::fileRow(2), Person::matchRow(1));
                   person.drag(Person::fileRow(3), Person::matchRow(0));
+                  std::filesystem::remove(std::filesystem::u8path(file.path()));
+                  person.typeDelimiter(';');
+                  poll("the file is gone", [] { return !said().empty(); });
+                  person.strikeWith(WXK_CONTROL, 'z');
+                  poll("all is as before", [] { return said().empty(); });
                   pressCancel(person);
               }),
               columnimport_cancelled);
+    EXPECT_EQ(columnimport_file_problem(import.get()), nullptr);
     EXPECT_EQ(columnimport_match_position(import.get(), 0), 3) << "the one with an empty title";
     EXPECT_EQ(columnimport_match_position(import.get(), 1), 2);
     EXPECT_STREQ(columnimport_match_name(import.get(), 1, nullptr), "Au");

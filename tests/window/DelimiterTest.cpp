@@ -57,7 +57,8 @@ void rightClick(Person &person) {
 std::string sentence() {
     return read([] {
         const wxWindow &place = control(11);
-        return place.IsShown() ? place.GetLabel().utf8_string() : std::string();
+        EXPECT_NE(place.IsShown(), place.GetLabel().empty());
+        return place.GetLabel().utf8_string();
     });
 }
 

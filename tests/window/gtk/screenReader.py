@@ -42,9 +42,16 @@ def act(node, action):
     node.do_action(actions.index(action))
 
 
+def listen(event):
+    if event.source.get_name() == "Column matching":
+        isRow = event.type == "object:active-descendant-changed"
+        heard.append(event.any_data.get_name() if isRow else event.any_data)
+
+
 heard = []
-ears = Atspi.EventListener.new(lambda event: heard.append(event.any_data))
-ears.register("object:announcement")
+ears = Atspi.EventListener.new(listen)
+for kind in ("announcement", "selection-changed", "active-descendant-changed"):
+    ears.register("object:" + kind)
 
 expect("the dialog is there", lambda: find("push button", "OK") is not None)
 unnamed = [node.get_role_name() for node in below(find("frame", "Import"))
@@ -62,7 +69,7 @@ expect("the marked rows", lambda: [row for row in range(3) if rows.is_child_sele
 expect("a mark", lambda: "selected" in states(rows.get_child_at_index(2)))
 
 act(find("table cell", "CU"), "activate")
-expect("what is heard", lambda: heard, ["copper: CU"])
+expect("what is heard", lambda: heard, ["hole: HOLE", 0, "copper: CU", 0, "gold: Not used"])
 expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: CU"])
 expect("a mark at a column in use", lambda: find("table cell", "CU, in use") is not None)
 expect("the next row", lambda: "focused" in states(rows.get_child_at_index(1)))
