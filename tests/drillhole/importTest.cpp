@@ -192,10 +192,12 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
         const std::string depth = std::to_string(i);
         text.append("LR-1,").append(depth).append(".1,").append(depth).append(".9,0.1,\n");
     }
-    write("assays.csv", text + "LR-1,7.1,7.9,0.1,\nLR-1,8.1,8.9,,\nLR-1,8.1,8.9,,\n");
+    write("assays.csv", text + "LR-1,7.1,7.9,0.1,\nLR-1,8.1,8.9,,\nLR-1,8.1,8.9,,\n"
+                               "LR-1,1234567.1234567,1234567.1234566,,\n");
     const ImportOutcome first = importFrom("assay", "assays.csv", match);
     EXPECT_EQ(first.taken, 1002U);
-    ASSERT_EQ(first.firstRefused.size(), 2U) << "the rows that stand twice in the file";
+    ASSERT_EQ(first.firstRefused.size(), 3U) << "two rows that stand twice in the file";
+    EXPECT_EQ(first.firstRefused[2].text.size(), 60U) << "as long as a reason may be";
     EXPECT_EQ(first.firstRefused[0].lines + first.firstRefused[0].text, "1003there already");
     ASSERT_EQ(first.remarks.size(), 3U);
     EXPECT_EQ(first.remarks[0].text, "not filled: Cu %, Zn %, duplicate, blank, standard");
@@ -203,7 +205,7 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
     EXPECT_EQ(first.remarks[2].lines + first.remarks[2].text,
               "1004overlaps another interval of its hole: 1 row");
     const ImportOutcome second = importFrom("assay", "assays.csv", match);
-    EXPECT_EQ(second.refused, 1004U);
+    EXPECT_EQ(second.refused, 1005U);
     EXPECT_FALSE(second.isDone());
     EXPECT_EQ(ask("select count(*) from assay"), "1002");
     EXPECT_NE(read("refused.csv").find("\n2,\"there alrea"), std::string::npos);

@@ -29,11 +29,11 @@ struct TableRows::Source {
     std::string table;
     RowLayout layout;
     double count = 0;
-    Session session;
-    std::vector<std::size_t> read; // the positions of the columns that are
-    std::string query;
+    Session session = {};
+    std::vector<std::size_t> read = {}; // the positions of the columns that are
+    std::string query = {};
     bool isCursor = false;
-    std::optional<Answer> answer; // of the open session
+    std::optional<Answer> answer = {}; // of the open session
 
     void open() {
         session = openSource(connection);
@@ -83,10 +83,7 @@ struct TableRows::Source {
 
 TableRows::TableRows(const std::string &connection, const std::string &table,
                      const RowLayout &layout, const std::atomic<bool> &isCancelled)
-    : m_source(std::make_shared<Source>()), m_isCancelled(isCancelled) {
-    m_source->connection = connection;
-    m_source->table = table;
-    m_source->layout = layout;
+    : m_source(new Source{connection, table, layout}), m_isCancelled(isCancelled) {
     readAhead();
 }
 

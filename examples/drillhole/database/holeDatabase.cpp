@@ -9,22 +9,20 @@
 #include <algorithm>
 
 #include <boost/algorithm/string/join.hpp>
+#include <boost/range/adaptor/transformed.hpp>
 
 namespace drillhole {
 
 namespace {
 
 std::string definitionOf(const Table &table) {
-    std::vector<std::string> parts;
-    for (const Column &column : table.columns) {
-        parts.push_back(column.sqlName +
-                        (column.kind == Kind::text ? " text" : " double precision") +
-                        (column.isRequired ? " not null" : ""));
-    }
-    if (table.namesHoles) {
-        parts.emplace_back("primary key (holename)");
-    }
-    return "create table if not exists " + table.name + " (" + boost::join(parts, ", ") + ')';
+    const auto defined = [](const Column &column) {
+        return column.sqlName + (column.kind == Kind::text ? " text" : " double precision") +
+               (column.isRequired ? " not null" : "");
+    };
+    const std::string key = table.namesHoles ? ", primary key (holename)" : "";
+    return "create table if not exists " + table.name + " (" +
+           boost::join(table.columns | boost::adaptors::transformed(defined), ", ") + key + ')';
 }
 
 bool hasColumns(soci::session &session, const Table &table) {
@@ -114,11 +112,8 @@ std::vector<Collar> collarsOf(soci::session &session) {
 }
 
 std::string columnList(const Table &table, const std::string &before) {
-    std::vector<std::string> names;
-    for (const Column &column : table.columns) {
-        names.push_back(before + column.sqlName);
-    }
-    return boost::join(names, ", ");
+    const auto named = [&](const Column &column) { return before + column.sqlName; };
+    return boost::join(table.columns | boost::adaptors::transformed(named), ", ");
 }
 
 Answer rowsOf(soci::session &session, const Table &table, std::size_t width) {
