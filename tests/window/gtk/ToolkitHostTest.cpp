@@ -33,6 +33,7 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     auto *application = new HostApplication;
     wxApp::SetInstance(application);
     auto toolkit = std::make_unique<wxInitializer>();
+    const wxImportCSVDialogPeer madeBeforeAnyWindow;
     auto *frame = new wxFrame(nullptr, wxImportCSVDialog::LISTBOX_MATCH, "Host");
     for (int id = 1; id <= 10; ++id) {
         new wxButton(frame, id, "Import");
