@@ -157,7 +157,7 @@ TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
     EXPECT_FALSE(std::filesystem::exists(path("refused.csv.part")));
 }
 
-TEST_F(ImportTest, ReplacesNothingUnaskedThatWouldBeLost) {
+TEST_F(ImportTest, ReplacesNothingUnasked) {
     *m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
     const struct {
         const char *text;
@@ -167,13 +167,15 @@ TEST_F(ImportTest, ReplacesNothingUnaskedThatWouldBeLost) {
     } cases[] = {
         {"hole,x,y\n", Replace::anyway, "", "LR-1 1.0, LR-2 3.0"},
         {"hole,x,y\nLR-1,a,2\n", Replace::anyway, "", "LR-1 1.0, LR-2 3.0"},
-        {"hole,x,y\nLR-1,7,8\nLR-3,a,8\n", Replace::ifNothingIsLost,
+        {"hole,x,y\nLR-1,7,8\nLR-3,a,8\n", Replace::ifAgreed,
          "Replace 2 collars by 1 new one? 1 row of the source would be left out.",
          "LR-1 1.0, LR-2 3.0"},
-        {"hole,x,y\nLR-3,7,8\n", Replace::ifNothingIsLost,
+        {"hole,x,y\nLR-3,7,8\n", Replace::ifAgreed,
          "Replace 2 collars by 1 new one? 1 row of the other tables would lose their collar.",
          "LR-1 1.0, LR-2 3.0"},
-        {"hole,x,y\nLR-1,7,8\n", Replace::ifNothingIsLost, "", "LR-1 7.0"},
+        {"hole,x,y\nLR-1,7,8\n", Replace::ifAgreed, "Replace 2 collars by 1 new one?",
+         "LR-1 1.0, LR-2 3.0"},
+        {"hole,x,y\nLR-1,7,8\n", Replace::anyway, "", "LR-1 7.0"},
         {"hole,x,y\nLR-3,9,8\nLR-1,a,8\n", Replace::anyway, "", "LR-3 9.0"},
     };
     for (const auto &each : cases) {

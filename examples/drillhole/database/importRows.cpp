@@ -118,18 +118,16 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
         return outcome;
     }
     insertion.flush();
-    if (destination.replace == Replace::ifNothingIsLost && before > 0 && outcome.taken > 0) {
-        std::string lost;
+    if (destination.replace == Replace::ifAgreed && before > 0 && outcome.taken > 0) {
+        outcome.question = "Replace " + countOf(before, table.name) + " by " +
+                           countOf(outcome.taken, "new one") + '?';
         if (outcome.refused > 0) {
-            lost = ' ' + countOf(outcome.refused, "row") + " of the source would be left out.";
+            outcome.question +=
+                ' ' + countOf(outcome.refused, "row") + " of the source would be left out.";
         }
         if (const std::size_t now = orphanCount(session); now > orphans) {
-            lost += ' ' + countOf(now - orphans, "row") +
-                    " of the other tables would lose their collar.";
-        }
-        if (!lost.empty()) {
-            outcome.question = "Replace " + countOf(before, table.name) + " by " +
-                               countOf(outcome.taken, "new one") + '?' + lost;
+            outcome.question += ' ' + countOf(now - orphans, "row") +
+                                " of the other tables would lose their collar.";
         }
     }
     if (outcome.question.empty()) {

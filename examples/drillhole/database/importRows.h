@@ -19,9 +19,9 @@ struct ImportProgress {
 
 /// What becomes of the rows that the table holds.
 enum class Replace {
-    no,              ///< they stay
-    ifNothingIsLost, ///< they make room for the new ones, or the outcome asks
-    anyway           ///< they make room also where rows are refused or lose their collar
+    no,       ///< they stay
+    ifAgreed, ///< the outcome asks before they are deleted
+    anyway    ///< they make room for the new ones
 };
 
 struct ImportOutcome {

@@ -144,7 +144,7 @@ void MainWindow::match(const std::vector<std::string> &columns) {
         m_story.fault = fault.what();
     }
     if (m_story.match) {
-        start(m_replace.get_active() ? Replace::ifNothingIsLost : Replace::no);
+        start(m_replace.get_active() ? Replace::ifAgreed : Replace::no);
     } else {
         end();
     }

@@ -31,12 +31,13 @@ RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
     addButton(*pager, "go-last-symbolic", "Last rows", &RowGrid::goToLast);
     m_number.set_width_chars(9);
     m_number.set_placeholder_text("Go to row");
+    m_number.set_tooltip_text("Shows the rows from this number on");
     m_number.signal_activate().connect([this] { goTo(m_number.get_text()); });
     pager->pack_start(m_number, Gtk::PACK_SHRINK);
     m_place.set_ellipsize(Pango::ELLIPSIZE_END);
     m_place.set_xalign(0);
     pager->pack_start(m_place, Gtk::PACK_EXPAND_WIDGET);
-    m_hole.set_width_chars(14);
+    m_hole.set_width_chars(16);
     m_hole.set_placeholder_text("Holes like LR-1");
     m_hole.set_tooltip_text("Shows only the rows of holes whose names begin so");
     m_hole.signal_search_changed().connect([this] { refresh(false); });
