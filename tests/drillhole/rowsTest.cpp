@@ -103,7 +103,7 @@ TEST(CsvFile, NoticesThatItWasCutShortOrWentOn) {
 struct Check {
     explicit Check(const char *table, char delimiter = ',', ValueChoices choices = {})
         : check(*findTable(table), layout(*findTable(table), delimiter), std::move(choices),
-                {{"LR-1", {100, {}}}, {"R\u00e9", {}}}, [this](const auto &) { return isThere; }) {
+                {{"LR-1", {100, {}}}, {"R\u00e9", {}}}, [this] { return isThere; }) {
         (*this)("a row that shows how long the rows are");
     }
 

@@ -45,32 +45,31 @@ RowInsertion::RowInsertion(soci::session &session, const Table &table)
     m_statement.define_and_bind();
 }
 
-void RowInsertion::insert(const std::vector<Value> &values) {
+void RowInsertion::insert() {
     if (!m_hashes.empty()) {
-        m_hashes.insert(std::hash<std::string>()(lineOf(values)));
+        m_hashes.insert(std::hash<std::string>()(lineOf(m_row)));
     }
     if (m_server == nullptr) {
-        for (std::size_t i = 0; i < values.size(); ++i) {
-            m_row[i] = values[i];
-            m_indicators[i] = values[i].isNull ? soci::i_null : soci::i_ok;
+        for (std::size_t i = 0; i < m_row.size(); ++i) {
+            m_indicators[i] = m_row[i].isNull ? soci::i_null : soci::i_ok;
         }
         m_statement.execute(true);
         return;
     }
-    m_lines += lineOf(values);
+    m_lines += lineOf(m_row);
     if (m_lines.size() > linesAtOnce) {
         sendLines();
     }
 }
 
-bool RowInsertion::has(const std::vector<Value> &values) {
+bool RowInsertion::isThere() {
     if (m_hashes.empty()) {
         flush();
         for (Answer rows = rowsOf(m_session, m_table, m_table.columns.size()); rows.next();) {
             m_hashes.insert(std::hash<std::string>()(lineOf(rows.row())));
         }
     }
-    return m_hashes.count(std::hash<std::string>()(lineOf(values))) > 0;
+    return m_hashes.count(std::hash<std::string>()(lineOf(m_row))) > 0;
 }
 
 std::string RowInsertion::lineOf(const std::vector<Value> &values) const {

@@ -16,11 +16,14 @@ class RowInsertion {
 public:
     RowInsertion(soci::session &session, const Table &table);
 
-    void insert(const std::vector<Value> &values);
+    /// What is inserted next: a value for each column, which may change and keep their places.
+    std::vector<Value> &row() { return m_row; }
+
+    void insert();
 
     /// Whether the table has a row of just these values. It is read when that is asked for the
     /// first time, which an import of new rows never does.
-    bool has(const std::vector<Value> &values);
+    bool isThere();
 
     /// From here on the database answers with all rows that were inserted. It is not to be asked
     /// for anything between an insertion and this.
@@ -35,10 +38,9 @@ private:
     const std::string m_target;
     PGconn *m_server = nullptr; ///< null if it is no server of PostgreSQL
     bool m_isCopying = false;
-    std::string m_lines; ///< for the server, as COPY wants them
-    // What the statement is bound to.
-    std::vector<Value> m_row;
-    std::vector<soci::indicator> m_indicators;
+    std::string m_lines;                       ///< for the server, as COPY wants them
+    std::vector<Value> m_row;                  ///< the statement is bound to its values
+    std::vector<soci::indicator> m_indicators; ///< and to these
     soci::statement m_statement;
     std::unordered_set<std::size_t> m_hashes; ///< of the lines of all rows, once they were read
 };

@@ -94,13 +94,12 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     }
     RowInsertion insertion(session, table);
     RowCheck check(table, layout, destination.choices, holesOf(session, table),
-                   [&](const std::vector<Value> &values) { return insertion.has(values); });
-    std::vector<Value> values;
+                   [&] { return insertion.isThere(); });
     Row row;
     while (!progress.isCancelled && source.next(row)) {
-        const std::string reason = check.check(row, values);
+        const std::string reason = check.check(row, insertion.row());
         if (reason.empty()) {
-            insertion.insert(values);
+            insertion.insert();
             ++outcome.taken;
         } else {
             refused.add(row, reason);

@@ -53,7 +53,7 @@ Depths::interval_type depthsOf(const Table &table, const std::vector<Value> &val
 }
 
 RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, Holes holes,
-                   std::function<bool(const std::vector<Value> &)> isThere)
+                   std::function<bool()> isThere)
     : m_table(table), m_layout(std::move(layout)), m_choices(std::move(choices)),
       m_fieldCount(m_layout.columns.size()), m_holes(std::move(holes)), m_lastHole(m_holes.end()),
       m_isThere(std::move(isThere)) {
@@ -187,7 +187,7 @@ std::string RowCheck::checkHole(const std::vector<Value> &values) {
     const auto within =
         Depths::interval_type::open(depths.lower() + margin, depths.upper() - margin);
     if (boost::icl::intersects(hole.depths, within)) {
-        if (m_isThere(values)) {
+        if (m_isThere()) {
             return "there already";
         }
         m_found.emplace_back(m_table.hasIntervals ? "overlaps another interval of its hole"

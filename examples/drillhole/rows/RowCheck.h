@@ -61,10 +61,10 @@ public:
     /// Throws a Fault if a required column was not matched.
     ///
     /// @param holes    all that have a collar
-    /// @param isThere  whether the table has a row of just these values; it is asked where rows of
-    ///                 a hole meet
+    /// @param isThere  whether the table has a row of just the values written last; it is asked
+    ///                 where rows of a hole meet
     RowCheck(const Table &table, RowLayout layout, ValueChoices choices, Holes holes,
-             std::function<bool(const std::vector<Value> &)> isThere);
+             std::function<bool()> isThere);
 
     /// Writes the values of the table's columns, in their order. Returns why the row is refused, or
     /// an empty string if it fits. A row that fits stands in its hole from then on.
@@ -88,7 +88,7 @@ private:
     bool m_hasRows = false;   // that were seen
     Holes m_holes;
     Holes::iterator m_lastHole;
-    std::function<bool(const std::vector<Value> &)> m_isThere;
+    std::function<bool()> m_isThere;
     std::vector<std::string> m_found; // to be said of the row if it fits
     Remarks m_remarks;
 };
