@@ -62,6 +62,8 @@ expect("the delimiter", lambda: find("text", "Field delimiter") is not None)
 expect("the file's columns", lambda: find("table", "File columns") is not None)
 rows = find("list", "Column matching")
 expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: Not used"])
+asked = {"manages-descendants", "multiselectable", "showing", "focusable", "focused"}
+expect("the list without the keys", lambda: asked - states(rows), {"focused"})
 rows.get_child_at_index(0).grab_focus()
 expect("the current row", lambda: "focused" in states(rows.get_child_at_index(0)))
 rows.select_child(2)
