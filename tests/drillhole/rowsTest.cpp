@@ -69,7 +69,7 @@ TEST(CsvFile, CutsRowsAndCountsLines) {
 TEST(CsvFile, NamesAFileForWhatItIs) {
     const std::pair<std::string_view, const char *> cases[] = {
         {"a,b\r1,2\r", "carriage returns only"},
-        {{"\xFF\xFE\x61\0,\0", 6}, "UTF-16"},
+        {{"\xFF\xFE\n\0\x61\0", 6}, "UTF-16"},
         {"sep=;\na;b\n", "note of its delimiter"},
     };
     for (const auto &[text, part] : cases) {

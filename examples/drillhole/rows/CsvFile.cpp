@@ -16,6 +16,7 @@ namespace drillhole {
 
 namespace {
 
+constexpr std::size_t headSize = 65'536;
 constexpr std::size_t longestRow = 4'194'304;
 constexpr std::size_t mostFields = 100'000;
 
@@ -82,7 +83,8 @@ CsvFile::CsvFile(const std::string &path, char delimiter)
     if (!m_file) {
         throw unreadable(path, errno);
     }
-    addLine();
+    while (m_text.size() < headSize && addLine()) {
+    }
     m_end = m_text.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
     requireText(std::string_view(m_text).substr(m_end));
 }
