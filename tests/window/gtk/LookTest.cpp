@@ -115,6 +115,10 @@ TEST_F(Look, WhatCannotBeSeenIsTold) {
         person.hoverAt(Person::matchRow(0), "nothing is told", tipIs(matches, ""));
         EXPECT_TRUE(read([] { return isShownAsUsed(1); }));
         onUserInterface([] {
+            const wxWindow &delimiter = control(wxImportCSVDialog::TXT_DELIMITER);
+            int needed = 0;
+            gtk_widget_get_preferred_height(delimiter.GetHandle(), &needed, nullptr);
+            EXPECT_LE(needed, delimiter.GetSize().y) << "the delimiter is cut";
             GtkWidget *preview = control(wxImportCSVDialog::TEXT_FILE_PREVIEW).GetHandle();
             EXPECT_TRUE(pango_layout_is_ellipsized(gtk_label_get_layout(GTK_LABEL(preview))));
         });

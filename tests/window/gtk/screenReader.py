@@ -61,9 +61,11 @@ expect("what takes the focus without a name", lambda: unnamed, [])
 expect("the delimiter", lambda: find("text", "Field delimiter") is not None)
 expect("the file's columns", lambda: find("table", "File columns") is not None)
 rows = find("list", "Column matching")
-expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: Not used"])
+expect("the rows", lambda: names(rows)[:3], ["hole: HOLE", "gold: Not used", "copper: Not used"])
 asked = {"manages-descendants", "multiselectable", "showing", "focusable", "focused"}
 expect("the list without the keys", lambda: asked - states(rows), {"focused"})
+rows.get_child_at_index(99).grab_focus()
+expect("the last row in view", lambda: "showing" in states(rows.get_child_at_index(99)))
 rows.get_child_at_index(0).grab_focus()
 expect("the current row", lambda: "focused" in states(rows.get_child_at_index(0)))
 rows.select_child(2)
@@ -71,8 +73,8 @@ expect("the marked rows", lambda: [row for row in range(3) if rows.is_child_sele
 expect("a mark", lambda: "selected" in states(rows.get_child_at_index(2)))
 
 act(find("table cell", "CU"), "activate")
-expect("what is heard", lambda: heard, ["hole: HOLE", 0, "copper: CU", 0, "gold: Not used"])
-expect("the rows", lambda: names(rows), ["hole: HOLE", "gold: Not used", "copper: CU"])
+expect("what is heard", lambda: heard[1:], ["hole: HOLE", 0, "copper: CU", 0, "gold: Not used"])
+expect("the rows", lambda: names(rows)[:3], ["hole: HOLE", "gold: Not used", "copper: CU"])
 expect("a mark at a column in use", lambda: find("table cell", "CU, in use") is not None)
 expect("the next row", lambda: "focused" in states(rows.get_child_at_index(1)))
 
