@@ -32,14 +32,20 @@ class Drawing {
 public:
     Drawing(Gtk::Widget &widget, const Cairo::RefPtr<Cairo::Context> &picture)
         : m_widget(widget), m_picture(picture), m_width(widget.get_allocated_width()),
-          m_height(widget.get_allocated_height()) {
+          m_height(widget.get_allocated_height()),
+          m_free(Cairo::Region::create(boxAt(0, 0, m_width, m_height))) {
         widget.get_style_context()->render_background(picture, 0, 0, m_width, m_height);
     }
 
     void write(double left, double top, const std::string &text, double strength = 1) {
         useInk(strength);
         m_picture->move_to(left, top);
-        m_widget.create_pango_layout(text)->show_in_cairo_context(m_picture);
+        const auto layout = m_widget.create_pango_layout(text);
+        layout->show_in_cairo_context(m_picture);
+        int width = 0;
+        int height = 0;
+        layout->get_pixel_size(width, height);
+        m_free->subtract(boxAt(left, top, width, height));
     }
 
     void draw(const std::vector<Collar> &collars) {
@@ -98,15 +104,14 @@ private:
             m_picture->fill();
             dots.push_back(boxAt(x - holeRadius, y - holeRadius, dotSize, dotSize));
         }
-        const auto free = Cairo::Region::create(boxAt(0, 0, m_width, m_height));
-        free->subtract(Cairo::Region::create(dots));
+        m_free->subtract(Cairo::Region::create(dots));
         for (const Collar &collar : collars) {
-            writeName(collar, free);
+            writeName(collar);
         }
     }
 
-    /// A name that would cover another one or a hole stands on another side, or is left out.
-    void writeName(const Collar &collar, const Cairo::RefPtr<Cairo::Region> &free) {
+    /// A name that would cover another text or a hole stands on another side, or is left out.
+    void writeName(const Collar &collar) {
         int width = 0;
         int height = 0;
         m_widget.create_pango_layout(collar.name)->get_pixel_size(width, height);
@@ -119,8 +124,7 @@ private:
                                                      {middle, y + 9}};
         for (const auto &[left, top] : corners) {
             const Cairo::RectangleInt box = boxAt(left, top, width, height);
-            if (free->contains_rectangle(box) == Cairo::REGION_OVERLAP_IN) {
-                free->subtract(box);
+            if (m_free->contains_rectangle(box) == Cairo::REGION_OVERLAP_IN) {
                 write(left, top, collar.name);
                 return;
             }
@@ -146,6 +150,7 @@ private:
     Cairo::RefPtr<Cairo::Context> m_picture;
     int m_width;
     int m_height;
+    Cairo::RefPtr<Cairo::Region> m_free; // no text and no dot is there yet
     PlanScale m_scale;
 };
 

@@ -36,6 +36,7 @@ RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
     pager->pack_start(m_number, Gtk::PACK_SHRINK);
     m_place.set_ellipsize(Pango::ELLIPSIZE_END);
     m_place.set_xalign(0);
+    m_place.set_width_chars(20);
     pager->pack_start(m_place, Gtk::PACK_EXPAND_WIDGET);
     m_hole.set_width_chars(16);
     m_hole.set_placeholder_text("Holes like LR-1");
