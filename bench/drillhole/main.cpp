@@ -55,17 +55,19 @@ int main(int argc, char **argv) {
     ImportProgress progress;
     ImportOutcome outcome;
     std::string failure;
-    DatabaseThread thread(connectionFor(database), openHoles);
+    DatabaseThread thread(openHoles);
+    thread.use(connectionFor(database));
     thread.run(
         [&](soci::session &holes) {
             const Table &assays = *findTable("assay");
             Match match;
             match.delimiter = ',';
             match.positions = {0, 1, 2, 3, 4, 5, 6, 7, 8};
-            outcome = importFile({holes, assays, file + ".refused.csv", Replace::no, {}}, file,
-                                 match, progress);
+            return importFile({holes, assays, file + ".refused.csv", Replace::no, {}}, file, match,
+                              progress);
         },
-        [&](const std::string &fault) {
+        [&](const ImportOutcome &result, const std::string &fault) {
+            outcome = result;
             failure = fault;
             loop->quit();
         });
