@@ -41,9 +41,9 @@ void ListBoxSource::showNames(const wxArrayString &names) {
     m_useMarks.showNames(names);
 }
 
-void ListBoxSource::showUse(const std::unordered_set<std::wstring> &used) {
+void ListBoxSource::showUse(const std::unordered_set<std::int32_t> &used) {
     for (unsigned row = 0; row < m_names.size(); ++row) {
-        const bool isUsed = used.count(m_names[row].ToStdWstring()) != 0;
+        const bool isUsed = used.count(static_cast<std::int32_t>(row)) != 0;
         if (isUsed != m_useMarks.isUsed(row)) {
             m_useMarks.set(row, isUsed);
         }

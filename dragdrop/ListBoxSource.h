@@ -4,7 +4,7 @@
 
 #include "UseMarks.h" // of the platform
 
-#include <string>
+#include <cstdint>
 #include <unordered_set>
 
 #include <wx/arrstr.h>
@@ -29,8 +29,8 @@ public:
     /// Replaces all entries by `names`, none of which is in use.
     void showNames(const wxArrayString &names);
 
-    /// Shows the names that are among `used`, and no others, as in use.
-    void showUse(const std::unordered_set<std::wstring> &used);
+    /// Shows the columns at these positions, and no others, as in use.
+    void showUse(const std::unordered_set<std::int32_t> &used);
 
     const wxArrayString &names() const { return m_names; }
 

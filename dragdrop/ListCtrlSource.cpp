@@ -107,9 +107,9 @@ long ListCtrlSource::nextUnusedRow(long row) const {
 }
 
 void ListCtrlSource::showUse() {
-    std::unordered_set<std::wstring> used;
+    std::unordered_set<std::int32_t> used;
     for (const wxString &text : matchTexts()) {
-        used.insert(text.ToStdWstring());
+        used.insert(m_names->positionOf(text));
     }
     findControl<ListBoxSource>(*this, fileListId)->showUse(used);
 }

@@ -6,6 +6,8 @@
 #include "names/nameText.h"
 #include "names/notUsed.h"
 
+#include <algorithm>
+#include <cassert>
 #include <tuple>
 #include <utility>
 
@@ -30,14 +32,15 @@ NameBook::NameBook() {
 }
 
 wxString NameBook::addColumn(std::string bytes) {
-    const auto position = static_cast<std::int32_t>(m_columns.size());
+    const std::int32_t position = m_order.back()->second.position + 1;
+    assert(textOf(position - 1) == m_order.back()->first);
     const wxString text = shownText(bytes);
-    m_columns.push_back(&enter(text, {std::move(bytes), position}));
-    return *m_columns.back();
+    return enter(text, {std::move(bytes), position});
 }
 
 wxString NameBook::textOf(std::int32_t position) const {
-    return position == noColumn ? *m_unused : *m_columns.at(static_cast<std::size_t>(position));
+    static_assert(noColumn == -1);
+    return m_order.at(static_cast<std::size_t>(position + 1))->first;
 }
 
 wxString NameBook::textOfForeign(const wxString &text) {
@@ -45,8 +48,10 @@ wxString NameBook::textOfForeign(const wxString &text) {
         return text;
     }
     const std::string bytes = encoded(text);
-    const auto known = m_texts.find(bytes);
-    return known != m_texts.end() ? *known->second : enter(readable(text), {bytes, noColumn});
+    const auto known = std::find_if(m_order.begin(), m_order.end(), [&bytes](const auto *entry) {
+        return entry->second.bytes == bytes;
+    });
+    return known != m_order.end() ? (*known)->first : enter(readable(text), {bytes, noColumn});
 }
 
 std::string NameBook::bytesOf(const wxString &text) const {
@@ -65,12 +70,11 @@ bool NameBook::isUnused(const wxString &text) const {
 }
 
 void NameBook::clear() {
-    m_texts.clear();
-    m_columns.clear();
+    m_order.clear();
     m_entries.clear();
     m_sharers.clear();
     // The word of notUsed once more, where it is found for the catalogues.
-    m_unused = &enter(translated("Not used"), {notUsed, noColumn});
+    enter(translated("Not used"), {notUsed, noColumn});
 }
 
 const std::wstring &NameBook::enter(const wxString &text, Entry entry) {
@@ -82,7 +86,7 @@ const std::wstring &NameBook::enter(const wxString &text, Entry entry) {
         std::tie(place, isNew) =
             m_entries.try_emplace(shared + invisible(++m_sharers[shared]), std::move(entry));
     }
-    m_texts.emplace(place->second.bytes, &place->first);
+    m_order.push_back(&*place);
     return place->first;
 }
 

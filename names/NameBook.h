@@ -5,7 +5,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -44,7 +43,8 @@ public:
     NameBook(const NameBook &) = delete;
     NameBook &operator=(const NameBook &) = delete;
 
-    /// Enters the source's next column, the first one at position 0, and returns its text.
+    /// Enters the source's next column, the first one at position 0, and returns its text. No
+    /// foreign text may have been entered before.
     wxString addColumn(std::string bytes);
 
     /// The text of a column, or for `noColumn` the one that says that no column is used.
@@ -75,13 +75,13 @@ private:
         std::int32_t position;
     };
 
+    using Entries = std::unordered_map<std::wstring, Entry>;
+
     const std::wstring &enter(const wxString &text, Entry entry);
 
-    std::unordered_map<std::wstring, Entry> m_entries; ///< by their texts
-    std::vector<const std::wstring *> m_columns;       ///< the texts by position
-    const std::wstring *m_unused = nullptr;            ///< the text for `noColumn`
-    /// By bytes, the first text that was entered with them.
-    std::unordered_map<std::string_view, const std::wstring *> m_texts;
+    Entries m_entries; ///< by their texts
+    /// As they were entered: that for `noColumn`, the columns, foreign texts.
+    std::vector<const Entries::value_type *> m_order;
     std::unordered_map<std::wstring, std::size_t> m_sharers; ///< by text, how many more share it
 };
 
