@@ -40,7 +40,7 @@ wxString NameBook::addColumn(std::string bytes) {
 
 wxString NameBook::textOf(std::int32_t position) const {
     static_assert(noColumn == -1);
-    return m_order.at(static_cast<std::size_t>(position) + 1)->first; // from that for none on
+    return m_order.at(static_cast<std::size_t>(position) + 1)->first;
 }
 
 wxString NameBook::textOfForeign(const wxString &text) {

@@ -70,6 +70,9 @@ rows.get_child_at_index(0).grab_focus()
 expect("the current row", lambda: "focused" in states(rows.get_child_at_index(0)))
 rows.select_child(2)
 expect("the marked rows", lambda: [row for row in range(3) if rows.is_child_selected(row)], [2])
+expect("the name of each", lambda: [rows.get_selected_child(index).get_name()
+                                    for index in range(rows.get_n_selected_children())],
+       ["copper: Not used"])
 expect("a mark", lambda: "selected" in states(rows.get_child_at_index(2)))
 
 act(find("table cell", "CU"), "activate")
