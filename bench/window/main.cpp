@@ -67,8 +67,8 @@ int main(int argc, char **argv) {
 
         Names rows(argv + 1, argv + argc);
         if (rows.empty()) {
-            rows = {"0x0",       "100x10",    "100x300",    "100x2000",
-                    "2000x2000", "100x20000", "100x100000", "100xline"};
+            rows = {"0x0",       "100x10",  "0x300",     "100x300",    "100x2000",
+                    "2000x2000", "0x20000", "100x20000", "100x100000", "100xline"};
         }
         std::printf("| Application columns | File columns | Opened | Typed |\n|--:|--:|--:|--:|\n");
         for (const std::string &row : rows) {
