@@ -171,7 +171,6 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &event) {
     const wxWindowUpdateLocker fileListLock(&files);
     const wxWindowUpdateLocker matchListLock(&matches);
     matches.DeleteAllItems();
-    matches.names().clear();
     if (firstLine != nullptr) {
         m_firstLineHeader = firstLine->IsChecked();
     }

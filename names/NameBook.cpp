@@ -28,7 +28,8 @@ std::wstring invisible(std::size_t number) {
 } // namespace
 
 NameBook::NameBook() {
-    clear();
+    // The word of notUsed once more, where it is found for the catalogues.
+    enter(translated("Not used"), {notUsed, noColumn});
 }
 
 wxString NameBook::addColumn(std::string bytes) {
@@ -67,14 +68,6 @@ std::int32_t NameBook::positionOf(const wxString &text) const {
 bool NameBook::isUnused(const wxString &text) const {
     const auto known = m_entries.find(text.ToStdWstring());
     return known != m_entries.end() && known->second.bytes == notUsed;
-}
-
-void NameBook::clear() {
-    m_order.clear();
-    m_entries.clear();
-    m_sharers.clear();
-    // The word of notUsed once more, where it is found for the catalogues.
-    enter(translated("Not used"), {notUsed, noColumn});
 }
 
 const std::wstring &NameBook::enter(const wxString &text, Entry entry) {

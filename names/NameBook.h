@@ -66,9 +66,6 @@ public:
     /// Whether a shown text says that no column is used, or is that of a column called so.
     bool isUnused(const wxString &text) const;
 
-    /// Forgets all columns and foreign texts.
-    void clear();
-
 private:
     struct Entry {
         std::string bytes;
