@@ -89,12 +89,16 @@ std::chrono::seconds timeLimitOf(const std::string &connection) {
                                                                               : 10);
 }
 
-// SOCI hands no SQLSTATE on when the server does not let it in, so this asks once more for that.
-[[noreturn]] void throwRefusalOf(const std::string &settings) {
+// SOCI hands no SQLSTATE on when the server does not let it in. Asked behind a refusal, the server
+// would refuse a wrong password twice, and count both.
+void requireWelcome(const std::string &settings) {
     const std::unique_ptr<PGconn, decltype(&PQfinish)> asking(PQconnectStart(settings.c_str()),
                                                               &PQfinish);
     PQsetErrorVerbosity(asking.get(), PQERRORS_SQLSTATE);
     PQreset(asking.get());
+    if (PQstatus(asking.get()) == CONNECTION_OK) {
+        return;
+    }
     const std::string words = PQerrorMessage(asking.get());
     std::smatch code;
     std::regex_search(words, code, std::regex("([0-9A-Z]{5})\\s*$"));
@@ -112,11 +116,8 @@ Session newSession(const std::string &connection, const std::string &more) {
         // The one who waits is to give up first, and says so.
         const auto limit = (timeLimitOf(connection) + std::chrono::seconds(1)).count();
         const std::string limited = settings + " connect_timeout=" + std::to_string(limit);
-        try {
-            return std::make_shared<soci::session>(soci::postgresql, limited);
-        } catch (const soci::soci_error &) {
-            throwRefusalOf(limited);
-        }
+        requireWelcome(limited);
+        return std::make_shared<soci::session>(soci::postgresql, limited);
     }
     if (isFor(connection, odbc)) {
         return std::make_shared<soci::session>(soci::odbc, connection.substr(odbc.size()));
