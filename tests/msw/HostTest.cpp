@@ -22,6 +22,7 @@ using Names = std::vector<std::string>;
 // Controls, by the numbers that the dialog gives them.
 constexpr int okButton = 5100;
 constexpr int filePreview = 5;
+constexpr int matchList = 3;
 
 HWND newHostWindow() {
     return CreateWindowW(L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40, 300, 200,
@@ -70,12 +71,51 @@ bool hasInk(HWND dialog, int top, int bottom) {
 
 using Steps = std::function<void(HWND dialog)>;
 
-void pressOk(HWND dialog) {
+void click(HWND dialog, int control) {
     RECT place = {};
-    GetWindowRect(controlOf(dialog, okButton), &place);
+    GetWindowRect(controlOf(dialog, control), &place);
     Xdotool().order("mousemove " + std::to_string((place.left + place.right) / 2) + " " +
                     std::to_string((place.top + place.bottom) / 2) + " click 1");
 }
+
+void pressOk(HWND dialog) {
+    click(dialog, okButton);
+}
+
+/// Offers text on the clipboard, and hangs when it is asked for that.
+class HangingProgram {
+public:
+    HangingProgram()
+        : m_thread([this] {
+              HWND owner = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                         nullptr, nullptr);
+              OpenClipboard(owner);
+              EmptyClipboard();
+              SetClipboardData(CF_UNICODETEXT, nullptr);
+              CloseClipboard();
+              m_hasText = true;
+              poll("the program is ended", [this] {
+                  isAsked = isAsked || GetQueueStatus(QS_SENDMESSAGE) != 0;
+                  return m_isEnding.load();
+              });
+              DestroyWindow(owner);
+          }) {
+        poll("there is something to paste", [this] { return m_hasText.load(); });
+    }
+    ~HangingProgram() {
+        m_isEnding = true;
+        m_thread.join();
+    }
+    HangingProgram(const HangingProgram &) = delete;
+    HangingProgram &operator=(const HangingProgram &) = delete;
+
+    std::atomic<bool> isAsked = false;
+
+private:
+    std::atomic<bool> m_hasText = false;
+    std::atomic<bool> m_isEnding = false;
+    std::thread m_thread;
+};
 
 class Host : public testing::Test {
 protected:
@@ -176,6 +216,16 @@ TEST_F(Host, GetsADialogWithoutAnOwnerForAHandleThatIsNoWindow) {
         }));
     }
     EXPECT_TRUE(IsWindowEnabled(GetDesktopWindow()));
+}
+
+TEST_F(Host, GoesOnWhileAProgramHangsWhoseTextIsPasted) {
+    HangingProgram program;
+    EXPECT_FALSE(show([&program](HWND dialog) {
+        click(dialog, matchList);
+        Xdotool().order("key Home ctrl+v");
+        poll("the program is asked for its text", [&] { return program.isAsked.load(); });
+        Xdotool().order("key Escape");
+    }));
 }
 
 TEST_F(Host, CanQuitDuringARunAndAfterIt) {
