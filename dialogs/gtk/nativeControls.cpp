@@ -27,9 +27,7 @@ void fitOneCharacter(wxTextCtrl &control) {
 }
 
 void cutLongLines(wxStaticText &text) {
-    GtkLabel *label = GTK_LABEL(text.GetHandle());
-    gtk_label_set_line_wrap(label, FALSE);
-    gtk_label_set_ellipsize(label, PANGO_ELLIPSIZE_END);
+    gtk_label_set_ellipsize(GTK_LABEL(text.GetHandle()), PANGO_ELLIPSIZE_END);
 }
 
 namespace {

@@ -82,41 +82,6 @@ void pressOk(HWND dialog) {
     click(dialog, okButton);
 }
 
-/// Offers text on the clipboard, and hangs when it is asked for that.
-class HangingProgram {
-public:
-    HangingProgram()
-        : m_thread([this] {
-              HWND owner = CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
-                                         nullptr, nullptr);
-              OpenClipboard(owner);
-              EmptyClipboard();
-              SetClipboardData(CF_UNICODETEXT, nullptr);
-              CloseClipboard();
-              m_hasText = true;
-              poll("the program is ended", [this] {
-                  isAsked = isAsked || GetQueueStatus(QS_SENDMESSAGE) != 0;
-                  return m_isEnding.load();
-              });
-              DestroyWindow(owner);
-          }) {
-        poll("there is something to paste", [this] { return m_hasText.load(); });
-    }
-    ~HangingProgram() {
-        m_isEnding = true;
-        m_thread.join();
-    }
-    HangingProgram(const HangingProgram &) = delete;
-    HangingProgram &operator=(const HangingProgram &) = delete;
-
-    std::atomic<bool> isAsked = false;
-
-private:
-    std::atomic<bool> m_hasText = false;
-    std::atomic<bool> m_isEnding = false;
-    std::thread m_thread;
-};
-
 class Host : public testing::Test {
 protected:
     Host() : file("BHID,Azimut;Dip\r\n1,2;3\r\n"), path(file.path()), window(newHostWindow()) {}
@@ -219,13 +184,32 @@ TEST_F(Host, GetsADialogWithoutAnOwnerForAHandleThatIsNoWindow) {
 }
 
 TEST_F(Host, GoesOnWhileAProgramHangsWhoseTextIsPasted) {
-    HangingProgram program;
-    EXPECT_FALSE(show([&program](HWND dialog) {
+    std::atomic<bool> hasText = false;
+    std::atomic<bool> isAsked = false;
+    std::atomic<bool> isOver = false;
+    std::thread program([&] {
+        HWND owner =
+            CreateWindowW(L"STATIC", L"", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
+        OpenClipboard(owner);
+        EmptyClipboard();
+        SetClipboardData(CF_UNICODETEXT, nullptr);
+        CloseClipboard();
+        hasText = true;
+        poll("the dialog is closed", [&] {
+            isAsked = isAsked || GetQueueStatus(QS_SENDMESSAGE) != 0;
+            return isOver.load();
+        });
+        DestroyWindow(owner);
+    });
+    EXPECT_FALSE(show([&](HWND dialog) {
+        poll("there is text to paste", [&] { return hasText.load(); });
         click(dialog, matchList);
         Xdotool().order("key Home ctrl+v");
-        poll("the program is asked for its text", [&] { return program.isAsked.load(); });
+        poll("the program is asked for it", [&] { return isAsked.load(); });
         Xdotool().order("key Escape");
     }));
+    isOver = true;
+    program.join();
 }
 
 TEST_F(Host, CanQuitDuringARunAndAfterIt) {

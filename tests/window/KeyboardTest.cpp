@@ -18,7 +18,7 @@ using Rows = std::vector<int>;
 
 class Keyboard : public testing::Test {
 protected:
-    Keyboard() : file("HOLE,FROM,TO,AU,CU,OTHER\n") {
+    Keyboard() : file("HOLE,FROM,TO,AU,CU,OTHER,OTHER2\n") {
         run.fileName = file.path();
         run.appColumns = {"hole", "from", "to", "gold", "copper"};
         run.useSavedMatches = true;
@@ -172,7 +172,6 @@ TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
         expectTexts({"HOLE", "Not used", "Not used", "Not used", "HOLE"});
         person.strike(WXK_HOME);
         person.strikeWith(WXK_CONTROL, 'v');
-        expectTexts({"FROM", "Not used", "Not used", "Not used", "HOLE"});
         person.strike(WXK_RETURN);
     }));
     EXPECT_EQ(run.matches, (Names{"FROM", "", "", "", "HOLE"}));
@@ -188,7 +187,7 @@ TEST_F(Keyboard, ColumnsAreFoundByTypingAndAssignedOneAfterAnother) {
             waitUntil(typed + " is found", [entry] { return fileList().GetSelection() == entry; });
         };
         tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
-        type("o", 5);
+        type("ot", 5);
         person.strikeWith(WXK_CONTROL, WXK_RETURN);
         expectRows({}, {3});
         type("ro", 1);

@@ -211,9 +211,7 @@ TEST(Routes, OneCharacterFitsIntoTheDelimiterFieldAndItsFirstByteCounts) {
             const wxClipboardLocker clipboard;
             wxTheClipboard->SetData(new wxTextDataObject(wxString::FromUTF8("\xC3\xA9")));
         });
-        person.keyDown(WXK_CONTROL);
-        person.strike('v');
-        person.keyUp(WXK_CONTROL);
+        person.strikeWith(WXK_CONTROL, 'v');
         const auto holdsOne = [] {
             return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue() ==
                    wxString::FromUTF8("\xC3\xA9");
@@ -226,5 +224,4 @@ TEST(Routes, OneCharacterFitsIntoTheDelimiterFieldAndItsFirstByteCounts) {
     // Where the locale has nothing for it, the character is UTF-8.
     const std::string inLocale = wxString::FromUTF8("\xC3\xA9").ToStdString(wxConvLibc);
     EXPECT_EQ(run.delimiter, inLocale.empty() ? '\xC3' : inLocale.front());
-    EXPECT_EQ(run.matches, Names());
 }

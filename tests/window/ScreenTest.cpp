@@ -27,7 +27,13 @@ Steps seeAndPressOk(const std::vector<int> &controls) {
                 const wxPoint place = seen.GetParent()->ClientToScreen(seen.GetPosition());
                 EXPECT_TRUE(view().Contains(wxRect(place, seen.GetSize()))) << id;
             }
-            EXPECT_GE(matchList().GetCountPerPage(), 5);
+            const int rows = matchList().GetCountPerPage();
+            EXPECT_GE(rows, 5);
+            const wxWindow *preview = openDialog().FindWindow(D::TEXT_FILE_PREVIEW);
+            if (preview != nullptr && rows > 6) { // the lists are lowered first
+                const wxSize size = preview->GetMinSize();
+                EXPECT_NEAR(size.y, size.x * 125.0 / 850, 1);
+            }
         });
         pressOk(person);
     };

@@ -62,12 +62,6 @@ private:
     FILE *m_output;
 };
 
-void pressControlAnd(Person &person, int key) {
-    person.keyDown(WXK_CONTROL);
-    person.strike(key);
-    person.keyUp(WXK_CONTROL);
-}
-
 } // namespace
 
 TEST(ForeignText, IsWrittenIntoARowAsGivenAndOnTheFileListClearsTheMarkedRows) {
@@ -139,9 +133,8 @@ TEST(ForeignText, IsPastedAsUtf8IfThatIsOfferedAndElseReadAsANameIs) {
                     [](GtkClipboard *, void *) {}, nullptr);
             });
             person.click(Person::matchRow(0));
-            pressControlAnd(person, 'v');
-            poll("the row reads the text", [] { return matchTexts() != Names{"Not used"}; });
-            pressOk(person);
+            person.strikeWith(WXK_CONTROL, 'v');
+            person.strike(WXK_RETURN);
         });
         EXPECT_EQ(run.matches, Names{bytes}) << offered.front();
     }
@@ -168,14 +161,14 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
         program.waitFor("taken\n");
         waitUntil("the dialog has the keys again", [] { return openDialog().IsActive(); });
         person.click(Person::matchRow(0));
-        pressControlAnd(person, 'v');
+        person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_DOWN);
         poll("the dialog goes on", [] { return hoverRows() == std::vector<int>{1}; });
         poll("the wait is over", [&person] {
             person.strike(WXK_DELETE);
             return matchTexts() == Names{"HOLE", "Not used"};
         });
-        pressControlAnd(person, 'v');
+        person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_ESCAPE);
     }));
 }

@@ -69,6 +69,8 @@ TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
 TEST_F(Look, ContrastIsThatOfGuidelinesForAccessibleContent) {
     EXPECT_NEAR(contrast(*wxBLACK, *wxWHITE), 21, 0.005);
     EXPECT_NEAR(contrast(wxColour(0x1A, 0x73, 0xE8), *wxWHITE), 4.51, 0.01);
+    // Here no tone of the hover's colour serves as well as its end.
+    EXPECT_EQ(columnimport::markColours({150, 150, 150}, {70, 70, 70}).ground, *wxWHITE);
 }
 
 TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
