@@ -2,6 +2,7 @@
 
 #include "dragdrop/clipboard.h"
 
+#include <new>
 #include <string>
 #include <thread>
 
@@ -12,32 +13,40 @@ namespace columnimport {
 
 namespace {
 
-/// Opens the clipboard, which any program may have open for a moment.
-bool openClipboard() {
-    constexpr DWORD milliseconds = 50;
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        if (OpenClipboard(nullptr) != FALSE) {
-            return true;
+/// The clipboard while it is open. Any program may have it open for a moment.
+class OpenedClipboard {
+public:
+    OpenedClipboard() {
+        constexpr DWORD milliseconds = 50;
+        for (int attempt = 0; attempt < 20 && !m_isOpen; ++attempt) {
+            m_isOpen = OpenClipboard(nullptr) != FALSE;
+            if (!m_isOpen) {
+                Sleep(milliseconds);
+            }
         }
-        Sleep(milliseconds);
     }
-    return false;
-}
+    ~OpenedClipboard() {
+        if (m_isOpen) {
+            CloseClipboard();
+        }
+    }
+    OpenedClipboard(const OpenedClipboard &) = delete;
+    OpenedClipboard &operator=(const OpenedClipboard &) = delete;
 
-/// Waits for as long as the owner takes to hand its text over.
-std::optional<std::wstring> clipboardText() {
-    if (!openClipboard()) {
-        return std::nullopt;
+    /// Waits for as long as the owner takes to hand its text over.
+    std::optional<std::wstring> text() const {
+        std::optional<std::wstring> text;
+        HANDLE memory = m_isOpen ? GetClipboardData(CF_UNICODETEXT) : nullptr;
+        if (const auto *given = static_cast<const wchar_t *>(GlobalLock(memory))) {
+            text.emplace(given, wcsnlen(given, GlobalSize(memory) / sizeof *given));
+            GlobalUnlock(memory);
+        }
+        return text;
     }
-    std::optional<std::wstring> text;
-    HANDLE memory = GetClipboardData(CF_UNICODETEXT);
-    if (const auto *given = static_cast<const wchar_t *>(GlobalLock(memory))) {
-        text.emplace(given, wcsnlen(given, GlobalSize(memory) / sizeof *given));
-        GlobalUnlock(memory);
-    }
-    CloseClipboard();
-    return text;
-}
+
+private:
+    bool m_isOpen = false;
+};
 
 } // namespace
 
@@ -45,10 +54,15 @@ std::optional<std::wstring> clipboardText() {
 // dialog, but not this library, which stays in the process.
 void requestClipboardText(const TextAnswer &answer) {
     std::thread([answer] {
-        const std::optional<std::wstring> text = clipboardText();
-        if (wxTheApp != nullptr) { // a host of the same toolkit ends it
-            wxTheApp->CallAfter(
-                [answer, text] { answer(text ? std::optional<wxString>(*text) : std::nullopt); });
+        try {
+            const std::optional<std::wstring> text = OpenedClipboard().text();
+            if (wxTheApp != nullptr) { // a host of the same toolkit ends it
+                wxTheApp->CallAfter([answer, text] {
+                    answer(text ? std::optional<wxString>(*text) : std::nullopt);
+                });
+            }
+        } catch (const std::bad_alloc &) {
+            return; // what is too much to take has not come
         }
     }).detach();
 }
