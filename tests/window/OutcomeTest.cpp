@@ -92,6 +92,14 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
     }
 }
 
+TEST_F(Outcome, PeersShareWhatTheFirstOneSetUp) {
+    { const wxImportCSVDialogPeer destroyed; }
+    wxImportCSVDialogPeer one;
+    const wxImportCSVDialogPeer other;
+    EXPECT_EQ(&(one = other), &one);
+    EXPECT_TRUE(run.show(pressOk));
+}
+
 TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpenAndItsPeerReplacesNothing) {
     DialogRun second = run;
     second.matches = {"kept"};
