@@ -2,6 +2,8 @@
 
 #include "names/nameText.h"
 
+#include "delimited/isUtf8.h"
+
 #include <algorithm>
 #include <string_view>
 
@@ -16,20 +18,8 @@ constexpr wchar_t ellipsis = L'\x2026';
 /// Whether all characters are Unicode's: the toolkit and some locales decode others too, and halves
 /// of some.
 bool isUnicode(const wxString &text) {
-    wxUint32 before = 0;
-    for (const wxUniChar character : text) {
-        constexpr bool comesInHalves = sizeof(wchar_t) == 2;
-        const wxUint32 value = character.GetValue();
-        const bool isFirstHalf = value >= 0xD800 && value <= 0xDBFF;
-        const bool isSecondHalf = value >= 0xDC00 && value <= 0xDFFF;
-        const bool followsFirstHalf = before >= 0xD800 && before <= 0xDBFF;
-        if (value > 0x10FFFF || isSecondHalf != followsFirstHalf ||
-            (isFirstHalf && !comesInHalves)) {
-            return false;
-        }
-        before = value;
-    }
-    return before < 0xD800 || before > 0xDBFF;
+    const std::string bytes = text.utf8_string();
+    return !bytes.empty() && isUtf8(bytes);
 }
 
 /// The picture of a character that can't be seen, or the character itself.
@@ -79,7 +69,7 @@ wxString decodedHead(std::string_view bytes) {
 wxString decoded(const std::string &bytes) {
     for (const wxString &text : {wxString::FromUTF8(bytes.data(), bytes.size()),
                                  wxString(bytes.data(), wxConvLibc, bytes.size())}) {
-        if (!text.empty() && isUnicode(text)) {
+        if (isUnicode(text)) {
             return text;
         }
     }

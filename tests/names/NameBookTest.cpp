@@ -21,7 +21,6 @@ namespace {
 std::vector<std::string> awkwardNames() {
     std::vector<std::string> names = {"",
                                       "Not used",
-                                      "Teneur",
                                       "Plong\xC3\xA9 e",
                                       "Plong\xE9 e",
                                       "hole\0name"s,
