@@ -53,7 +53,7 @@ void DelimiterField::selectSoon() {
 
 void DelimiterField::onKeyDown(wxKeyEvent &event) {
     if (event.GetKeyCode() == WXK_DOWN || event.GetKeyCode() == WXK_NUMPAD_DOWN) {
-        offer(wxPoint(0, GetSize().y));
+        offer(GetClientRect().GetBottomLeft());
     } else {
         event.Skip();
     }
@@ -61,7 +61,7 @@ void DelimiterField::onKeyDown(wxKeyEvent &event) {
 
 void DelimiterField::onContextMenu(wxContextMenuEvent &event) {
     const bool isByKey = event.GetPosition() == wxDefaultPosition;
-    offer(isByKey ? wxPoint(0, GetSize().y) : ScreenToClient(event.GetPosition()));
+    offer(isByKey ? GetClientRect().GetBottomLeft() : ScreenToClient(event.GetPosition()));
 }
 
 void DelimiterField::offer(const wxPoint &position) {

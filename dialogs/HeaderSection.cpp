@@ -18,6 +18,7 @@
 #include "languages/translated.h"
 #include "names/nameText.h"
 
+#include <mutex>
 #include <utility>
 
 #include <wx/checkbox.h>
@@ -42,15 +43,6 @@ void fitLines(wxStaticText &text, int lines, int height) {
     }
 }
 
-/// A second time, the toolkit would complain of each handler that it has already.
-void initImageHandlersOnce() {
-    static const bool done = [] {
-        wxInitAllImageHandlers();
-        return true;
-    }();
-    static_cast<void>(done);
-}
-
 } // namespace
 
 void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
@@ -62,8 +54,10 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     auto *options = new wxStaticBoxSizer(wxVERTICAL, this, translated("Options"));
     auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
     auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("File Preview"));
-    initImageHandlersOnce();
-    sizer->Add(preview, wxSizerFlags(0).Border(wxALL, scale(10)));
+    // A second time, the toolkit would complain of each handler that it has already.
+    static std::once_flag imageHandlers;
+    std::call_once(imageHandlers, wxInitAllImageHandlers);
+    sizer->Add(preview, wxSizerFlags().Border(wxALL, scale(10)));
 
     auto *label = new wxStaticText(options->GetStaticBox(), wxID_ANY,
                                    translated("Field Delimiter ('S' for 'space' 'T' for 'tab')"));
@@ -76,14 +70,14 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     auto *firstLine = new wxCheckBox(options->GetStaticBox(), CHECK_HEADER,
                                      translated("First Line contain title"));
     firstLine->SetValue(m_firstLineHeader);
-    options->Add(delimiterRow, wxSizerFlags(0).Align(wxALIGN_CENTER));
-    options->Add(firstLine, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    options->Add(delimiterRow, wxSizerFlags().Align(wxALIGN_CENTER));
+    options->Add(firstLine, wxSizerFlags().Align(wxALIGN_CENTER));
     const wxSize previewSize = scale(wxSize(850, 125));
     auto *optionsRow = new wxBoxSizer(wxHORIZONTAL);
-    optionsRow->SetMinSize(previewSize.x, -1);
+    optionsRow->SetMinSize(previewSize.x, wxDefaultCoord);
     optionsRow->Add(options);
     columnimport::addQuietSentence(*this, *optionsRow, scale(10));
-    sizer->Add(optionsRow, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(10)));
+    sizer->Add(optionsRow, wxSizerFlags().Border(wxLEFT | wxRIGHT, scale(10)));
 
     auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW, wxEmptyString,
                                   wxDefaultPosition, previewSize);
@@ -95,7 +89,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
         m_fileName, columnimport::tellingLength, m_details->byteOrderMark)));
     text->SetSize(previewSize);
     columnimport::setAccessibleName(*text, translated("File preview"));
-    preview->Add(text, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    preview->Add(text, wxSizerFlags().Align(wxALIGN_CENTER));
 
     loadHeader();
 }
@@ -121,6 +115,6 @@ void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
     columnimport::RefreshStep::begin(*this, std::move(m_fileSchema));
     m_delimiter = typed.front();
     loadHeader();
-    wxCommandEvent refresh(wxEVT_NULL, 0);
+    wxCommandEvent refresh;
     onCheckHeader(refresh);
 }

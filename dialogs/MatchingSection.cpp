@@ -61,7 +61,6 @@ wxCheckBox *firstLineBoxOf(wxWindow &dialog) {
 void showFileColumns(ListBoxSource &list, std::vector<std::string> names,
                      columnimport::NameBook &book) {
     wxArrayString items;
-    items.reserve(names.size());
     for (std::string &name : names) {
         items.push_back(book.addColumn(std::move(name)));
     }
@@ -106,15 +105,15 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     } else { // a table has no options that it would stand beside
         columnimport::addQuietSentence(*this, *rematchRow, scale(10));
     }
-    rematchRow->Add(rematch, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(25)));
-    sizer->Add(rematchRow, wxSizerFlags(0).Expand());
-    matching->Add(files, wxSizerFlags(0).Align(wxALIGN_CENTER));
-    matching->Add(arrow, wxSizerFlags(0).Align(wxALIGN_CENTER));
-    matching->Add(matches, wxSizerFlags(0).Align(wxALIGN_CENTER));
+    rematchRow->Add(rematch, wxSizerFlags().Border(wxLEFT | wxRIGHT, scale(25)));
+    sizer->Add(rematchRow, wxSizerFlags().Expand());
+    matching->Add(files, wxSizerFlags().Align(wxALIGN_CENTER));
+    matching->Add(arrow, wxSizerFlags().Align(wxALIGN_CENTER));
+    matching->Add(matches, wxSizerFlags().Align(wxALIGN_CENTER));
     matching->AddSpacer(scale(20));
-    sizer->Add(matching, wxSizerFlags(0).Border(wxLEFT | wxRIGHT, scale(10)));
+    sizer->Add(matching, wxSizerFlags().Border(wxLEFT | wxRIGHT, scale(10)));
     sizer->AddSpacer(scale(20));
-    sizer->Add(buttons, wxSizerFlags(0).Align(wxALIGN_RIGHT));
+    sizer->Add(buttons, wxSizerFlags().Align(wxALIGN_RIGHT));
 
     matches->InsertColumn(COLUMN_MATCH, translated("Matching"), wxLIST_FORMAT_LEFT, scale(245));
     matches->InsertColumn(COLUMN_APP, translated("Application"), wxLIST_FORMAT_LEFT, scale(245));
@@ -153,10 +152,10 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     });
 
     columnimport::fitToScreen(*this, *sizer);
-    SetSizerAndFit(sizer, true);
+    SetSizerAndFit(sizer);
     // In a smaller frame the controls keep their sizes too, and are cut off by it.
     SetVirtualSize(sizer->GetMinSize());
-    wxCommandEvent refresh(wxEVT_NULL, 0);
+    wxCommandEvent refresh;
     onCheckHeader(refresh);
 }
 

@@ -12,6 +12,7 @@
 #include <wx/listctrl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+#include <wx/tokenzr.h>
 
 namespace columnimport {
 
@@ -32,13 +33,9 @@ int lowerLists(wxWindow &files, wxWindow &matches, int missing) {
 void lowerPreview(wxStaticText &preview, int missing) {
     const int lineHeight = preview.GetCharHeight();
     const int lines = std::max((preview.GetMinSize().y - missing) / lineHeight, 1);
-    const wxArrayString all = wxSplit(preview.GetLabelText(), '\n', '\0');
-    wxString shown;
-    for (std::size_t line = 0; line < all.size() && line < static_cast<std::size_t>(lines);
-         ++line) {
-        shown += all[line] + '\n';
-    }
-    preview.SetLabelText(shown);
+    wxArrayString shown = wxStringTokenize(preview.GetLabelText(), "\n", wxTOKEN_RET_EMPTY_ALL);
+    shown.resize(std::min(shown.size(), static_cast<std::size_t>(lines)));
+    preview.SetLabelText(wxJoin(shown, '\n'));
     preview.SetMinSize(wxSize(preview.GetMinSize().x, lines * lineHeight));
 }
 
@@ -57,7 +54,7 @@ void narrowMatches(wxListCtrl &matches, int missing) {
 void letRowsBeNarrower(wxSizer &sizer, int missing) {
     for (const wxSizerItem *item : sizer.GetChildren()) {
         if (wxSizer *row = item->GetSizer()) {
-            row->SetMinSize(row->GetMinSize().x - missing, -1);
+            row->SetMinSize(row->GetMinSize().x - missing, wxDefaultCoord);
         }
     }
 }
@@ -68,17 +65,14 @@ void fitToScreen(wxWindow &dialog, wxSizer &sizer) {
     auto &files = *findControl<wxWindow>(dialog, wxImportCSVDialog::LISTBOX_FILE);
     auto &matches = *findControl<wxListCtrl>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
     auto *preview = findControl<wxStaticText>(dialog, wxImportCSVDialog::TEXT_FILE_PREVIEW);
-    const wxSize missing = sizer.GetMinSize() - contentRoom(dialog);
-    if (missing.x > 0) {
-        narrowMatches(matches, missing.x);
-        if (preview != nullptr) {
-            preview->SetMinSize(preview->GetMinSize() - wxSize(missing.x, 0));
-        }
-        letRowsBeNarrower(sizer, missing.x);
-    }
-    if (missing.y > 0) {
-        const int rest = lowerLists(files, matches, missing.y);
-        if (preview != nullptr && rest > 0) {
+    wxSize missing = sizer.GetMinSize() - contentRoom(dialog);
+    missing.IncTo(wxSize());
+    narrowMatches(matches, missing.x);
+    letRowsBeNarrower(sizer, missing.x);
+    const int rest = lowerLists(files, matches, missing.y);
+    if (preview != nullptr) {
+        preview->SetMinSize(preview->GetMinSize() - wxSize(missing.x, 0));
+        if (rest != 0) {
             lowerPreview(*preview, rest);
         }
     }

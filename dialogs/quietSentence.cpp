@@ -5,7 +5,7 @@
 #include "dialogs/nativeControls.h"
 #include "dragdrop/controls.h"
 
-#include <array>
+#include <map>
 
 #include <wx/sizer.h>
 #include <wx/stattext.h>
@@ -27,13 +27,13 @@ public:
     }
 
     void say(Matter matter, const wxString &sentence) {
-        wxString &said = m_sentences.at(static_cast<std::size_t>(matter));
+        wxString &said = m_sentences[matter];
         if (said == sentence) {
             return;
         }
         said = sentence;
         wxString text;
-        for (const wxString &each : m_sentences) {
+        for (const auto &[about, each] : m_sentences) {
             text += (text.empty() || each.empty() ? "" : "\n") + each;
         }
         Hide();
@@ -41,12 +41,10 @@ public:
         Show(!text.empty());
     }
 
-    const wxString &said(Matter matter) const {
-        return m_sentences.at(static_cast<std::size_t>(matter));
-    }
+    const wxString &said(Matter matter) { return m_sentences[matter]; }
 
 private:
-    std::array<wxString, 2> m_sentences; // by their matters
+    std::map<Matter, wxString> m_sentences;
 };
 
 } // namespace

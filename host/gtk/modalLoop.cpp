@@ -77,9 +77,7 @@ int showModal(wxDialog &dialog) {
     const wxSize size = dialog.GetSize();
     dialog.Bind(wxEVT_SHOW, [&dialog, position, size](wxShowEvent &event) {
         if (event.IsShown()) {
-            if (const wxSize shadow = frameShadow(dialog); shadow != wxSize(0, 0)) {
-                dialog.SetSize(size + shadow);
-            }
+            dialog.SetSize(size + frameShadow(dialog));
             gtk_window_move(GTK_WINDOW(dialog.GetHandle()), position.x, position.y);
         }
         event.Skip();
