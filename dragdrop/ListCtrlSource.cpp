@@ -48,7 +48,7 @@ SourceMatch ListCtrlSource::getMatch(int row) const {
 
 void ListCtrlSource::appendRow(const wxString &matchText, const wxString &application) {
     const long row = InsertItem(GetItemCount(), matchText);
-    SetItem(row, matchColumn + 1, application, -1);
+    SetItem(row, matchColumn + 1, application);
 }
 
 std::vector<wxString> ListCtrlSource::matchTexts() const {
@@ -74,7 +74,7 @@ void ListCtrlSource::setMatchTexts(const std::vector<long> &rows, const wxString
 void ListCtrlSource::exchange(const std::vector<long> &rows, std::vector<wxString> &texts) {
     for (std::size_t index = 0; index < rows.size(); ++index) {
         const wxString before = GetItemText(rows[index], matchColumn);
-        SetItem(rows[index], matchColumn, texts[index], -1);
+        SetItem(rows[index], matchColumn, texts[index]);
         applyMatchFont(rows[index]);
         texts[index] = before;
     }
@@ -84,16 +84,16 @@ void ListCtrlSource::exchange(const std::vector<long> &rows, std::vector<wxStrin
 
 void ListCtrlSource::assign(const wxString &text) {
     std::vector<long> rows = m_keys.chosenRows();
-    if (rows.empty() && nextUnusedRow(-1) != -1) {
-        rows.push_back(nextUnusedRow(-1));
-    }
     if (rows.empty()) {
+        rows.push_back(nextUnusedRow(wxNOT_FOUND));
+    }
+    if (rows.front() == wxNOT_FOUND) {
         return;
     }
     setMatchTexts(rows, text);
     clearMarkedRows();
     const long next = nextUnusedRow(rows.back());
-    m_keys.goTo(next != -1 ? next : rows.back());
+    m_keys.goTo(next != wxNOT_FOUND ? next : rows.back());
 }
 
 long ListCtrlSource::nextUnusedRow(long row) const {
@@ -103,7 +103,7 @@ long ListCtrlSource::nextUnusedRow(long row) const {
             return next;
         }
     }
-    return -1;
+    return wxNOT_FOUND;
 }
 
 void ListCtrlSource::showUse() {
@@ -159,8 +159,8 @@ void ListCtrlSource::layOutRows() {
 }
 
 void ListCtrlSource::clearHoverRows() {
-    for (long row = GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED); row != -1;
-         row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
+    for (long row = GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED);
+         row != wxNOT_FOUND; row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
         SetItemState(row, 0, wxLIST_STATE_SELECTED);
     }
 }
@@ -172,7 +172,7 @@ void ListCtrlSource::markRows(long one, long other) {
 }
 
 void ListCtrlSource::clearMarkedRows() {
-    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
+    for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
         m_marks.set(row, false);
     }
 }
@@ -183,7 +183,7 @@ int ListCtrlSource::countMarkedRows() const {
 
 std::vector<long> ListCtrlSource::markedRows() const {
     std::vector<long> rows;
-    for (long row = nextMarkedRow(-1); row != -1; row = nextMarkedRow(row)) {
+    for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
         rows.push_back(row);
     }
     return rows;

@@ -33,7 +33,7 @@ void MatchListKeys::goTo(long row) {
 }
 
 long MatchListKeys::currentRow() const {
-    return m_list.GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED);
+    return m_list.GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED);
 }
 
 void MatchListKeys::setCurrentRow(long row) {
@@ -108,35 +108,23 @@ void MatchListKeys::pressOk() {
     wxGetTopLevelParent(&m_list)->GetEventHandler()->AddPendingEvent(ok);
 }
 
-bool MatchListKeys::move(const wxKeyEvent &key) {
+std::optional<long> MatchListKeys::targetOf(int key) const {
     const long row = currentRow();
-    switch (key.GetKeyCode()) {
+    switch (key) {
     case WXK_UP:
-        moveCurrentRow(row - 1, key);
-        return true;
+        return row - 1;
     case WXK_DOWN:
-        moveCurrentRow(row + 1, key);
-        return true;
+        return row + 1;
     case WXK_PAGEUP:
-        moveCurrentRow(row - m_list.GetCountPerPage(), key);
-        return true;
+        return row - m_list.GetCountPerPage();
     case WXK_PAGEDOWN:
-        moveCurrentRow(row + m_list.GetCountPerPage(), key);
-        return true;
+        return row + m_list.GetCountPerPage();
     case WXK_HOME:
-        moveCurrentRow(0, key);
-        return true;
+        return 0;
     case WXK_END:
-        moveCurrentRow(m_list.GetItemCount() - 1, key);
-        return true;
-    case WXK_SPACE:
-        if (key.AltDown()) {
-            return false;
-        }
-        markCurrentRow(!key.ControlDown());
-        return true;
+        return m_list.GetItemCount();
     default:
-        return false;
+        return std::nullopt;
     }
 }
 
@@ -167,10 +155,15 @@ std::function<void()> MatchListKeys::workOf(const wxKeyEvent &key) {
 
 void MatchListKeys::onKeyDown(wxKeyEvent &event) {
     const std::function<void()> work = event.AltDown() ? nullptr : workOf(event);
+    const std::optional<long> target = targetOf(event.GetKeyCode());
     if (work) {
         m_paste.inTurn(work);
+    } else if (target) {
+        moveCurrentRow(*target, event);
+    } else if (event.GetKeyCode() == WXK_SPACE && !event.AltDown()) {
+        markCurrentRow(!event.ControlDown());
     } else {
-        event.Skip(!move(event));
+        event.Skip();
     }
 }
 

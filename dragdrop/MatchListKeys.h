@@ -5,6 +5,7 @@
 #include "dragdrop/clipboard.h"
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class wxKeyEvent;
@@ -39,10 +40,10 @@ private:
     /// What a key does, as far as it is about the texts of rows; null if it is not used for that.
     std::function<void()> workOf(const wxKeyEvent &key);
 
-    /// Moves the current row or marks, if the key is used for that.
-    bool move(const wxKeyEvent &key);
+    /// The row that a key leads to, which may be none that is there; nothing if it leads nowhere.
+    std::optional<long> targetOf(int key) const;
 
-    /// The row that the keys are at, or -1.
+    /// The row that the keys are at, or wxNOT_FOUND.
     long currentRow() const;
     void setCurrentRow(long row);
     void showCurrentRow();

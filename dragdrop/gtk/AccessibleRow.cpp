@@ -16,7 +16,6 @@ struct Item {
     AtkObject parent;
     AccessibleRows *rows; // null when the row has gone
     long row;
-    char *name; // as it was asked for last
 };
 
 Item &itemOf(void *object) {
@@ -28,12 +27,12 @@ AtkObjectClass *parentClass() {
 }
 
 const char *getName(AtkObject *object) {
-    Item &item = itemOf(object);
+    const Item &item = itemOf(object);
     if (item.rows != nullptr) {
-        g_free(item.name);
-        item.name = g_strdup(item.rows->textOf(item.row).utf8_str());
+        g_free(object->name);
+        object->name = g_strdup(item.rows->textOf(item.row).utf8_str());
     }
-    return item.name;
+    return object->name;
 }
 
 int getIndex(AtkObject *object) {
@@ -69,17 +68,11 @@ AtkStateSet *refStates(AtkObject *object) {
     return states;
 }
 
-void finalize(GObject *object) {
-    g_free(itemOf(object).name);
-    G_OBJECT_CLASS(parentClass())->finalize(object);
-}
-
 void initClass(void *itemClass, void *) {
     AtkObjectClass *accessible = ATK_OBJECT_CLASS(itemClass);
     accessible->get_name = getName;
     accessible->get_index_in_parent = getIndex;
     accessible->ref_state_set = refStates;
-    G_OBJECT_CLASS(itemClass)->finalize = finalize;
 }
 
 void getExtents(AtkComponent *object, int *x, int *y, int *width, int *height, AtkCoordType from) {
@@ -120,7 +113,7 @@ GType itemType() {
     static const GType type = [] {
         const GType item = g_type_register_static_simple(
             ATK_TYPE_OBJECT, "ColumnImportAccessibleRow", sizeof(AtkObjectClass), initClass,
-            sizeof(Item), nullptr, GTypeFlags(0));
+            sizeof(Item), nullptr, GTypeFlags());
         const GInterfaceInfo component = {initComponent, nullptr, nullptr};
         g_type_add_interface_static(item, ATK_TYPE_COMPONENT, &component);
         return item;

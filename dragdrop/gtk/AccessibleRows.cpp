@@ -65,19 +65,20 @@ void initListClass(void *listClass, void *) {
 int countMarked(AtkSelection *accessible) {
     int count = 0;
     if (const AccessibleRows *rows = rowsOf(accessible)) {
-        for (long row = rows->marks().next(-1); row != -1; row = rows->marks().next(row)) {
+        for (long row = rows->marks().next(wxNOT_FOUND); row != wxNOT_FOUND;
+             row = rows->marks().next(row)) {
             ++count;
         }
     }
     return count;
 }
 
-/// The row of the item that is selected as number `index`, or -1.
+/// The row of the item that is selected as number `index`, or none.
 long markedRow(AtkSelection *accessible, int index) {
     if (index < 0 || index >= countMarked(accessible)) {
-        return -1;
+        return wxNOT_FOUND;
     }
-    long row = -1;
+    long row = wxNOT_FOUND;
     for (; index >= 0; --index) {
         row = rowsOf(accessible)->marks().next(row);
     }
@@ -137,7 +138,7 @@ GType listType() {
         const GType list =
             g_type_register_static_simple(GTK_TYPE_WIDGET_ACCESSIBLE, "ColumnImportAccessibleRows",
                                           sizeof(GtkWidgetAccessibleClass), initListClass,
-                                          sizeof(RowList), nullptr, GTypeFlags(0));
+                                          sizeof(RowList), nullptr, GTypeFlags());
         const GInterfaceInfo selection = {initSelection, nullptr, nullptr};
         g_type_add_interface_static(list, ATK_TYPE_SELECTION, &selection);
         return list;
@@ -155,9 +156,9 @@ void initWidget(GTypeInstance *widget, void *) {
 }
 
 GType widgetType() {
-    static const GType type = g_type_register_static_simple(
-        GTK_TYPE_WIDGET, "ColumnImportRows", sizeof(GtkWidgetClass), initWidgetClass,
-        sizeof(GtkWidget), initWidget, GTypeFlags(0));
+    static const GType type =
+        g_type_register_static_simple(GTK_TYPE_WIDGET, "ColumnImportRows", sizeof(GtkWidgetClass),
+                                      initWidgetClass, sizeof(GtkWidget), initWidget, GTypeFlags());
     return type;
 }
 
@@ -191,12 +192,7 @@ AccessibleRows::AccessibleRows(wxListCtrl &list, RowMarks &marks, const wxString
     m_list.Bind(wxEVT_KILL_FOCUS, &AccessibleRows::onFocus, this);
 }
 
-// The control deletes its rows, and may lose the focus, as it goes itself.
 AccessibleRows::~AccessibleRows() {
-    m_list.Unbind(wxEVT_LIST_ITEM_FOCUSED, &AccessibleRows::onCurrentRow, this);
-    m_list.Unbind(wxEVT_LIST_DELETE_ALL_ITEMS, &AccessibleRows::onNoRows, this);
-    m_list.Unbind(wxEVT_SET_FOCUS, &AccessibleRows::onFocus, this);
-    m_list.Unbind(wxEVT_KILL_FOCUS, &AccessibleRows::onFocus, this);
     m_marks.onChange(nullptr);
     forgetItems();
     reinterpret_cast<RowList *>(m_accessible)->rows = nullptr;
@@ -216,7 +212,8 @@ void AccessibleRows::onNoRows(wxListEvent &event) {
 void AccessibleRows::onFocus(wxFocusEvent &event) {
     const bool isGained = event.GetEventType() == wxEVT_SET_FOCUS;
     atk_object_notify_state_change(m_accessible, ATK_STATE_FOCUSED, isGained ? TRUE : FALSE);
-    noteCurrentRow(isGained ? m_list.GetNextItem(-1, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED) : -1);
+    noteCurrentRow(isGained ? m_list.GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED)
+                            : wxNOT_FOUND);
     event.Skip();
 }
 
@@ -270,7 +267,7 @@ void AccessibleRows::noteCurrentRow(long row) {
 }
 
 void AccessibleRows::forgetItems() {
-    m_toldRow = -1;
+    m_toldRow = wxNOT_FOUND;
     for (const auto &[row, item] : m_items) {
         retireAccessibleRow(item);
         g_object_unref(item);

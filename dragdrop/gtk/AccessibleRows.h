@@ -5,12 +5,12 @@
 #include <unordered_map>
 #include <vector>
 
+#include <wx/event.h>
+
 using AtkObject = struct _AtkObject; // NOLINT(bugprone-reserved-identifier): ATK's name for it
 
-class wxFocusEvent;
 class wxListCtrl;
 class wxListEvent;
-class wxString;
 
 namespace columnimport {
 
@@ -27,12 +27,15 @@ class RowMarks;
 ///
 /// An item is made when a reader first asks for it, and all go with the rows: a list of very many
 /// rows costs nothing where nobody listens.
-class AccessibleRows {
+///
+/// The control deletes its rows, and may lose the focus, as it goes itself: an event handler that
+/// has gone hears nothing of that.
+class AccessibleRows : public wxEvtHandler {
 public:
     /// To be made after the control and its marks, and to go before them. `name` tells the list
     /// from other lists.
     AccessibleRows(wxListCtrl &list, RowMarks &marks, const wxString &name);
-    ~AccessibleRows();
+    ~AccessibleRows() override;
     AccessibleRows(const AccessibleRows &) = delete;
     AccessibleRows &operator=(const AccessibleRows &) = delete;
 
@@ -58,7 +61,7 @@ private:
     RowMarks &m_marks;
     AtkObject *m_accessible; // of the widget that speaks for the rows
     std::unordered_map<long, AtkObject *> m_items;
-    long m_toldRow = -1; // the current row, as the reader has been told
+    long m_toldRow = wxNOT_FOUND; // the current row, as the reader has been told
 };
 
 } // namespace columnimport

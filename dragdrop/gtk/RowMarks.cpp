@@ -46,7 +46,7 @@ long RowMarks::next(long row) const {
     const auto found =
         std::find(m_marked.begin() + std::min<long>(row + 1, static_cast<long>(m_marked.size())),
                   m_marked.end(), true);
-    return found == m_marked.end() ? -1 : static_cast<long>(found - m_marked.begin());
+    return found == m_marked.end() ? wxNOT_FOUND : static_cast<long>(found - m_marked.begin());
 }
 
 } // namespace columnimport

@@ -86,7 +86,7 @@ void initClass(void *cellClass, void *) {
 GType cellType() {
     static const GType type = g_type_register_static_simple(
         GTK_TYPE_CELL_RENDERER_TEXT, "ColumnImportNameCell", sizeof(GtkCellRendererTextClass),
-        initClass, sizeof(NameCell), nullptr, GTypeFlags(0));
+        initClass, sizeof(NameCell), nullptr, GTypeFlags());
     return type;
 }
 
