@@ -21,16 +21,21 @@ wxDialog *find() {
     return nullptr;
 }
 
-std::vector<int> rowsWhere(const std::function<bool(int)> &isSo) {
-    return read([&isSo] {
-        std::vector<int> rows;
-        for (int row = 0; row < matchList().GetItemCount(); ++row) {
-            if (isSo(row)) {
-                rows.push_back(row);
+std::vector<int> numbersBelow(const std::function<int()> &count,
+                              const std::function<bool(int)> &isSo) {
+    return read([&] {
+        std::vector<int> numbers;
+        for (int number = 0; number < count(); ++number) {
+            if (isSo(number)) {
+                numbers.push_back(number);
             }
         }
-        return rows;
+        return numbers;
     });
+}
+
+std::vector<int> rowsWhere(const std::function<bool(int)> &isSo) {
+    return numbersBelow([] { return matchList().GetItemCount(); }, isSo);
 }
 
 } // namespace
@@ -100,13 +105,12 @@ Names fileTexts() {
 }
 
 std::vector<int> usedEntries() {
+    return numbersBelow([] { return static_cast<int>(fileList().GetCount()); }, isShownAsUsed);
+}
+
+std::string sentence() {
     return read([] {
-        std::vector<int> entries;
-        for (int entry = 0; entry < static_cast<int>(fileList().GetCount()); ++entry) {
-            if (isShownAsUsed(entry)) {
-                entries.push_back(entry);
-            }
-        }
-        return entries;
+        const wxWindow &place = control(11);
+        return place.IsShown() ? place.GetLabel().utf8_string() : std::string();
     });
 }

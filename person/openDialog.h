@@ -38,3 +38,6 @@ std::vector<int> hoverRows();
 /// The texts of the list of file columns, and those of its entries that are shown as in use.
 Names fileTexts();
 std::vector<int> usedEntries();
+
+/// What is said beside the options; empty if nothing is.
+std::string sentence();

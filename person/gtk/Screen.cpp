@@ -2,13 +2,14 @@
 
 #include "person/Screen.h"
 
+#include "person/gtk/inkOf.h"
 #include "person/openDialog.h"
 #include "person/wayland/MutterHand.h"
 #include "person/x11/XTestHand.h"
 
-#include <cstdlib>
 #include <exception>
 #include <future>
+#include <mutex>
 
 #include <gdk/gdkwayland.h>
 #include <gtk/gtk.h>
@@ -69,13 +70,12 @@ void onSignal(const char *signal, GSignalEmissionHook hook) {
 }
 
 void watchDrags() {
-    static const bool done = [] {
+    static std::once_flag isWatched;
+    std::call_once(isWatched, [] {
         onSignal("drag-begin", noteBegin);
         onSignal("drag-motion", noteMotion);
         onSignal("drag-end", noteEnd);
-        return true;
-    }();
-    static_cast<void>(done);
+    });
 }
 
 bool isWayland() {
@@ -181,25 +181,7 @@ bool isShownAsMarked(int row) {
     return colour.IsOk() && colour != matchList().GetBackgroundColour();
 }
 
-// As the row would be dragged: its picture stands also before it has been given its place.
+// The name begins behind the mark, which is half as wide as a line is high.
 bool isShownAsUsed(int entry) {
-    GtkTreePath *path = gtk_tree_path_new_from_indices(entry, -1);
-    cairo_surface_t *row =
-        gtk_tree_view_create_row_drag_icon(GTK_TREE_VIEW(fileList().m_focusWidget), path);
-    gtk_tree_path_free(path);
-    constexpr int border = 2;
-    const int side = fileList().GetCharHeight(); // the name begins behind it
-    GdkPixbuf *picture = gdk_pixbuf_get_from_surface(row, border, border, side, side);
-    cairo_surface_destroy(row);
-    const unsigned char *const pixels = gdk_pixbuf_read_pixels(picture);
-    bool isSeen = false;
-    for (int line = 0; line < side; ++line) {
-        for (int column = 0; column < side; ++column) {
-            const int place = line * gdk_pixbuf_get_rowstride(picture) +
-                              column * gdk_pixbuf_get_n_channels(picture);
-            isSeen = isSeen || std::abs(pixels[place] - pixels[0]) > 60;
-        }
-    }
-    g_object_unref(picture);
-    return isSeen;
+    return !inkOf(entry, fileList().GetCharHeight() * 3 / 4).IsEmpty();
 }

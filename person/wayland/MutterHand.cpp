@@ -22,17 +22,23 @@ namespace {
 
 constexpr const char *door = "org.gnome.Mutter.RemoteDesktop";
 
+/// `result`, which is null if there was an error.
+template <typename Result>
+Result *resultOf(Result *result, GError *error) {
+    if (result == nullptr) {
+        const std::string reason = error->message;
+        g_error_free(error);
+        throw GivenUp(reason);
+    }
+    return result;
+}
+
 /// Calls `method` and gives its answer back; the caller frees it.
 GVariant *ask(GDBusProxy *proxy, const char *method, GVariant *arguments = nullptr) {
     GError *error = nullptr;
     GVariant *answer = g_dbus_proxy_call_sync(proxy, method, arguments, G_DBUS_CALL_FLAGS_NONE, -1,
                                               nullptr, &error);
-    if (answer == nullptr) {
-        const std::string reason = error->message;
-        g_error_free(error);
-        throw GivenUp(reason);
-    }
-    return answer;
+    return resultOf(answer, error);
 }
 
 void tell(GDBusProxy *proxy, const char *method, GVariant *arguments = nullptr) {
@@ -44,12 +50,7 @@ GDBusProxy *proxyOf(const char *path, const char *interface) {
     GDBusProxy *proxy =
         g_dbus_proxy_new_for_bus_sync(G_BUS_TYPE_SESSION, G_DBUS_PROXY_FLAGS_NONE, nullptr, door,
                                       path, interface, nullptr, &error);
-    if (proxy == nullptr) {
-        const std::string reason = error->message;
-        g_error_free(error);
-        throw GivenUp(reason);
-    }
-    return proxy;
+    return resultOf(proxy, error);
 }
 
 /// Where the pointer is in the client area of the dialog, if the dialog has heard of it.

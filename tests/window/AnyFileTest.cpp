@@ -35,7 +35,6 @@ TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
         Names matches;
     } cases[] = {
         {"", {"", ""}},
-        {",,,,\n", {"", ""}},
         {"\0\0\0\n"s, {"", ""}},
         {"\x1b[31mhole\x07 name\n", {"\x1b[31mhole\x07 name", ""}},
         {"BHID\xE9,Depth\xFF\xFE\n", {"", "Depth\xFF\xFE"}},

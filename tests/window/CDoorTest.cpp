@@ -36,13 +36,6 @@ protected:
                                                                               columnimport_free};
 };
 
-std::string said() {
-    return read([] {
-        const wxWindow &sentence = control(11);
-        return sentence.IsShown() ? sentence.GetLabel().utf8_string() : std::string();
-    });
-}
-
 } // namespace
 
 TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
@@ -56,9 +49,9 @@ TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
                   person.drag(Person::fileRow(3), Person::matchRow(0));
                   std::filesystem::remove(std::filesystem::u8path(file.path()));
                   person.typeDelimiter(';');
-                  poll("the file is gone", [] { return !said().empty(); });
+                  poll("the file is gone", [] { return !sentence().empty(); });
                   person.strikeWith(WXK_CONTROL, 'z');
-                  poll("all is as before", [] { return said().empty(); });
+                  poll("all is as before", [] { return sentence().empty(); });
                   pressCancel(person);
               }),
               columnimport_cancelled);
@@ -72,13 +65,13 @@ TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
 TEST_F(CDoor, AsksOnceForColumnsThatTheHostRequires) {
     columnimport_set_required(import.get(), 1, 1);
     EXPECT_EQ(show([](Person &person) {
-                  EXPECT_EQ(said(), "");
+                  EXPECT_EQ(sentence(), "");
                   pressOk(person);
-                  poll("it is asked for", [] { return said().find("gold is needed") == 0; });
+                  poll("it is asked for", [] { return sentence().find("gold is needed") == 0; });
                   person.drag(Person::fileRow(0), Person::matchRow(1));
-                  poll("it is told", [] { return said().find("HOLE stands at both") == 0; });
+                  poll("it is told", [] { return sentence().find("HOLE stands at both") == 0; });
                   person.drag(Person::fileRow(1), Person::matchRow(1));
-                  poll("all is well", [] { return said().empty(); });
+                  poll("all is well", [] { return sentence().empty(); });
                   person.drag(Person::fileRow(0), Person::matchRow(1));
                   pressOk(person);
               }),

@@ -9,6 +9,7 @@
 #include <tuple>
 
 #include <gtest/gtest.h>
+#include <wx/clipbrd.h>
 #include <wx/menu.h>
 #include <wx/textctrl.h>
 #include <wxImportCSVDialog.h>
@@ -53,15 +54,6 @@ void rightClick(Person &person) {
     person.release(3);
 }
 
-/// What is said beside the options; empty if nothing is.
-std::string sentence() {
-    return read([] {
-        const wxWindow &place = control(11);
-        EXPECT_NE(place.IsShown(), place.GetLabel().empty());
-        return place.GetLabel().utf8_string();
-    });
-}
-
 void expectToGive(char delimiter, const Steps &steps) {
     const ScratchFile file("a;b\tc d|e,f\n");
     DialogRun run;
@@ -84,9 +76,7 @@ TEST(Delimiter, IsReplacedByWhatIsTypedAfterAClickOrTab) {
     });
     expectToGive('|', [](Person &person) {
         person.click(D::CHECK_HEADER);
-        person.keyDown(WXK_SHIFT);
-        person.strike(WXK_TAB);
-        person.keyUp(WXK_SHIFT);
+        person.strikeWith(WXK_SHIFT, WXK_TAB);
         waitForSelection();
         person.strike('|');
     });
@@ -94,6 +84,13 @@ TEST(Delimiter, IsReplacedByWhatIsTypedAfterAClickOrTab) {
 
 TEST(Delimiter, IsChosenByNameInTheMenuOfItsField) {
     expectToGive(';', choose(2, rightClick));
+    expectToGive('|', [](Person &person) {
+        onUserInterface([] {
+            const wxClipboardLocker clipboard;
+            wxTheClipboard->SetData(new wxTextDataObject("|"));
+        });
+        choose(6, rightClick)(person);
+    });
     for (const auto &[delimiter, place, key] :
          {std::tuple('\t', 3, WXK_DOWN), std::tuple(' ', 4, WXK_WINDOWS_MENU)}) {
         expectToGive(delimiter, choose(place, [key = key](Person &person) {

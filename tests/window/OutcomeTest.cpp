@@ -36,7 +36,6 @@ TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
         Steps leave;
         bool result;
     } ways[] = {{pressOk, true},
-                {strike(WXK_RETURN), true},
                 {pressCancel, false},
                 {[](Person &) { onUserInterface(pressCloseBox); }, false},
                 {strike(WXK_ESCAPE), false}};
@@ -90,14 +89,6 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
         run.show(expectFrame);
         run.showTable({"BHID"}, expectFrame);
     }
-}
-
-TEST_F(Outcome, PeersShareWhatTheFirstOneSetUp) {
-    { const wxImportCSVDialogPeer destroyed; }
-    wxImportCSVDialogPeer one;
-    const wxImportCSVDialogPeer other;
-    EXPECT_EQ(&(one = other), &one);
-    EXPECT_TRUE(run.show(pressOk));
 }
 
 TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpenAndItsPeerReplacesNothing) {

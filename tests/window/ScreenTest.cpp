@@ -30,6 +30,10 @@ Steps seeAndPressOk(const std::vector<int> &controls) {
             const int rows = matchList().GetCountPerPage();
             EXPECT_GE(rows, 5);
             const wxWindow *preview = openDialog().FindWindow(D::TEXT_FILE_PREVIEW);
+            if (preview != nullptr) {
+                const int lines = preview->GetLabel().Freq('\n');
+                EXPECT_LE(lines * preview->GetCharHeight(), preview->GetSize().y);
+            }
             if (preview != nullptr && rows > 6) { // the lists are lowered first
                 const wxSize size = preview->GetMinSize();
                 EXPECT_NEAR(size.y, size.x * 125.0 / 850, 1);
@@ -42,7 +46,7 @@ Steps seeAndPressOk(const std::vector<int> &controls) {
 } // namespace
 
 TEST(Screen, HasAllInViewThatAnswers) {
-    const ScratchFile file("BHID,Dip\n");
+    const ScratchFile file("BHID,Dip\n\n\n\n\n\n\n\n\n\n\n");
     DialogRun run;
     run.fileName = file.path();
     run.appColumns = {"holename", "dip"};

@@ -162,11 +162,16 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
         waitUntil("the dialog has the keys again", [] { return openDialog().IsActive(); });
         person.click(Person::matchRow(0));
         person.strikeWith(WXK_CONTROL, 'v');
+        person.strike(WXK_DELETE);
+        poll("the key waits for the text and no longer", [] {
+            return matchTexts() == Names{"Not used", "FROM"};
+        });
+        person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_DOWN);
         poll("the dialog goes on", [] { return hoverRows() == std::vector<int>{1}; });
         poll("the wait is over", [&person] {
             person.strike(WXK_DELETE);
-            return matchTexts() == Names{"HOLE", "Not used"};
+            return matchTexts() == Names{"Not used", "Not used"};
         });
         person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_ESCAPE);

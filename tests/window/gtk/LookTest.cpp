@@ -6,6 +6,7 @@
 #include "dragdrop/gtk/markColours.h"
 #include "person/DialogRun.h"
 #include "person/Screen.h"
+#include "person/gtk/inkOf.h"
 #include "tests/ScratchFile.h"
 
 #include <string>
@@ -96,6 +97,10 @@ TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
         poll("row 1 is marked no more", [] { return markedRows() == std::vector<int>{0}; });
         EXPECT_EQ(read([] { return matchList().GetItemTextColour(1); }),
                   read([] { return matchList().GetForegroundColour(); }));
+        person.strike(WXK_DOWN);
+        poll("row 1 is in hover", [] { return hoverRows() == std::vector<int>{1}; });
+        person.strikeWith(WXK_ALT, WXK_SPACE); // the control's key for selecting
+        poll("it still is", [] { return hoverRows() == std::vector<int>{1}; });
         person.strike(WXK_ESCAPE);
     });
 }
@@ -111,6 +116,16 @@ TEST_F(Look, WhatCannotBeSeenIsTold) {
         wxListBox &files = fileList();
         person.hoverAt(Person::fileRow(1), "the whole name is told", tipIs(files, cut));
         person.hoverAt(Person::fileRow(0), "nothing is told", tipIs(files, ""));
+        onUserInterface([] {
+            EXPECT_FALSE(isShownAsUsed(1));
+            const int room = fileList().GetCharHeight();
+            const int end = room + fileList().GetTextExtent("HOLE").x;
+            const wxRect mark = inkOf(0, room);
+            EXPECT_NEAR(mark.width, room / 2.0, 2);
+            // In the middle of the room before the name.
+            const int shift = mark.x + mark.width / 2 - room / 2;
+            EXPECT_NEAR(shift, inkOf(0, 2 * end).GetRight() - end, 1);
+        });
         person.drag(Person::fileRow(1), Person::matchRow(2));
         wxListCtrl &matches = matchList();
         person.hoverAt(Person::matchRow(2), "the whole name is told", tipIs(matches, cut));

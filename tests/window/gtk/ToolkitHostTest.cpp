@@ -84,14 +84,14 @@ TEST(ToolkitHost, KeepsItsApplicationItsLoopAndItsWindows) {
 TEST(ToolkitHost, RunsTheDialogForAFileItself) {
     const ScratchFile file("BHID;Dip\n");
     inHost([&file](wxFrame &frame) {
-        wxImportCSVDialog dialog(&frame, "Import", {"holename", "dip"}, file.path(), false, {}, ',',
-                                 true);
+        wxImportCSVDialog dialog(&frame, "Import", {"holename", "dip", "remark"}, file.path(),
+                                 false, {}, ',', true);
         EXPECT_TRUE(runItself(dialog, [](Person &person) {
             person.typeDelimiter(';');
             pressOk(person);
         }));
         for (int times = 0; times < 2; ++times) {
-            EXPECT_EQ(dialog.getColumnNames(), (Names{"BHID", "Dip"}));
+            EXPECT_EQ(dialog.getColumnNames(), (Names{"BHID", "Dip", ""}));
         }
         EXPECT_EQ(dialog.getDelimiter(), ';');
         EXPECT_TRUE(dialog.isFirstLineHeader());

@@ -4,12 +4,13 @@
 // after the other, and those that begin with a blank under a name that tells no encoding. It says
 // when it is ready and when a drag is over, and ends after the last one.
 //
-// It takes drags too, if they may move what is dragged, but finishes none of them, and hangs when
-// it is asked for what it has on the clipboard.
+// It takes drags too, if they may move what is dragged, but finishes none of them. Asked for what
+// it has on the clipboard, it is slow the first time and hangs the second.
 
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
+#include <utility>
 
 #include <gtk/gtk.h>
 #include <poll.h>
@@ -44,17 +45,20 @@ void goOn(GtkWidget *area, GdkDragContext *, char ***offered) {
     }
 }
 
-void hang(GtkClipboard *, GtkSelectionData *, guint, void *) {
+void handSlowly(GtkClipboard *, GtkSelectionData *data, guint, void *) {
+    static int milliseconds = 300;
     pollfd listener{STDOUT_FILENO, 0, 0};
-    poll(&listener, 1, -1);
-    std::_Exit(0);
+    if (poll(&listener, 1, std::exchange(milliseconds, -1)) != 0) {
+        std::_Exit(0);
+    }
+    gtk_selection_data_set_text(data, "slow", -1);
 }
 
 gboolean takeClipboard(GtkWidget *, GdkEvent *, GtkWindow *window) {
     const GtkTargetEntry text{const_cast<char *>("UTF8_STRING"), 0, 0};
     gtk_clipboard_set_with_data(
-        gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &text, 1, hang, [](GtkClipboard *, void *) {},
-        nullptr);
+        gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), &text, 1, handSlowly,
+        [](GtkClipboard *, void *) {}, nullptr);
     gtk_window_iconify(window);
     say("taken");
     return FALSE;
