@@ -116,8 +116,6 @@ try:
     rows("1 to 100 of 100", "H-1199")
     click("table column header", "easting")
     rows("1 to 100 of 100", "H-1100")
-    click("text", "Search")
-    hand("key", "ctrl+a", "BackSpace")
 
     # What is there is deleted after a question with the numbers, and only then.
     click("check box", "Replace the rows")
@@ -132,8 +130,7 @@ try:
 
     # Refused rows come out, are corrected and go in again.
     click("radio button", "Assays")
-    text = "BHID,FROM,TO,Au g/t\nLR-1,0,1,0.5\nLR-1,1,2,x\n"
-    import_file("assays.csv", text)
+    import_file("assays.csv", "BHID,FROM,TO,Au g/t\nLR-1,0,1,0.5\nLR-1,1,2,x\n")
     click("toggle button", "Menu")
     click("menu item", "Export Refused Rows")
     fill("Export Refused Rows", path("refused.csv"), "Save")

@@ -5,26 +5,18 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <fstream>
 
 #include <sys/mman.h>
 
 #include "delimited/readHeader.h"
 #include "delimited/splitLine.h"
+#include "tests/fuzz/require.h"
 
 using namespace columnimport;
 using Fields = std::vector<std::string>;
 
 namespace {
-
-void require(bool holds, const char *law) {
-    if (!holds) {
-        std::fprintf(stderr, "broken: %s\n", law);
-        std::abort();
-    }
-}
 
 std::string trimmed(const std::string &text) {
     return trimLeft(trimRight(text, blankChars), blankChars);

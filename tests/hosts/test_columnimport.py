@@ -2,8 +2,8 @@
 """What a host in Python gets, on a machine without a display."""
 
 import tempfile
-import threading
 import unittest
+from concurrent.futures import ThreadPoolExecutor
 
 import columnimport
 from columnimport import Column, Match
@@ -51,17 +51,13 @@ class Propose(unittest.TestCase):
 
     def test_threads_do_not_meet(self):
         names = [f"name{number}" for number in range(300)]
-        results = {}
 
         def work(number):
-            results[number] = columnimport.propose(names, names[number:]).matches[number]
+            return columnimport.propose(names, names[number:]).matches[number]
 
-        threads = [threading.Thread(target=work, args=(number,)) for number in range(20)]
-        for thread in threads:
-            thread.start()
-        for thread in threads:
-            thread.join()
-        self.assertEqual(results, {n: Match(f"name{n}", 0) for n in range(20)})
+        with ThreadPoolExecutor(20) as threads:
+            matches = list(threads.map(work, range(20)))
+        self.assertEqual(matches, [Match(f"name{number}", 0) for number in range(20)])
 
     def test_a_frame_gets_the_names_of_the_host(self):
         frame = rename_columns(pandas.DataFrame({"BHID": [1], "Remark": [2]}), ["holename"])

@@ -23,10 +23,8 @@ endif()
 string(REGEX REPLACE " [A-Za-z] [0-9a-f]+ *[0-9a-f]*\n" "\n" symbols "${symbols}")
 string(REPLACE "std::__cxx11::basic_string<char, std::char_traits<char>, std::allocator<char> >"
                "std::string" symbols "${symbols}")
-string(REPLACE "std::vector<std::string, std::allocator<std::string > >"
-               "std::vector<std::string>" symbols "${symbols}")
-string(REPLACE "std::vector<std::string, std::allocator<std::string> >"
-               "std::vector<std::string>" symbols "${symbols}")
+string(REGEX REPLACE "std::vector<std::string, std::allocator<std::string ?> >"
+                     "std::vector<std::string>" symbols "${symbols}")
 string(REGEX REPLACE "\n$" "" symbols "${symbols}")
 string(REPLACE "\n" ";" symbols "${symbols}")
 list(SORT symbols)

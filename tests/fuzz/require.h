@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <cstdio>
+#include <cstdlib>
+
+/// Aborts with the law that does not hold.
+inline void require(bool holds, const char *law) {
+    if (!holds) {
+        std::fprintf(stderr, "broken: %s\n", law);
+        std::abort();
+    }
+}
