@@ -34,7 +34,6 @@ TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
         std::string content;
         Names matches;
     } cases[] = {
-        {"", {"", ""}},
         {"\0\0\0\n"s, {"", ""}},
         {"\x1b[31mhole\x07 name\n", {"\x1b[31mhole\x07 name", ""}},
         {"BHID\xE9,Depth\xFF\xFE\n", {"", "Depth\xFF\xFE"}},
