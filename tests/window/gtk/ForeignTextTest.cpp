@@ -3,6 +3,7 @@
 // Text that comes from another program.
 
 #include "person/DialogRun.h"
+#include "person/Screen.h"
 #include "tests/ScratchFile.h"
 
 #include <cstdio>
@@ -161,17 +162,18 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
         program.waitFor("taken\n");
         waitUntil("the dialog has the keys again", [] { return openDialog().IsActive(); });
         person.click(Person::matchRow(0));
-        person.strikeWith(WXK_CONTROL, 'v');
-        person.strike(WXK_DELETE);
-        poll("the key waits for the text and no longer", [] {
-            return matchTexts() == Names{"Not used", "FROM"};
-        });
+        if (placesWindows()) { // an X server
+            person.strikeWith(WXK_CONTROL, 'v');
+            person.strike(WXK_DELETE);
+            poll("the key waits for the text and no longer",
+                 [] { return matchTexts().front() == "Not used"; });
+        }
         person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_DOWN);
         poll("the dialog goes on", [] { return hoverRows() == std::vector<int>{1}; });
         poll("the wait is over", [&person] {
             person.strike(WXK_DELETE);
-            return matchTexts() == Names{"Not used", "Not used"};
+            return matchTexts().back() == "Not used";
         });
         person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_ESCAPE);

@@ -5,13 +5,15 @@
 // when it is ready and when a drag is over, and ends after the last one.
 //
 // It takes drags too, if they may move what is dragged, but finishes none of them. Asked for what
-// it has on the clipboard, it is slow the first time and hangs the second.
+// it has on the clipboard, it is slow the first time and hangs the second; under Wayland, where
+// nobody asks twice for the same, it hangs at once.
 
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <utility>
 
+#include <gdk/gdkwayland.h>
 #include <gtk/gtk.h>
 #include <poll.h>
 #include <unistd.h>
@@ -46,7 +48,7 @@ void goOn(GtkWidget *area, GdkDragContext *, char ***offered) {
 }
 
 void handSlowly(GtkClipboard *, GtkSelectionData *data, guint, void *) {
-    static int milliseconds = 300;
+    static int milliseconds = GDK_IS_WAYLAND_DISPLAY(gdk_display_get_default()) ? -1 : 300;
     pollfd listener{STDOUT_FILENO, 0, 0};
     if (poll(&listener, 1, std::exchange(milliseconds, -1)) != 0) {
         std::_Exit(0);
