@@ -43,11 +43,8 @@ wxUniChar standIn(wxUniChar character) {
 
 /// The first bytes of what is too long, without a part of a UTF-8 character at their end.
 std::string_view head(std::string_view bytes) {
-    if (bytes.size() <= shownLength) {
-        return bytes;
-    }
-    std::size_t length = shownLength;
-    while (length > shownLength - 3 &&
+    std::size_t length = std::min(bytes.size(), shownLength);
+    while (length < bytes.size() && length > shownLength - 3 &&
            (static_cast<unsigned char>(bytes[length]) & 0xC0U) == 0x80) {
         --length;
     }

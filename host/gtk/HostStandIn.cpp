@@ -16,9 +16,6 @@ HostStandIn::HostStandIn(HostWindow hostWindow) {
     }
     m_window = std::make_unique<wxWindow>();
     m_window->m_widget = GTK_WIDGET(g_object_ref(owner));
-    GtkWindow *window = GTK_WINDOW(owner);
-    gtk_window_get_position(window, &m_window->m_x, &m_window->m_y);
-    gtk_window_get_size(window, &m_window->m_width, &m_window->m_height);
     wxTopLevelWindows.Append(m_window.get());
 }
 

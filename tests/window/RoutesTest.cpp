@@ -152,7 +152,6 @@ TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
          {{look, onlyDepth}, {tick, numbered}, {reset, proposed}, {undo, numbered}, {tick, onlyDepth},
           {reset, proposed}, {tick, numbered}, {tick, proposed}}},
         {"no titles at the start", depth, true, false, aFile, {{look, numbered}, {tick, proposed}}},
-        {"no saved matches", {}, true, true, aFile, {{look, proposed}}},
         {"saved matches without a name", Names(4), true, true, aFile, {{look, proposed}}},
         {"one saved match alone", {"Depth (m)"}, true, true, aFile, {{look, {{"Depth (m)"}, titles}}}},
         {"more saved matches than rows", tooMany, true, true, aFile, {{look, onlyDepth}}},
