@@ -204,6 +204,7 @@ TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
         clickWith(person, WXK_SHIFT, 5, {5});
         clickWith(person, WXK_SHIFT, 2, {2, 3, 4, 5});
         clickWith(person, WXK_CONTROL, 8, {2, 3, 4, 5, 8});
+        clickWith(person, WXK_CONTROL, 3, {2, 3, 4, 5, 8});
         clickWith(person, WXK_SHIFT, 4, {2, 3, 4, 5, 8});
         person.click(Person::belowMatchRows());
         expectMarked({});
