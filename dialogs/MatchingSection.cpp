@@ -61,6 +61,7 @@ wxCheckBox *firstLineBoxOf(wxWindow &dialog) {
 void showFileColumns(ListBoxSource &list, std::vector<std::string> names,
                      columnimport::NameBook &book) {
     wxArrayString items;
+    items.reserve(names.size());
     for (std::string &name : names) {
         items.push_back(book.addColumn(std::move(name)));
     }

@@ -72,7 +72,8 @@ public:
     /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.
     void applyMatchFont(long row);
 
-    /// The row at `position`, in the coordinates of the list's mouse and drag events, or -1.
+    /// The row at `position`, in the coordinates of the list's mouse and drag events, or
+    /// wxNOT_FOUND.
     long rowAt(const wxPoint &position) const;
 
     /// Puts `row` alone in the hover state, unless a row is marked.
@@ -100,14 +101,15 @@ public:
     int countMarkedRows() const;
     std::vector<long> markedRows() const;
 
-    /// The first marked row behind `row`, or -1; -1 starts at the first row.
+    /// The first marked row behind `row`, or wxNOT_FOUND, which starts at the first row.
     long nextMarkedRow(long row) const;
 
 private:
     /// Writes one text into each of `rows`, and keeps in its place what the row held before.
     void exchange(const std::vector<long> &rows, std::vector<wxString> &texts);
 
-    /// The first row behind `row`, or else from the first one on, that reads "Not used"; or -1.
+    /// The first row behind `row`, or else from the first one on, that reads "Not used"; or
+    /// wxNOT_FOUND.
     long nextUnusedRow(long row) const;
 
     void onLeftDown(wxMouseEvent &event);
@@ -121,7 +123,7 @@ private:
     History m_history;
     RowMarks m_marks;
     AccessibleRows m_accessible;
-    std::int32_t m_lastClickedRow = -1; // the anchor of a Shift range; survives a refresh
+    std::int32_t m_lastClickedRow = wxNOT_FOUND; // the anchor of a Shift range; survives a refresh
     MatchListKeys m_keys;
 };
 

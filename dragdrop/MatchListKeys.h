@@ -58,7 +58,7 @@ private:
 
     ListCtrlSource &m_list;
     Paste m_paste;
-    long m_anchor = -1; // of a range that Shift marks; survives a refresh
+    long m_anchor = wxNOT_FOUND; // of a range that Shift marks; survives a refresh
 };
 
 } // namespace columnimport

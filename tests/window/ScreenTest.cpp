@@ -33,10 +33,10 @@ Steps seeAndPressOk(const std::vector<int> &controls) {
             if (preview != nullptr) {
                 const int lines = preview->GetLabel().Freq('\n');
                 EXPECT_LE(lines * preview->GetCharHeight(), preview->GetSize().y);
-            }
-            if (preview != nullptr && rows > 6) { // the lists are lowered first
-                const wxSize size = preview->GetMinSize();
-                EXPECT_NEAR(size.y, size.x * 125.0 / 850, 1);
+                if (rows > 6) { // the lists are lowered first
+                    const wxSize size = preview->GetMinSize();
+                    EXPECT_NEAR(size.y, size.x * 125.0 / 850, 1);
+                }
             }
         });
         pressOk(person);
