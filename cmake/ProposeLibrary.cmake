@@ -13,7 +13,7 @@ set_target_properties(columnimport_propose PROPERTIES
     LINKER_LANGUAGE CXX
     LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/propose-exports.map)
 target_include_directories(columnimport_propose INTERFACE
-    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host>"
+    "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host/c>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/columnimport>")
 target_link_libraries(columnimport_propose PRIVATE columnimport_door)
 target_link_options(columnimport_propose PRIVATE

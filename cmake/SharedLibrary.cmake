@@ -123,5 +123,5 @@ endif()
 target_include_directories(columnimport
     PRIVATE dragdrop/${platform}
     PUBLIC
-        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host;${PROJECT_SOURCE_DIR}/host/${platform};${PROJECT_SOURCE_DIR}/dialogs;${CMAKE_CURRENT_BINARY_DIR}>"
+        "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host;${PROJECT_SOURCE_DIR}/host/c;${PROJECT_SOURCE_DIR}/host/${platform};${PROJECT_SOURCE_DIR}/dialogs;${CMAKE_CURRENT_BINARY_DIR}>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/columnimport>")

@@ -6,7 +6,7 @@
 #include "dialogs/wxImportODBCDialog.h"
 #include "host/HostStandIn.h"
 #include "host/OpenRun.h"
-#include "host/columnimport.h"
+#include "host/c/columnimport.h"
 #include "host/modalLoop.h"
 #include "host/runDialog.h"
 #include "host/toolkit.h"

@@ -2,7 +2,7 @@
 
 #include "host/wxImportCSVDialogPeer.h"
 
-#include "host/columnimport.h"
+#include "host/c/columnimport.h"
 #include "host/runImport.h"
 #include "host/toolkit.h"
 #include "names/notUsed.h"

@@ -20,7 +20,7 @@ install(FILES
         ${PROJECT_SOURCE_DIR}/dialogs/wxImportCSVDialog.h
         ${PROJECT_SOURCE_DIR}/dialogs/wxImportODBCDialog.h
         ${PROJECT_SOURCE_DIR}/host/${platform}/HostWindow.h
-        ${PROJECT_SOURCE_DIR}/host/columnimport.h
+        ${PROJECT_SOURCE_DIR}/host/c/columnimport.h
         ${PROJECT_SOURCE_DIR}/host/wxImportCSVDialogPeer.h
         ${CMAKE_CURRENT_BINARY_DIR}/columnimport_export.h
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/columnimport

@@ -3,7 +3,7 @@ using System;
 using System.Runtime.InteropServices;
 
 static class Propose {
-    const string Library = "libcolumnimport-propose.so.0.3"; // on Windows "columnimport"
+    const string Library = "libcolumnimport-propose.so.0.4"; // on Windows "columnimport"
     const UnmanagedType Text = UnmanagedType.LPUTF8Str;
 
     [DllImport(Library)] static extern IntPtr columnimport_new();

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "host/ImportRequest.h"
-#include "host/columnimport.h"
+#include "host/c/columnimport.h"
 
 #include <exception>
 #include <new>

@@ -82,7 +82,7 @@ Source = Union[str, "os.PathLike[str]", Sequence[str]]
 
 
 def version() -> str:
-    """The version of the library that is loaded, for example "0.3.0"."""
+    """The version of the library that is loaded, for example "0.4.0"."""
     return _library.proposals().columnimport_version().decode()
 
 

@@ -9,7 +9,7 @@ import sys
 from ctypes import POINTER, c_char, c_char_p, c_int32, c_int64, c_void_p
 from functools import lru_cache
 
-VERSION = "0.3"
+VERSION = "0.4"
 
 # What the functions return.
 OK, CANCELLED, NO_DISPLAY, ALREADY_OPEN, WRONG_USE, FAILED = range(6)

@@ -2,7 +2,7 @@
 
 // Each function of the C header, used wrongly; and what a run without a dialog gives.
 
-#include "host/columnimport.h"
+#include "host/c/columnimport.h"
 #include "tests/ScratchFile.h"
 
 #include <memory>

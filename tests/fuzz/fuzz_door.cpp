@@ -8,7 +8,7 @@
 
 #include <fuzzer/FuzzedDataProvider.h>
 
-#include "host/columnimport.h"
+#include "host/c/columnimport.h"
 #include "matching/matchColumns.h"
 #include "tests/fuzz/require.h"
 

@@ -86,15 +86,15 @@ enum {
 
 /* ---- The library ---- */
 
-/** The library's version, such as "0.3.0". It lives as long as the library. */
+/** The library's version, such as "0.4.0". It lives as long as the library. */
 columnimport_exported const char *columnimport_version(void);
 
 /**
  * The library's version in numbers. A pointer may be null; that number is not written.
  *
- * @param[out] major  0 in "0.3.1"
- * @param[out] minor  3 in "0.3.1"
- * @param[out] patch  1 in "0.3.1"
+ * @param[out] major  0 in "0.4.1"
+ * @param[out] minor  4 in "0.4.1"
+ * @param[out] patch  1 in "0.4.1"
  */
 columnimport_exported void columnimport_version_numbers(int32_t *major, int32_t *minor,
                                                         int32_t *patch);
