@@ -33,7 +33,7 @@ bool isWrong(Import *import, const char *text) {
 
 } // namespace
 
-TEST_F(Door, ToldWronglyGivesAnErrorAndASentence) {
+TEST_F(Door, RefusesBadArgumentsWithAnErrorAndASentence) {
     columnimport_add_column(import, "gold");
     const char *names[] = {"Au", nullptr};
     const std::int64_t lengths[] = {2, -1};
@@ -80,7 +80,7 @@ TEST_F(Door, ToldWronglyGivesAnErrorAndASentence) {
     columnimport_free(nullptr);
 }
 
-TEST_F(Door, ProposesForAFileWhatTheDialogWouldOpenWith) {
+TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     const ScratchFile file("\xEF\xBB\xBF\"HOLE;1\" ; RL;;Au\0g/t;RL\n"s);
     for (const char *name : {"hole", "collar", "gold", "end"}) {
         columnimport_add_column(import, name);

@@ -28,7 +28,7 @@ TEST(NormalizeColumnName, BringsEverySpellingOfANameToOneForm) {
     }
 }
 
-TEST(ColumnNameScore, ClimbsFromTheMeasureOverSynonymsToEquality) {
+TEST(ColumnNameScore, RanksEqualNamesAboveSynonymsAndThoseAboveTheMeasure) {
     const struct {
         std::string a, b;
         double score;
@@ -68,7 +68,7 @@ TEST(MatchColumns, ProposesTheFirstOfTheBestFits) {
     }
 }
 
-TEST(OpeningMatches, AreInOrderWithoutTitlesAndElseTheSavedOnesButForNoName) {
+TEST(OpeningMatches, TakeColumnsInOrderWithoutTitlesAndElseTheSavedNames) {
     std::vector<std::string> saved = {"b", "", "gone"};
     EXPECT_EQ(openingMatches({"x", "y", "z"}, {}, {"", "b", "b"}, true, &saved),
               (std::vector<std::int32_t>{1, -1, -1}));
@@ -76,7 +76,7 @@ TEST(OpeningMatches, AreInOrderWithoutTitlesAndElseTheSavedOnesButForNoName) {
               (std::vector<std::int32_t>{0, 1, -1}));
 }
 
-TEST(MatchColumns, AScoreOfExactlyTheThresholdIsRefusedAndTheNextDoubleTaken) {
+TEST(MatchColumns, RefusesAScoreOfExactlyTheThresholdAndTakesTheNextDouble) {
     // 33 shared bytes and a run of 32 make 0.4 too, but for the rounding.
     const std::string app = std::string(32, 'a') + "b" + std::string(27, 'c');
     const std::string file = std::string(32, 'a') + std::string(87, 'd') + "b";
@@ -85,7 +85,7 @@ TEST(MatchColumns, AScoreOfExactlyTheThresholdIsRefusedAndTheNextDoubleTaken) {
     EXPECT_EQ(matchColumns({"abcde", app}, {"abdxy", file}), (std::vector<std::int32_t>{-1, 1}));
 }
 
-TEST(MatchColumns, KnowsAHostsOtherWordsForItsColumns) {
+TEST(MatchColumns, TakesTheAlternativesThatAHostNames) {
     EXPECT_EQ(matchColumns({"hole", "to"}, {"hole_type", "TO (M)"}, {{}, {"SAMPTO", "To (m)"}}),
               (std::vector<std::int32_t>{0, 1}));
     EXPECT_EQ(matchColumns({"a", "rl"}, {"RL"}, {{"RL"}}), (std::vector<std::int32_t>{-1, 0}));

@@ -51,7 +51,7 @@ protected:
 
 } // namespace
 
-TEST_P(Locale, LetsTheBytesAndThePositionOfEachColumnComeBack) {
+TEST_P(Locale, GivesTheBytesAndThePositionOfEachColumnBack) {
     NameBook book;
     const std::vector<std::string> names = awkwardNames(); // some more than once
     std::set<std::wstring> texts = {book.textOf(NameBook::noColumn).ToStdWstring()};

@@ -29,7 +29,7 @@ protected:
 
 } // namespace
 
-TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
+TEST_F(AnyFile, OpensWithRightMatchesWhateverItHolds) {
     const struct {
         std::string content;
         Names matches;
@@ -45,7 +45,7 @@ TEST_F(AnyFile, WhateverItHoldsTheDialogStandsAndTheMatchesAreRight) {
     }
 }
 
-TEST_F(AnyFile, NamesComeBackAsTheirBytesWhateverTheLocaleIsOrBecomes) {
+TEST_F(AnyFile, GivesNamesBackByteForByteInAndAfterAnyLocale) {
     const Names names = {"plong\xE9\x65", "plong\xC3\xA9\x65", "\xF4\x80\x83\xA9", "hole\0name"s,
                          std::string(1 << 20, 'h')};
     std::string content;
@@ -71,7 +71,7 @@ TEST_F(AnyFile, NamesComeBackAsTheirBytesWhateverTheLocaleIsOrBecomes) {
     EXPECT_TRUE(run.matches == names);
 }
 
-TEST_F(AnyFile, AnyByteServesAsADelimiter) {
+TEST_F(AnyFile, IsCutAtAnyByteAsDelimiter) {
     for (const char delimiter : {'\0', '\t', '\r', ' ', 'S', '"', '\x7F', '\x80', '\xFF'}) {
         run.delimiter = delimiter;
         show("holename"s + delimiter + delimiter + "depth\n", pressOk);

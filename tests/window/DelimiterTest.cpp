@@ -69,7 +69,7 @@ void expectToGive(char delimiter, const Steps &steps) {
 
 } // namespace
 
-TEST(Delimiter, IsReplacedByWhatIsTypedAfterAClickOrTab) {
+TEST(Delimiter, IsReplacedByTheCharacterTypedAfterAClickOrTab) {
     expectToGive(';', [](Person &person) {
         clickIntoField(person);
         person.strike(';');
@@ -100,7 +100,7 @@ TEST(Delimiter, IsChosenByNameInTheMenuOfItsField) {
     }
 }
 
-TEST(Delimiter, IsSaidNotToCutTheLineUntilItDoes) {
+TEST(Delimiter, IsFollowedByASentenceWhereTheFileGivesOneColumnOrNone) {
     const std::string undelimited = "The first line of the file does not contain this delimiter.";
     const std::string blank = "The first line of the file is blank.";
     const std::string missing = "The file can't be read: No such file or directory";

@@ -154,7 +154,7 @@ struct Both {
 
 } // namespace
 
-TEST_F(DragDrop, EveryDragFollowsTheRules) {
+TEST_F(DragDrop, FollowsItsRulesInDragsOfEveryKind) {
     const Drag drags[] = {
         {List::file, 8, List::match, 8},     {List::match, 3, List::match, 1},
         {List::match, 9, List::match, 2},    {List::match, 4, List::match, 4},
@@ -199,7 +199,7 @@ TEST_F(DragDrop, EveryDragFollowsTheRules) {
     EXPECT_EQ(run.matches, run.appColumns);
 }
 
-TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
+TEST_F(DragDrop, MarksOneRowByAClickOneMoreWithControlAndARangeWithShift) {
     run.show([](Person &person) {
         clickWith(person, WXK_SHIFT, 5, {5});
         clickWith(person, WXK_SHIFT, 2, {2, 3, 4, 5});
@@ -217,7 +217,7 @@ TEST_F(DragDrop, AClickMarksOneRowControlAddsOneAndShiftARange) {
     });
 }
 
-TEST_F(DragDrop, AShiftRangeDoesNotReachBackToARowThatHasGone) {
+TEST_F(DragDrop, MarksARangeWithoutTheRowsThatHaveGone) {
     run.matches = {"HOLE", "FROM"};
     run.show([](Person &person) {
         person.click(wxImportCSVDialog::CHECK_HEADER);
@@ -231,7 +231,7 @@ TEST_F(DragDrop, AShiftRangeDoesNotReachBackToARowThatHasGone) {
     });
 }
 
-TEST_F(DragDrop, TheRowUnderThePointerIsShownUnlessOneIsMarked) {
+TEST_F(DragDrop, ShowsTheRowUnderThePointerUnlessOneIsMarked) {
     run.show([](Person &person) {
         person.hoverAt(Person::matchRow(2), "row 2 is in hover", isInHover(2));
         person.hoverAt(Person::matchRow(6), "row 6 is in hover", isInHover(6));
@@ -254,7 +254,7 @@ TEST_F(DragDrop, TheRowUnderThePointerIsShownUnlessOneIsMarked) {
     });
 }
 
-TEST_F(DragDrop, ClicksBesideRowsWithTheRightButtonAndSecondOnesChangeNothing) {
+TEST_F(DragDrop, IgnoresClicksBesideRowsRightClicksAndSecondClicks) {
     run.show([](Person &person) {
         const auto rightClick = [&person](wxPoint place) {
             person.moveTo(place);
@@ -283,7 +283,7 @@ TEST_F(DragDrop, ClicksBesideRowsWithTheRightButtonAndSecondOnesChangeNothing) {
     });
 }
 
-TEST_F(DragDrop, AColumnWithoutATitleIsDraggedAsOthersAre) {
+TEST_F(DragDrop, CarriesAColumnWithoutATitleAsAnyOther) {
     const ScratchFile untitled("HOLE,,FROM\n");
     run.fileName = untitled.path();
     EXPECT_TRUE(run.show([](Person &person) {
@@ -295,7 +295,7 @@ TEST_F(DragDrop, AColumnWithoutATitleIsDraggedAsOthersAre) {
     EXPECT_EQ(run.matches[1], "");
 }
 
-TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
+TEST_F(DragDrop, LeavesNoDragRunningHoweverItEnds) {
     const struct {
         const char *how;
         Steps end;
@@ -350,7 +350,7 @@ TEST_F(DragDrop, ComesOutOfADragHoweverItEnds) {
     }));
 }
 
-TEST_F(DragDrop, RowsOutOfViewAreReachedByTheWheelAndAtTheEdge) {
+TEST_F(DragDrop, ReachesRowsOutOfViewByTheWheelAndAtTheEdge) {
     run.appColumns = Names(80, "gold");
     run.useSavedMatches = false;
     const auto topRow = [] { return matchList().GetTopItem(); };

@@ -106,7 +106,7 @@ TEST_F(Keyboard, ArrowsMoveTheCurrentRowAndSpaceMarks) {
     });
 }
 
-TEST_F(Keyboard, TheRowThatIsGoneToIsInView) {
+TEST_F(Keyboard, ScrollsTheCurrentRowIntoView) {
     run.appColumns = Names(300, "gold");
     run.useSavedMatches = false;
     run.show([](Person &person) {
@@ -130,7 +130,7 @@ TEST_F(Keyboard, TheRowThatIsGoneToIsInView) {
     });
 }
 
-TEST_F(Keyboard, GoesOnFromAClick) {
+TEST_F(Keyboard, ContinuesFromTheClickedRow) {
     run.show([](Person &person) {
         person.click(Person::matchRow(0));
         person.strike(WXK_DOWN);
@@ -145,7 +145,7 @@ TEST_F(Keyboard, GoesOnFromAClick) {
     });
 }
 
-TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
+TEST_F(Keyboard, CopiesAndPastesNamesAsADragCarriesThem) {
     EXPECT_TRUE(run.show([](Person &person) {
         tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
         person.strike(WXK_HOME);
@@ -177,7 +177,7 @@ TEST_F(Keyboard, TheClipboardCarriesNamesAsADragDoes) {
     EXPECT_EQ(run.matches, (Names{"FROM", "", "", "", "HOLE"}));
 }
 
-TEST_F(Keyboard, ColumnsAreFoundByTypingAndAssignedOneAfterAnother) {
+TEST_F(Keyboard, FindsColumnsByTypingAndAssignsThemOneAfterAnother) {
     run.matches = {"HOLE", "", "TO", "", ""};
     EXPECT_TRUE(run.show([](Person &person) {
         const auto type = [&person](const std::string &typed, int entry) {
@@ -210,7 +210,7 @@ TEST_F(Keyboard, ColumnsAreFoundByTypingAndAssignedOneAfterAnother) {
     EXPECT_EQ(run.matches, (Names{"CU", "OTHER", "TO", "", ""}));
 }
 
-TEST_F(Keyboard, ReturnIsOkAndEscapeAndItsLetterAreCancelInBothLists) {
+TEST_F(Keyboard, PressesOkByReturnAndCancelByEscapeOrItsLetterInBothLists) {
     for (const int list : {wxImportCSVDialog::LISTBOX_FILE, wxImportCSVDialog::LISTBOX_MATCH}) {
         for (const int key :
              {static_cast<int>(WXK_RETURN), static_cast<int>(WXK_ESCAPE), 0 + 'c'}) {

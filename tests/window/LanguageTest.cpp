@@ -37,7 +37,7 @@ void expectRoom(const std::string &language) {
 
 } // namespace
 
-TEST(Language, IsTheOneOfTheProcessForMessagesAndLeavesRoomForAllCaptions) {
+TEST(Language, FollowsTheMessagesOfTheProcessAndFitsAllCaptions) {
     const ScratchFile file("BHID;X\n");
     const std::string usual = std::setlocale(LC_ALL, nullptr);
     const bool isWindows = (wxGetOsVersion() & wxOS_WINDOWS) != 0;

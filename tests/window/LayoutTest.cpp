@@ -144,7 +144,7 @@ std::vector<wxSize> sizes() {
 
 } // namespace
 
-TEST_F(Layout, EverythingHasItsPlaceAndSize) {
+TEST_F(Layout, GivesEachControlItsPlaceAndSize) {
     run.show([](Person &person) {
         for (const Figure &figure : read(figures)) {
             EXPECT_EQ(figure.is, figure.wanted) << figure.what;
@@ -153,7 +153,7 @@ TEST_F(Layout, EverythingHasItsPlaceAndSize) {
     });
 }
 
-TEST_F(Layout, EverythingReadsAsItShould) {
+TEST_F(Layout, GivesEachControlItsText) {
     run.title = "Import collars";
     run.show([](Person &person) {
         onUserInterface([] {
@@ -176,7 +176,7 @@ TEST_F(Layout, EverythingReadsAsItShould) {
     });
 }
 
-TEST_F(Layout, TheControlsKeepTheirSizesInAFrameOfAnySize) {
+TEST_F(Layout, KeepsTheSizesOfControlsInAFrameOfAnySize) {
     std::vector<wxSize> usual;
     run.show([&usual](Person &person) {
         usual = read(sizes);

@@ -27,7 +27,7 @@ protected:
 
 } // namespace
 
-TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
+TEST_F(Outcome, IsWrittenAtEveryEndAndIsTrueForOkAlone) {
     const struct {
         Steps leave;
         bool result;
@@ -52,7 +52,7 @@ TEST_F(Outcome, EveryWayOutWritesTheOutputsAndOnlyOkGivesTrue) {
     }
 }
 
-TEST_F(Outcome, AFileColumnCalledNotUsedComesBackAsNone) {
+TEST_F(Outcome, GivesNoColumnForAFileColumnCalledNotUsed) {
     const ScratchFile named("Not used\n");
     run.fileName = named.path();
     run.useSavedMatches = true;
@@ -61,7 +61,7 @@ TEST_F(Outcome, AFileColumnCalledNotUsedComesBackAsNone) {
     EXPECT_EQ(run.matches, (Names{"", ""}));
 }
 
-TEST_F(Outcome, WithoutApplicationColumnsItIsEmpty) {
+TEST_F(Outcome, IsEmptyWithoutApplicationColumns) {
     run.appColumns.clear();
     EXPECT_TRUE(run.show([](Person &person) {
         EXPECT_EQ(fileTexts(), (Names{"BHID", "Azimut;Dip"}));
@@ -102,7 +102,7 @@ TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpenAndItsPeerReplacesNothing) {
     EXPECT_EQ(second.matches, Names{"kept"});
 }
 
-TEST_F(Outcome, HasNoWordOfTheToolkitForTheUser) {
+TEST_F(Outcome, ShowsTheUserNoMessageOfTheToolkit) {
     EXPECT_TRUE(run.show([](Person &person) {
         std::atomic<bool> hasGoneOn = false;
         onUserInterface([&hasGoneOn] {
@@ -120,7 +120,7 @@ TEST_F(Outcome, HasNoWordOfTheToolkitForTheUser) {
     EXPECT_TRUE(wxLog::IsEnabled());
 }
 
-TEST_F(Outcome, LeavesAnExceptionToTheHost) {
+TEST_F(Outcome, PassesAnExceptionToTheHost) {
     struct Mishap {};
     EXPECT_THROW(run.show([](Person &person) {
         onUserInterface([] {

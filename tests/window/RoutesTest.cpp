@@ -137,7 +137,7 @@ void expectToTake(const Route &route, const std::string &path) {
 } // namespace
 
 // clang-format off
-TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
+TEST(Routes, ShowTheColumnsAndMatchesAfterEachStep) {
     const Names depth = {"Depth (m)", "", "", ""};
     const Names partly = {"Depth (m)", "utm x", "", "gone"};
     const Names tooMany = {"Depth (m)", "", "", "", "BHID", "BHID"};
@@ -180,7 +180,7 @@ TEST(Routes, FollowTheBoxTheSavedMatchesTheButtonAndTheDelimiter) {
 }
 // clang-format on
 
-TEST(Routes, TheFileIsReadAgainForAnotherDelimiterAlone) {
+TEST(Routes, ReadTheFileAgainForAnotherDelimiterAlone) {
     const ScratchFile file(content);
     DialogRun run;
     run.appColumns = collar;
@@ -200,7 +200,7 @@ TEST(Routes, TheFileIsReadAgainForAnotherDelimiterAlone) {
     }));
 }
 
-TEST(Routes, OneCharacterFitsIntoTheDelimiterFieldAndItsFirstByteCounts) {
+TEST(Routes, TakeOneCharacterAsDelimiterAndReturnItsFirstByte) {
     const ScratchFile file(content);
     DialogRun run;
     run.fileName = file.path();

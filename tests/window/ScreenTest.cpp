@@ -45,7 +45,7 @@ Steps seeAndPressOk(const std::vector<int> &controls) {
 
 } // namespace
 
-TEST(Screen, HasAllInViewThatAnswers) {
+TEST(Screen, ShowsTheOptionsTheButtonsAndFiveRowsWhole) {
     const ScratchFile file("BHID,Dip\n\n\n\n\n\n\n\n\n\n\n");
     DialogRun run;
     run.fileName = file.path();

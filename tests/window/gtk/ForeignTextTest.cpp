@@ -65,7 +65,7 @@ private:
 
 } // namespace
 
-TEST(ForeignText, IsWrittenIntoARowAsGivenAndOnTheFileListClearsTheMarkedRows) {
+TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
     const ScratchFile file("HOLE,FROM\n");
     const Names texts = {"From elsewhere",
                          "Not used",

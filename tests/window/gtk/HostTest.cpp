@@ -111,14 +111,14 @@ void meetMishap(Person &person) {
 
 } // namespace
 
-TEST_F(Host, APeerThatComesAfterGtkEndsNoHostForItsWarning) {
+TEST_F(Host, SurvivesAPeerMadeAfterGtkWhereWarningsAreFatal) {
     const auto all = static_cast<GLogLevelFlags>(G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING);
     const GLogLevelFlags before = g_log_set_always_fatal(all);
     { const wxImportCSVDialogPeer peer; }
     EXPECT_EQ(g_log_set_always_fatal(before) & all, all);
 }
 
-TEST_F(Host, TheDialogStaysAboveTheHostsWindowAndLeavesItAlone) {
+TEST_F(Host, OwnsTheDialogAndKeepsItsWindowUnchanged) {
     GtkWidget *window = newHostWindow();
     for (GtkWidget *handle : {window, gtk_bin_get_child(GTK_BIN(window))}) {
         run.owner = handle;
@@ -133,7 +133,7 @@ TEST_F(Host, TheDialogStaysAboveTheHostsWindowAndLeavesItAlone) {
     gtk_widget_destroy(window);
 }
 
-TEST_F(Host, WithoutAWindowTheDialogOpensAllTheSame) {
+TEST_F(Host, OpensTheDialogWithoutAWindow) {
     GtkWidget *loose = g_object_ref_sink(gtk_button_new());
     for (GtkWidget *handle : {static_cast<GtkWidget *>(nullptr), loose}) {
         run.owner = handle;
@@ -145,7 +145,7 @@ TEST_F(Host, WithoutAWindowTheDialogOpensAllTheSame) {
     g_object_unref(loose);
 }
 
-TEST_F(Host, AWindowDestroyedMeanwhileDoesNotTakeTheDialogAlong) {
+TEST_F(Host, MayDestroyItsWindowWhileTheDialogStaysOpen) {
     run.owner = newHostWindow();
     EXPECT_TRUE(run.show([this](Person &person) {
         onUserInterface([this] { gtk_widget_destroy(run.owner); });
@@ -155,7 +155,7 @@ TEST_F(Host, AWindowDestroyedMeanwhileDoesNotTakeTheDialogAlong) {
     EXPECT_EQ(run.matches, (Names{"BHID", "Dip"}));
 }
 
-TEST_F(Host, AFramePulledSmallCutsTheControlsOff) {
+TEST_F(Host, CutsTheControlsOffInAFramePulledSmall) {
     run.show([](Person &person) {
         const auto sizes = [] {
             std::vector<wxSize> all;
@@ -185,7 +185,7 @@ TEST_F(Host, AFramePulledSmallCutsTheControlsOff) {
     });
 }
 
-TEST_F(Host, EveryLoopGoesOnHoweverARunEnds) {
+TEST_F(Host, ContinuesItsLoopsHoweverARunEnds) {
     run.owner = newHostWindow();
     const auto importInEveryWay = [this] {
         EXPECT_TRUE(run.show(pressOk));

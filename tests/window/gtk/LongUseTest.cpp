@@ -85,7 +85,7 @@ TEST(LongUse, HoldsANameAsLargeAsItsFileNoMoreThanTwice) {
     EXPECT_LT(peakInMegabytes() - before, 2 * 256 + 128);
 }
 
-TEST(LongUse, LeavesNothingBehind) {
+TEST(LongUse, LeaksNoMemoryDescriptorOrWindow) {
     const char *wanted = std::getenv("COLUMNIMPORT_RUNS");
     const int runs = wanted != nullptr ? std::stoi(wanted) : 1000;
     const ScratchFile file("BHID,Dip,Au\n");

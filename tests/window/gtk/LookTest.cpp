@@ -49,7 +49,7 @@ std::string labelOfDrag() {
 
 } // namespace
 
-TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
+TEST_F(Look, ShowsBesideThePointerTheNamesOfADrag) {
     run.show([](Person &person) {
         person.dragTo(Person::fileRow(1), Person::matchRow(2));
         waitUntil("the name is shown", [] { return labelOfDrag() == "FROM"; });
@@ -67,14 +67,14 @@ TEST_F(Look, ADragSaysBesideThePointerWhatItCarries) {
     });
 }
 
-TEST_F(Look, ContrastIsThatOfGuidelinesForAccessibleContent) {
+TEST_F(Look, HasTheContrastOfGuidelinesForAccessibleContent) {
     EXPECT_NEAR(contrast(*wxBLACK, *wxWHITE), 21, 0.005);
     EXPECT_NEAR(contrast(wxColour(0x1A, 0x73, 0xE8), *wxWHITE), 4.51, 0.01);
     // Here no tone of the hover's colour serves as well as its end.
     EXPECT_EQ(columnimport::markColours({150, 150, 150}, {70, 70, 70}).ground, *wxWHITE);
 }
 
-TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
+TEST_F(Look, DistinguishesMarksAndTheArrowFromTheirSurroundings) {
     run.show([](Person &person) {
         person.click(Person::matchRow(1));
         poll("row 1 is marked", [] { return markedRows() == std::vector<int>{1}; });
@@ -105,7 +105,7 @@ TEST_F(Look, MarksAndTheArrowCanBeToldFromWhatIsAroundThem) {
     });
 }
 
-TEST_F(Look, WhatCannotBeSeenIsTold) {
+TEST_F(Look, ShowsACutNameInATooltipAndEllipsizesThePreview) {
     const std::string cut(60, 'W');
     const ScratchFile wide("HOLE," + cut + "\n" + std::string(1000, '-') + "\n");
     run.fileName = wide.path();

@@ -6,7 +6,7 @@
 #include <gtest/gtest.h>
 #include <wxImportCSVDialogPeer.h>
 
-TEST(WithoutADisplay, NothingIsShownAndTheHostKeepsWhatItHad) {
+TEST(WithoutADisplay, ShowWindowReturnsFalseAndKeepsTheOutputs) {
     bool useSaved = true;
     bool firstLineHeader = true;
     char delimiter = ';';
@@ -24,7 +24,7 @@ TEST(WithoutADisplay, NothingIsShownAndTheHostKeepsWhatItHad) {
     EXPECT_TRUE(firstLineHeader && useSaved);
 }
 
-TEST(WithoutADisplay, AHostInCIsToldSoAndCanPropose) {
+TEST(WithoutADisplay, TheCHeaderReportsNoDisplayAndProposes) {
     columnimport_import *import = columnimport_new();
     columnimport_add_column(import, "hole");
     columnimport_set_table(import, nullptr, nullptr, 0);

@@ -10,7 +10,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ScreenReader, HearsEverythingAndActsWithoutAPointerOrKeys) {
+TEST(ScreenReader, ReadsAndOperatesTheDialogWithoutAPointerOrKeys) {
     const ScratchFile file("HOLE,AU,CU\n");
     DialogRun run;
     run.fileName = file.path();
