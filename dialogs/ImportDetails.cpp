@@ -23,7 +23,15 @@ std::vector<SourceMatch> ImportDetails::matches(wxImportCSVDialog &dialog) {
     std::vector<SourceMatch> matches;
     matches.reserve(static_cast<std::size_t>(list.GetItemCount()));
     for (int row = 0; row < list.GetItemCount(); ++row) {
-        matches.push_back(list.getMatch(row));
+        SourceMatch match = list.getMatch(row);
+        const ColumnMatch &opening = of(dialog).opening[static_cast<std::size_t>(row)];
+        if (match.position >= 0 && match.position == opening.position) {
+            match.origin = opening.origin;
+            match.score = opening.score;
+        } else if (!match.isNone()) {
+            match.origin = match.position < 0 ? MatchOrigin::foreign : MatchOrigin::byHand;
+        }
+        matches.push_back(std::move(match));
     }
     return matches;
 }

@@ -16,9 +16,11 @@ namespace columnimport {
 struct ImportDetails {
     std::vector<std::vector<std::string>> alternatives; ///< by application column; may be shorter
     std::vector<bool> required;                         ///< by application column; may be shorter
+    std::vector<bool> refusesSimilar;                   ///< by application column; may be shorter
     ByteOrderMark byteOrderMark = ByteOrderMark::kept;
-    std::string fileProblem;   ///< why the file could not be read; empty if it was
-    bool hasAskedBack = false; ///< whether OK has asked for the required columns
+    std::string fileProblem;          ///< why the file could not be read; empty if it was
+    std::vector<ColumnMatch> opening; ///< what the last refresh matched
+    bool hasAskedBack = false;        ///< whether OK has asked for the required columns
 
     /// Those of `dialog`; to be filled before its `create`.
     static ImportDetails &of(wxImportCSVDialog &dialog);

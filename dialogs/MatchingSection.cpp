@@ -68,11 +68,11 @@ void showFileColumns(ListBoxSource &list, std::vector<std::string> names,
     list.showNames(items);
 }
 
-void showMatches(ListCtrlSource &list, const std::vector<std::int32_t> &positions,
+void showMatches(ListCtrlSource &list, const std::vector<columnimport::ColumnMatch> &opening,
                  const std::vector<std::string> &appColumns) {
-    assert(positions.size() <= appColumns.size());
-    for (std::size_t row = 0; row < positions.size(); ++row) {
-        list.appendRow(list.names().textOf(positions[row]),
+    assert(opening.size() <= appColumns.size());
+    for (std::size_t row = 0; row < opening.size(); ++row) {
+        list.appendRow(list.names().textOf(opening[row].position),
                        columnimport::shownText(appColumns[row]));
     }
 }
@@ -176,12 +176,12 @@ void wxImportCSVDialog::onCheckHeader(wxCommandEvent &event) {
     }
 
     // The matcher's copy of the names goes before the book gets one: a name may be a whole file.
-    const std::vector<std::int32_t> opening = columnimport::openingMatches(
-        m_appColumns, m_details->alternatives, m_fileSchema, m_firstLineHeader,
-        m_useSavedMatches ? &m_savedMatches : nullptr);
+    m_details->opening = columnimport::openingMatches(
+        m_appColumns, m_details->alternatives, m_details->refusesSimilar, m_fileSchema,
+        m_firstLineHeader, m_useSavedMatches ? &m_savedMatches : nullptr);
     showFileColumns(files, columnimport::columnNames(m_fileSchema, m_firstLineHeader),
                     matches.names());
-    showMatches(matches, opening, m_appColumns);
+    showMatches(matches, m_details->opening, m_appColumns);
     applyListBoxMatchFont();
     matches.showUse();
     matches.layOutRows();

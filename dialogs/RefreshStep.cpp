@@ -31,7 +31,8 @@ RefreshStep::RefreshStep(wxImportCSVDialog &dialog,
     : m_dialog(dialog), m_fileSchema(std::move(fileSchema)), m_delimiter(dialog.m_delimiter),
       m_firstLineHeader(dialog.m_firstLineHeader), m_useSavedMatches(dialog.m_useSavedMatches),
       m_savedMatches(dialog.m_savedMatches), m_fileProblem(ImportDetails::of(dialog).fileProblem),
-      m_sentence(said(dialog, Matter::source)), m_names(std::make_unique<NameBook>()),
+      m_opening(ImportDetails::of(dialog).opening), m_sentence(said(dialog, Matter::source)),
+      m_names(std::make_unique<NameBook>()),
       m_fileTexts(findControl<ListBoxSource>(dialog, fileListId)->names()) {
     auto &matches = *findControl<ListCtrlSource>(dialog, matchListId);
     m_matchTexts = matches.matchTexts();
@@ -47,6 +48,7 @@ void RefreshStep::exchange() {
     std::swap(m_dialog.m_useSavedMatches, m_useSavedMatches);
     std::swap(m_dialog.m_savedMatches, m_savedMatches);
     std::swap(ImportDetails::of(m_dialog).fileProblem, m_fileProblem);
+    std::swap(ImportDetails::of(m_dialog).opening, m_opening);
     if (auto *field = findControl<wxTextCtrl>(m_dialog, wxImportCSVDialog::TXT_DELIMITER)) {
         field->ChangeValue(decoded(std::string(1, m_dialog.m_delimiter)));
     }

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include "names/ColumnMatch.h"
 #include "names/NameBook.h"
 
 #include <memory>
@@ -44,6 +45,7 @@ private:
     bool m_useSavedMatches;
     std::vector<std::string> m_savedMatches;
     std::string m_fileProblem;
+    std::vector<ColumnMatch> m_opening;
     wxString m_sentence; // on the source
     std::unique_ptr<NameBook> m_names;
     wxArrayString m_fileTexts;

@@ -43,7 +43,7 @@ SourceMatch ListCtrlSource::getMatch(int row) const {
     if (text == m_names->textOf(NameBook::noColumn)) {
         return {};
     }
-    return {m_names->positionOf(text), m_names->bytesOf(text)};
+    return {{m_names->positionOf(text)}, m_names->bytesOf(text)};
 }
 
 void ListCtrlSource::appendRow(const wxString &matchText, const wxString &application) {

@@ -21,6 +21,7 @@ struct ImportRequest {
     std::vector<std::string> appColumns;
     std::vector<std::vector<std::string>> alternatives; ///< by application column; may be shorter
     std::vector<bool> required;                         ///< by application column; may be shorter
+    std::vector<bool> refusesSimilar;                   ///< by application column; may be shorter
     bool useSavedMatches = false;
     std::vector<std::string> savedMatches; ///< by application column, empty for none
 

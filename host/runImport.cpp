@@ -21,6 +21,7 @@ std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportReq
     ImportDetails &details = ImportDetails::of(dialog);
     details.alternatives = request.alternatives;
     details.required = request.required;
+    details.refusesSimilar = request.refusesSimilar;
     details.byteOrderMark = request.byteOrderMark;
     const bool ok = runDialog(dialog, {request.width, request.height});
     if (hasWindow(dialog)) {

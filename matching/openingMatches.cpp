@@ -3,49 +3,65 @@
 #include "matching/openingMatches.h"
 
 #include <algorithm>
+#include <cassert>
 #include <string_view>
 #include <unordered_map>
+
+#include "matching/explainMatches.h"
 
 namespace columnimport {
 
 namespace {
 
-std::vector<std::int32_t> pairedInOrder(std::size_t appCount, std::size_t sourceCount) {
-    std::vector<std::int32_t> positions(appCount, -1);
+std::vector<ColumnMatch> pairedInOrder(std::size_t appCount, std::size_t sourceCount) {
+    std::vector<ColumnMatch> matches(appCount);
     for (std::size_t app = 0; app < appCount && app < sourceCount; ++app) {
-        positions[app] = static_cast<std::int32_t>(app);
+        matches[app] = {static_cast<std::int32_t>(app), MatchOrigin::inOrder};
     }
-    return positions;
+    return matches;
 }
 
-std::vector<std::int32_t> foundAgain(std::vector<std::string> &savedMatches,
-                                     const std::vector<std::string> &titles) {
+std::vector<ColumnMatch> foundAgain(std::vector<std::string> &savedMatches,
+                                    const std::vector<std::string> &titles) {
     std::unordered_map<std::string_view, std::int32_t> firstOfName;
     for (const std::string &title : titles) {
         firstOfName.emplace(title, static_cast<std::int32_t>(&title - titles.data()));
     }
-    std::vector<std::int32_t> positions;
-    positions.reserve(savedMatches.size());
-    for (std::string &match : savedMatches) {
-        const auto found = match.empty() ? firstOfName.end() : firstOfName.find(match);
+    std::vector<ColumnMatch> matches;
+    matches.reserve(savedMatches.size());
+    for (std::string &saved : savedMatches) {
+        const auto found = saved.empty() ? firstOfName.end() : firstOfName.find(saved);
         if (found == firstOfName.end()) {
-            match.clear();
+            saved.clear();
+            matches.emplace_back();
+        } else {
+            matches.push_back({found->second, MatchOrigin::saved});
         }
-        positions.push_back(found == firstOfName.end() ? -1 : found->second);
     }
-    return positions;
+    return matches;
+}
+
+void refuse(std::vector<ColumnMatch> &matches, const std::vector<bool> &refusesSimilar) {
+    assert(refusesSimilar.size() <= matches.size());
+    for (std::size_t app = 0; app < refusesSimilar.size(); ++app) {
+        if (refusesSimilar[app] && matches[app].origin == MatchOrigin::similar) {
+            matches[app] = {};
+        }
+    }
 }
 
 } // namespace
 
+std::string columnName(const std::vector<std::string> &titles, bool holdsTitles,
+                       std::size_t position) {
+    return holdsTitles ? titles[position] : "Column" + std::to_string(position + 1);
+}
+
 std::vector<std::string> columnNames(const std::vector<std::string> &titles, bool holdsTitles) {
-    if (holdsTitles) {
-        return titles;
-    }
     std::vector<std::string> names;
     names.reserve(titles.size());
-    for (std::size_t number = 1; number <= titles.size(); ++number) {
-        names.push_back("Column" + std::to_string(number));
+    for (std::size_t position = 0; position < titles.size(); ++position) {
+        names.push_back(columnName(titles, holdsTitles, position));
     }
     return names;
 }
@@ -55,15 +71,21 @@ bool holdsAName(const std::vector<std::string> &savedMatches) {
                        [](const std::string &match) { return !match.empty(); });
 }
 
-std::vector<std::int32_t> openingMatches(const std::vector<std::string> &appColumns,
-                                         const Alternatives &alternatives,
-                                         const std::vector<std::string> &titles, bool holdsTitles,
-                                         std::vector<std::string> *savedMatches) {
+std::vector<ColumnMatch> openingMatches(const std::vector<std::string> &appColumns,
+                                        const Alternatives &alternatives,
+                                        const std::vector<bool> &refusesSimilar,
+                                        const std::vector<std::string> &titles, bool holdsTitles,
+                                        std::vector<std::string> *savedMatches) {
     if (!holdsTitles) {
         return pairedInOrder(appColumns.size(), titles.size());
     }
-    return savedMatches != nullptr ? foundAgain(*savedMatches, titles)
-                                   : matchColumns(appColumns, titles, alternatives);
+    if (savedMatches != nullptr) {
+        return foundAgain(*savedMatches, titles);
+    }
+    std::vector<ColumnMatch> matches = explainMatches(
+        appColumns, titles, alternatives, matchColumns(appColumns, titles, alternatives));
+    refuse(matches, refusesSimilar);
+    return matches;
 }
 
 } // namespace columnimport

@@ -3,37 +3,44 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string>
 #include <vector>
 
 #include "matching/matchColumns.h"
+#include "names/ColumnMatch.h"
 
 namespace columnimport {
 
-/// The names under which an import knows the source's columns: their titles, or without titles
-/// "Column1", "Column2" and so on.
+/// The name under which an import knows one of the source's columns: its title, or without titles
+/// "Column1" at position 0, "Column2" at 1 and so on.
+std::string columnName(const std::vector<std::string> &titles, bool holdsTitles,
+                       std::size_t position);
+
+/// The names of all of them.
 std::vector<std::string> columnNames(const std::vector<std::string> &titles, bool holdsTitles);
 
 /// Whether there is anything to find again: a saved match that is not empty.
 bool holdsAName(const std::vector<std::string> &savedMatches);
 
-/// With which source columns an import opens: one position for each application column, or -1.
+/// The matches that an import opens with, one for each application column.
 ///
 ///  - Without titles the columns are paired in their order.
 ///  - With `savedMatches` each is the first source column of the very name that was saved. There
-///    is one position for each entry. One that is empty or names no source column gives -1 and is
-///    emptied, so that it gives -1 from then on.
-///  - Otherwise the names alone propose it.
+///    is one match for each entry. An entry that is empty or names no source column gives none and
+///    is emptied, so that it gives none from then on.
+///  - Otherwise the names alone propose it. An application column that refuses similar names is
+///    then left without the guess that it got; the source column goes nowhere else instead.
 ///
-/// @param appColumns   the application columns
-/// @param alternatives the host's other words for them, as `matchColumns` takes them
-/// @param titles       the fields of the source's first line
-/// @param holdsTitles  whether that line holds titles
-/// @param savedMatches the matches of an earlier import, or null to propose afresh
-std::vector<std::int32_t> openingMatches(const std::vector<std::string> &appColumns,
-                                         const Alternatives &alternatives,
-                                         const std::vector<std::string> &titles, bool holdsTitles,
-                                         std::vector<std::string> *savedMatches);
+/// @param appColumns     the application columns
+/// @param alternatives   the host's other words for them, as `matchColumns` takes them
+/// @param refusesSimilar whether each takes no similar name; entries at the end may be missing
+/// @param titles         the fields of the source's first line
+/// @param holdsTitles    whether that line holds titles
+/// @param savedMatches   the matches of an earlier import, or null to propose afresh
+std::vector<ColumnMatch> openingMatches(const std::vector<std::string> &appColumns,
+                                        const Alternatives &alternatives,
+                                        const std::vector<bool> &refusesSimilar,
+                                        const std::vector<std::string> &titles, bool holdsTitles,
+                                        std::vector<std::string> *savedMatches);
 
 } // namespace columnimport

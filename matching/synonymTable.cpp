@@ -40,7 +40,10 @@ SynonymTable synonymTable() {
 }
 
 bool areSynonyms(std::string a, std::string b) {
-    const SynonymTable table = synonymTable();
+    return areSynonyms(synonymTable(), a, b);
+}
+
+bool areSynonyms(const SynonymTable &table, const std::string &a, const std::string &b) {
     const auto lists = [&table](const std::string &head, const std::string &word) {
         const auto row = table.find(head);
         return row != table.end() &&

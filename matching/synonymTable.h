@@ -22,4 +22,7 @@ SynonymTable synonymTable();
 ///     areSynonyms("bhid", "holeid")   == false, both are only listed
 bool areSynonyms(std::string a, std::string b);
 
+/// The same by a table that the caller made, for many pairs in a row.
+bool areSynonyms(const SynonymTable &table, const std::string &a, const std::string &b);
+
 } // namespace columnimport

@@ -78,10 +78,31 @@ enum {
 
 /** What stands in the place of a position or another number that is not there. */
 enum {
-    /** There is no position: no source column is matched, or none of the source's columns is. */
+    /** There is no position: no source column is matched, or none of the source's columns is. Or
+     * there is no origin and no score. */
     columnimport_none = -1,
     /** The call was wrong; columnimport_message says what about it. */
     columnimport_invalid = -2
+};
+
+/** How an application column came by its match. Further values may be added. */
+enum {
+    /** The two names are the same, but for capitals and punctuation. */
+    columnimport_origin_same = 1,
+    /** The library knows the two names as synonyms. */
+    columnimport_origin_synonym = 2,
+    /** The source column is called as one of the host's alternatives. */
+    columnimport_origin_alternative = 3,
+    /** The names only resemble each other: a guess, which a person should look at. */
+    columnimport_origin_similar = 4,
+    /** The first line holds no titles, and columns are paired in their order. */
+    columnimport_origin_in_order = 5,
+    /** The source has a column of the name that was saved. */
+    columnimport_origin_saved = 6,
+    /** The person chose it in the dialog. */
+    columnimport_origin_by_hand = 7,
+    /** The person dragged in a text from another program that names no column of the source. */
+    columnimport_origin_foreign = 8
 };
 
 /* ---- The library ---- */
@@ -184,6 +205,20 @@ columnimport_exported int32_t columnimport_add_alternative(columnimport_import *
  */
 columnimport_exported int32_t columnimport_set_required(columnimport_import *import, int32_t column,
                                                         int32_t required);
+
+/**
+ * Says whether one of the host's columns may be matched by a similar name, which is a guess: "Zn %"
+ * and ni_pct resemble each other and are different metals. A column that takes none is matched only
+ * to a source column that is called so, is a synonym, or is called as one of its alternatives. A
+ * source column that it refuses goes to no other column instead. Saved matches and pairs in order
+ * are not touched, nor is what a person writes.
+ *
+ * @param import   the import
+ * @param column   the number of the application column
+ * @param similar  1 for yes, which it is without this call, or 0
+ */
+columnimport_exported int32_t columnimport_set_similar(columnimport_import *import, int32_t column,
+                                                       int32_t similar);
 
 /**
  * The match of an earlier import, such as columnimport_match_name gave it. If at least one column
@@ -299,6 +334,32 @@ columnimport_exported const char *columnimport_file_problem(columnimport_import 
  */
 columnimport_exported int32_t columnimport_match_position(columnimport_import *import,
                                                           int32_t column);
+
+/**
+ * How an application column came by its match. What tells a guess from a certainty:
+ *
+ *     if (columnimport_match_origin(import, column) == columnimport_origin_similar) {
+ *         ask_the_person(column, columnimport_match_score(import, column));
+ *     }
+ *
+ * @param import  the import
+ * @param column  the number of the application column
+ * @return one of the origins; columnimport_none if there is no match; columnimport_invalid after
+ *         wrong use
+ */
+columnimport_exported int32_t columnimport_match_origin(columnimport_import *import,
+                                                        int32_t column);
+
+/**
+ * How much the two names of a guess have in common, as the matcher compared them. It counts letters
+ * and knows no meaning: a good score makes no guess certain.
+ *
+ * @param import  the import
+ * @param column  the number of the application column
+ * @return above 0.4 and below 1 if the origin is columnimport_origin_similar; otherwise -1, which
+ * is columnimport_none; -2, which is columnimport_invalid, after wrong use
+ */
+columnimport_exported double columnimport_match_score(columnimport_import *import, int32_t column);
 
 /**
  * The name that is matched to an application column: that of the source column, or Column1, Column2

@@ -93,6 +93,15 @@ std::int32_t columnimport_set_required(columnimport_import *import, std::int32_t
     });
 }
 
+std::int32_t columnimport_set_similar(columnimport_import *import, std::int32_t column,
+                                      std::int32_t similar) {
+    return fill(import, [&](ImportRequest &request) {
+        const std::size_t index = appColumn(request, column);
+        const bool refuses = !yesOrNo(similar);
+        entryOf(request.refusesSimilar, request, index) = refuses;
+    });
+}
+
 std::int32_t columnimport_set_saved_match(columnimport_import *import, std::int32_t column,
                                           const char *name, std::int64_t length) {
     return fill(import, [&](ImportRequest &request) {

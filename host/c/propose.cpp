@@ -4,14 +4,14 @@
 
 #include "host/c/Import.h"
 
-#include "delimited/readHeader.h"
+#include "host/openImport.h"
 #include "matching/openingMatches.h"
 
 #include <utility>
 
+using columnimport::ColumnMatch;
 using columnimport::ImportRequest;
 using columnimport::ImportResult;
-using columnimport::SourceMatch;
 
 namespace {
 
@@ -19,24 +19,15 @@ ImportResult proposed(ImportRequest request) {
     ImportResult result;
     result.delimiter = request.delimiter;
     result.holdsTitles = request.holdsTitles;
-    if (request.table) {
-        result.sourceColumns = std::move(*request.table);
-    } else {
-        columnimport::Header header =
-            columnimport::readHeader(request.path, request.delimiter, request.byteOrderMark);
-        result.sourceColumns = std::move(header.columns);
-        result.fileProblem = columnimport::problemOf(header);
-    }
-    std::vector<std::string> *saved =
-        columnimport::holdsAName(request.savedMatches) ? &request.savedMatches : nullptr;
-    const std::vector<std::string> names =
-        columnimport::columnNames(result.sourceColumns, request.holdsTitles);
-    for (const std::int32_t position :
-         columnimport::openingMatches(request.appColumns, request.alternatives,
-                                      result.sourceColumns, request.holdsTitles, saved)) {
+    columnimport::Opening opening = columnimport::openImport(std::move(request));
+    result.fileProblem = columnimport::problemOf(opening.source);
+    result.sourceColumns = std::move(opening.source.columns);
+    for (const ColumnMatch &match : opening.matches) {
         result.matches.push_back(
-            position < 0 ? SourceMatch{}
-                         : SourceMatch{position, names[static_cast<std::size_t>(position)]});
+            {match, match.position < 0
+                        ? std::string()
+                        : columnimport::columnName(result.sourceColumns, result.holdsTitles,
+                                                   static_cast<std::size_t>(match.position))});
     }
     return result;
 }

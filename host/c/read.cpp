@@ -6,6 +6,7 @@
 
 using columnimport::answer;
 using columnimport::ImportResult;
+using columnimport::MatchOrigin;
 using columnimport::SourceMatch;
 
 namespace {
@@ -13,6 +14,11 @@ namespace {
 template <typename Read>
 std::int32_t number(columnimport_import *import, const Read &read) noexcept {
     return answer<std::int32_t>(import, {columnimport_invalid, columnimport_invalid}, read);
+}
+
+template <typename Read>
+double score(columnimport_import *import, const Read &read) noexcept {
+    return answer<double>(import, {columnimport_invalid, columnimport_invalid}, read);
 }
 
 template <typename Read>
@@ -30,6 +36,33 @@ const SourceMatch &matchOf(const columnimport_import &import, std::int32_t colum
     return matches[columnimport::indexIn(
         matches, column, "There is no application column of this number in the last run.")];
 }
+
+/// The header's value for an origin.
+std::int32_t told(MatchOrigin origin) {
+    switch (origin) {
+    case MatchOrigin::none:
+        break;
+    case MatchOrigin::same:
+        return columnimport_origin_same;
+    case MatchOrigin::synonym:
+        return columnimport_origin_synonym;
+    case MatchOrigin::alternative:
+        return columnimport_origin_alternative;
+    case MatchOrigin::similar:
+        return columnimport_origin_similar;
+    case MatchOrigin::inOrder:
+        return columnimport_origin_in_order;
+    case MatchOrigin::saved:
+        return columnimport_origin_saved;
+    case MatchOrigin::byHand:
+        return columnimport_origin_by_hand;
+    case MatchOrigin::foreign:
+        return columnimport_origin_foreign;
+    }
+    return columnimport_none;
+}
+
+static_assert(columnimport::noScore == static_cast<std::int32_t>(columnimport_none));
 
 const char *bytesOf(const std::string &name, std::int64_t *length) {
     if (length != nullptr) {
@@ -65,6 +98,17 @@ std::int32_t columnimport_match_position(columnimport_import *import, std::int32
     return number(import, [column](const columnimport_import &read) {
         return matchOf(read, column).position;
     });
+}
+
+std::int32_t columnimport_match_origin(columnimport_import *import, std::int32_t column) {
+    return number(import, [column](const columnimport_import &read) {
+        return told(matchOf(read, column).origin);
+    });
+}
+
+double columnimport_match_score(columnimport_import *import, std::int32_t column) {
+    return score(import,
+                 [column](const columnimport_import &read) { return matchOf(read, column).score; });
 }
 
 const char *columnimport_match_name(columnimport_import *import, std::int32_t column,

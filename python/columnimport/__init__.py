@@ -7,7 +7,7 @@ corrects the proposal:
     >>> import columnimport
     >>> result = columnimport.propose(["holename", "dip"], ["BHID", "Au g/t"])
     >>> result.matches
-    (Match(name='BHID', position=0), None)
+    (Match(name='BHID', position=0, origin=<Origin.SYNONYM: 2>, score=None), None)
 
 Names are bytes for the library. Here they are texts: UTF-8, and a byte that is none is a lone
 surrogate ("surrogateescape"), so that every name leads back to its bytes.
@@ -18,12 +18,23 @@ from __future__ import annotations
 import ctypes
 import os
 from dataclasses import dataclass
+from enum import Enum
 from typing import Any, Sequence, Tuple, Union
 
 from . import _library
 from ._import import Import, name_bytes, text
 
-__all__ = ["Column", "Error", "Match", "NoDisplay", "Result", "propose", "show", "version"]
+__all__ = [
+    "Column",
+    "Error",
+    "Match",
+    "NoDisplay",
+    "Origin",
+    "Result",
+    "propose",
+    "show",
+    "version",
+]
 
 
 class Error(RuntimeError):
@@ -39,7 +50,8 @@ class Column:
     """A column of the application.
 
     `alternatives` are other words for it, which count like synonyms. If a `required` column is left
-    without a match, the dialog asks back once before it takes OK. `saved` is the name that it was
+    without a match, the dialog asks back once before it takes OK. One that is not `similar` takes
+    no guess: only a name that is the same, a synonym or one of its alternatives. `saved` is the name that it was
     matched to by an earlier run, shown instead of a new proposal where the source has it.
     """
 
@@ -47,6 +59,20 @@ class Column:
     alternatives: Sequence[str] = ()
     required: bool = False
     saved: str | None = None
+    similar: bool = True
+
+
+class Origin(Enum):
+    """How a column of the application came by its match."""
+
+    SAME = 1  #: the names are the same, but for capitals and punctuation
+    SYNONYM = 2  #: the library knows them as synonyms
+    ALTERNATIVE = 3  #: it is one of the column's alternatives
+    SIMILAR = 4  #: the names only resemble each other: a guess
+    IN_ORDER = 5  #: there are no titles, and columns are paired in their order
+    SAVED = 6  #: it has the name that was saved
+    BY_HAND = 7  #: the person chose it
+    FOREIGN = 8  #: the person dropped a text that names no column of the source
 
 
 @dataclass(frozen=True)
@@ -54,10 +80,14 @@ class Match:
     """A column of the source: its name, and its position there, counted from 0.
 
     The position is `None` if a person dropped a text that no column of the source is called.
+    `origin` tells a guess from a certainty, and `score` is how much the two names of a guess have
+    in common, above 0.4 and below 1; of other matches it is `None`.
     """
 
     name: str
     position: int | None
+    origin: Origin
+    score: float | None = None
 
 
 @dataclass(frozen=True)
@@ -138,6 +168,7 @@ def _fill(
         for word in column.alternatives:
             one.call("add_alternative", number, text(word))
         one.call("set_required", number, column.required)
+        one.call("set_similar", number, column.similar)
         if column.saved is not None:
             saved = name_bytes(column.saved)
             one.call("set_saved_match", number, saved, len(saved))
@@ -197,4 +228,10 @@ def _match(one: Import, column: int) -> Match | None:
     if name is None:
         return None
     position = one.call("match_position", column)
-    return Match(name, position if position != _library.NONE else None)
+    score = one.call("match_score", column)
+    return Match(
+        name,
+        position if position != _library.NONE else None,
+        Origin(one.call("match_origin", column)),
+        score if score != _library.NONE else None,
+    )

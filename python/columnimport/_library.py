@@ -6,7 +6,7 @@ from __future__ import annotations
 import ctypes
 import os
 import sys
-from ctypes import POINTER, c_char, c_char_p, c_int32, c_int64, c_void_p
+from ctypes import POINTER, c_char, c_char_p, c_double, c_int32, c_int64, c_void_p
 from functools import lru_cache
 
 VERSION = "0.4"
@@ -28,6 +28,7 @@ _FUNCTIONS = {
     "add_column": (c_int32, [c_void_p, c_char_p]),
     "add_alternative": (c_int32, [c_void_p, c_int32, c_char_p]),
     "set_required": (c_int32, [c_void_p, c_int32, c_int32]),
+    "set_similar": (c_int32, [c_void_p, c_int32, c_int32]),
     "set_saved_match": (c_int32, [c_void_p, c_int32, c_char_p, c_int64]),
     "set_file": (c_int32, [c_void_p, c_char_p]),
     "set_delimiter": (c_int32, [c_void_p, c_char]),
@@ -36,6 +37,8 @@ _FUNCTIONS = {
     "propose": (c_int32, [c_void_p]),
     "file_problem": (c_char_p, [c_void_p]),
     "match_position": (c_int32, [c_void_p, c_int32]),
+    "match_origin": (c_int32, [c_void_p, c_int32]),
+    "match_score": (c_double, [c_void_p, c_int32]),
     "match_name": (_BYTES, [c_void_p, c_int32, POINTER(c_int64)]),
     "delimiter": (c_int32, [c_void_p]),
     "first_line_holds_titles": (c_int32, [c_void_p]),

@@ -48,14 +48,18 @@ TEST_F(Door, RefusesBadArgumentsWithAnErrorAndASentence) {
         for (const std::int32_t column : {INT32_MIN, -1, 1, INT32_MAX}) {
             EXPECT_TRUE(isWrong(i, columnimport_add_alternative(i, column, "RL")));
             EXPECT_TRUE(isWrong(i, columnimport_set_required(i, column, 1)));
+            EXPECT_TRUE(isWrong(i, columnimport_set_similar(i, column, 0)));
             EXPECT_TRUE(isWrong(i, columnimport_set_saved_match(i, column, "x", 1)));
             EXPECT_TRUE(isWrong(i, columnimport_match_position(i, column)));
+            EXPECT_TRUE(isWrong(i, columnimport_match_origin(i, column)));
+            EXPECT_EQ(columnimport_match_score(i, column), columnimport_invalid);
             EXPECT_TRUE(isWrong(i, columnimport_match_name(i, column, nullptr)));
             EXPECT_TRUE(isWrong(i, columnimport_source_column(i, column, nullptr)));
         }
         EXPECT_TRUE(isWrong(i, columnimport_set_size(i, -1, 1)));
         EXPECT_TRUE(isWrong(i, columnimport_set_size(i, 1, 0)));
         EXPECT_TRUE(isWrong(i, columnimport_set_required(i, 0, 2)));
+        EXPECT_TRUE(isWrong(i, columnimport_set_similar(i, 0, -1)));
         EXPECT_TRUE(isWrong(i, columnimport_set_saved_match(i, 0, "x", -1)));
         EXPECT_TRUE(isWrong(i, columnimport_set_saved_match(i, 0, nullptr, 1)));
         EXPECT_TRUE(isWrong(i, columnimport_set_first_line_holds_titles(i, -1)));
@@ -99,7 +103,17 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
         return positions;
     };
     using Positions = std::vector<std::int32_t>;
+    const auto origins = [this] {
+        Positions values;
+        for (std::int32_t column = 0; column < 4; ++column) {
+            values.push_back(columnimport_match_origin(import, column));
+        }
+        return values;
+    };
     EXPECT_EQ(propose(), (Positions{0, 2, 4, -1}));
+    EXPECT_EQ(origins(), (Positions{columnimport_origin_same, columnimport_origin_alternative,
+                                    columnimport_origin_alternative, columnimport_none}));
+    EXPECT_EQ(columnimport_match_score(import, 0), columnimport_none);
     std::int64_t length = 0;
     EXPECT_EQ(std::string(columnimport_match_name(import, 2, &length), 6), "Au\0g/t"s);
     EXPECT_EQ(length, 6);
@@ -112,8 +126,10 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     columnimport_set_saved_match(import, 3, "Au\0g/t", 6);
     columnimport_set_saved_match(import, 0, "gone", 4);
     EXPECT_EQ(propose(), (Positions{-1, -1, -1, 4}));
+    EXPECT_EQ(origins(), (Positions{-1, -1, -1, columnimport_origin_saved}));
     columnimport_set_first_line_holds_titles(import, 0);
     EXPECT_EQ(propose(), (Positions{0, 1, 2, 3}));
+    EXPECT_EQ(origins(), Positions(4, columnimport_origin_in_order));
     EXPECT_STREQ(columnimport_match_name(import, 3, nullptr), "Column4");
 
     const char *names[] = {"collar", "hole"};
@@ -121,6 +137,15 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     columnimport_set_saved_match(import, 3, nullptr, 0);
     columnimport_set_saved_match(import, 0, nullptr, 0);
     EXPECT_EQ(propose(), (Positions{1, 0, -1, -1}));
+    const char *resembling[] = {"ends", "holes"};
+    columnimport_set_table(import, resembling, nullptr, 2);
+    EXPECT_EQ(propose(), (Positions{1, -1, -1, 0}));
+    EXPECT_EQ(origins()[3], columnimport_origin_similar);
+    EXPECT_DOUBLE_EQ(columnimport_match_score(import, 3), 35.0 / 48);
+    columnimport_set_similar(import, 0, 0);
+    EXPECT_EQ(propose(), (Positions{-1, -1, -1, 0}));
+    columnimport_set_similar(import, 0, 1);
+    EXPECT_EQ(propose(), (Positions{1, -1, -1, 0}));
     EXPECT_EQ(columnimport_first_line_holds_titles(import), 1);
 
     columnimport_set_file(import, "/no such file");

@@ -61,6 +61,13 @@ void call(columnimport_import *import, FuzzedDataProvider &data, Filled &filled)
             }
             require(positions == columnimport::matchColumns(filled.app, filled.table),
                     "the proposal is the matcher's");
+            for (std::size_t app = 0; app < positions.size(); ++app) {
+                const auto column = static_cast<std::int32_t>(app);
+                const bool isGuess =
+                    columnimport_match_origin(import, column) == columnimport_origin_similar;
+                require(isGuess == (columnimport_match_score(import, column) > 0.4),
+                        "a guess has a score, and nothing else");
+            }
         },
         [&] {
             filled.isPlain = false;
@@ -74,12 +81,18 @@ void call(columnimport_import *import, FuzzedDataProvider &data, Filled &filled)
             filled.isPlain = false;
             columnimport_set_file(import, word);
         },
+        [&] {
+            filled.isPlain = false;
+            columnimport_set_similar(import, number, 0);
+        },
         [&] { columnimport_set_title(import, word); },
         [&] { columnimport_set_size(import, number, number); },
         [&] { columnimport_set_required(import, number, 1); },
         [&] { columnimport_set_delimiter(import, static_cast<char>(number)); },
         [&] { columnimport_set_first_line_holds_titles(import, number); },
         [&] { columnimport_file_problem(import); },
+        [&] { columnimport_match_origin(import, number); },
+        [&] { columnimport_match_score(import, number); },
         [&] { columnimport_match_name(import, number, &lengths.emplace_back()); },
         [&] { columnimport_source_column(import, number, &lengths.emplace_back()); },
         [&] { columnimport_message(import); },

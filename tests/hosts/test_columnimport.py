@@ -6,7 +6,7 @@ import unittest
 from concurrent.futures import ThreadPoolExecutor
 
 import columnimport
-from columnimport import Column, Match
+from columnimport import Column, Match, Origin
 from rename_columns import rename_columns
 
 import pandas
@@ -16,12 +16,14 @@ class Propose(unittest.TestCase):
     def test_names_lead_to_matches(self):
         latin = "plong\udce9e"
         for columns, source, expected in [
-            (["holename", "dip"], ["BHID", "Au g/t"], [Match("BHID", 0), None]),
-            (["au"], ["x", "Au", "Au"], [Match("Au", 1)]),
-            ([Column("elevation", alternatives=["RL"])], ["rl"], [Match("rl", 0)]),
-            ([Column("dip", saved="b")], ["dip", "b"], [Match("b", 1)]),
-            (["plong_e"], ["a", latin], [Match(latin, 1)]),
-            (["a_b"], ["a\0b"], [Match("a\0b", 0)]),
+            (["holename", "dip"], ["BHID", "Au g/t"], [Match("BHID", 0, Origin.SYNONYM), None]),
+            (["au"], ["x", "Au", "Au"], [Match("Au", 1, Origin.SAME)]),
+            ([Column("elevation", alternatives=["RL"])], ["rl"], [Match("rl", 0, Origin.ALTERNATIVE)]),
+            ([Column("dip", saved="b")], ["dip", "b"], [Match("b", 1, Origin.SAVED)]),
+            (["Cu %"], ["cut_pct"], [Match("cut_pct", 0, Origin.SIMILAR, 39 / 56)]),
+            ([Column("Cu %", similar=False)], ["cut_pct"], [None]),
+            (["plong_e"], ["a", latin], [Match(latin, 1, Origin.SAME)]),
+            (["a_b"], ["a\0b"], [Match("a\0b", 0, Origin.SAME)]),
             ([], [], []),
         ]:
             with self.subTest(columns=columns, source=source):
@@ -32,10 +34,10 @@ class Propose(unittest.TestCase):
             file.write("\ufeffHOLE;DIP\n1;2\n")
             file.flush()
             by_name = columnimport.propose(["dip"], file.name, ";")
-            self.assertEqual(by_name.matches, (Match("DIP", 1),))
+            self.assertEqual(by_name.matches, (Match("DIP", 1, Origin.SAME),))
             self.assertEqual(by_name.source_columns, ("HOLE", "DIP"))
             by_position = columnimport.propose(["dip"], file.name, ";", titles=False)
-            self.assertEqual(by_position.matches, (Match("Column1", 0),))
+            self.assertEqual(by_position.matches, (Match("Column1", 0, Origin.IN_ORDER),))
             self.assertEqual((by_position.delimiter, by_position.titles), (";", False))
 
     def test_a_file_that_cannot_be_read_says_why(self):
@@ -57,7 +59,7 @@ class Propose(unittest.TestCase):
 
         with ThreadPoolExecutor(20) as threads:
             matches = list(threads.map(work, range(20)))
-        self.assertEqual(matches, [Match(f"name{number}", 0) for number in range(20)])
+        self.assertEqual(matches, [Match(f"name{number}", 0, Origin.SAME) for number in range(20)])
 
     def test_a_frame_gets_the_names_of_the_host(self):
         frame = rename_columns(pandas.DataFrame({"BHID": [1], "Remark": [2]}), ["holename"])

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "matching/columnNameScore.h"
+#include "matching/explainMatches.h"
 #include "matching/fast/castVotes.h"
 #include "matching/matchColumns.h"
 #include "matching/normalizeColumnName.h"
@@ -18,9 +19,11 @@ namespace columnimport {
 /// names as written; empty if all is well. The scores of votes are compared to the last bit.
 inline std::string disagreement(std::vector<std::string> app, std::vector<std::string> file,
                                 const Alternatives &alternatives = {}) {
-    if (matchColumns(app, file, alternatives) != reference::matchColumns(app, file, alternatives)) {
+    const std::vector<std::int32_t> proposal = matchColumns(app, file, alternatives);
+    if (proposal != reference::matchColumns(app, file, alternatives)) {
         return "the proposal";
     }
+    const std::vector<ColumnMatch> explained = explainMatches(app, file, alternatives, proposal);
     for (auto *names : {&app, &file}) {
         for (std::string &name : *names) {
             name = normalizeColumnName(name);
@@ -35,6 +38,18 @@ inline std::string disagreement(std::vector<std::string> app, std::vector<std::s
             votes[i].score !=
                 columnNameScore(file[i], app[static_cast<std::size_t>(votes[i].app)])) {
             return "the score of " + file[i];
+        }
+    }
+    for (std::size_t i = 0; i < app.size(); ++i) {
+        const auto &[position, origin, score] = explained[i];
+        const bool isKnown = origin == MatchOrigin::synonym || origin == MatchOrigin::alternative;
+        const double measured =
+            position < 0 ? noScore
+                         : columnNameScore(app[i], file[static_cast<std::size_t>(position)]);
+        if (position != proposal[i] || (origin == MatchOrigin::none) != (position < 0) ||
+            (origin == MatchOrigin::same) != (measured == 1.0) || (measured == 0.99 && !isKnown) ||
+            score != (origin == MatchOrigin::similar ? measured : noScore)) {
+            return "the origin of the match of " + app[i];
         }
     }
     return "";

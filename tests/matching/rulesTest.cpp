@@ -68,12 +68,66 @@ TEST(MatchColumns, ProposesTheFirstOfTheBestFits) {
     }
 }
 
-TEST(OpeningMatches, TakeColumnsInOrderWithoutTitlesAndElseTheSavedNames) {
-    std::vector<std::string> saved = {"b", "", "gone"};
-    EXPECT_EQ(openingMatches({"x", "y", "z"}, {}, {"", "b", "b"}, true, &saved),
-              (std::vector<std::int32_t>{1, -1, -1}));
-    EXPECT_EQ(openingMatches({"x", "y", "z"}, {}, {"", "b"}, false, &saved),
-              (std::vector<std::int32_t>{0, 1, -1}));
+namespace columnimport {
+bool operator==(const ColumnMatch &a, const ColumnMatch &b) {
+    return a.position == b.position && a.origin == b.origin && std::abs(a.score - b.score) < 1e-12;
+}
+void PrintTo(const ColumnMatch &match, std::ostream *out) {
+    *out << match.position << " by origin " << static_cast<int>(match.origin) << " with "
+         << match.score;
+}
+} // namespace columnimport
+
+TEST(OpeningMatches, HaveTheOriginOfEachMatch) {
+    using Names = std::vector<std::string>;
+    using Origin = MatchOrigin;
+    const Names app = {"Cu %", "holename", "to", "Zn %"};
+    const Alternatives alternatives = {{"copper"}, {"bhid"}, {"SAMPTO", "To (m)"}};
+    const struct {
+        Names titles;
+        bool holdsTitles;
+        Names saved;
+        std::vector<bool> refusesSimilar;
+        std::vector<ColumnMatch> expected;
+    } cases[] = {
+        {{"zn_ppm", "TO (M)", "BHID", "CU_PCT"},
+         true,
+         {},
+         {},
+         {{3, Origin::same},
+          {2, Origin::synonym},
+          {1, Origin::alternative},
+          {0, Origin::similar, 7.0 / 12}}},
+        // What a column refuses goes to no other one, and nobody else's guess is touched.
+        {{"ni_pct", "holes"},
+         true,
+         {},
+         {false, false, false, true},
+         {{}, {1, Origin::similar, 0.56875}, {}, {}}},
+        {{"ni_pct", "holes"}, true, {}, {false, true}, {{}, {}, {}, {0, Origin::similar, 2.0 / 3}}},
+        {{"Copper", "bhid", "zn_pct"},
+         true,
+         {},
+         {true, true, true, true},
+         {{0, Origin::alternative}, {1, Origin::synonym}, {}, {2, Origin::same}}},
+        {{"", "b", "b"},
+         true,
+         {"b", "", "gone", "b"},
+         {true},
+         {{1, Origin::saved}, {}, {}, {1, Origin::saved}}},
+        {{"", "b"},
+         false,
+         {"b", "", "gone", "b"},
+         {true},
+         {{0, Origin::inOrder}, {1, Origin::inOrder}, {}, {}}},
+    };
+    for (const auto &[titles, holdsTitles, savedNames, refusesSimilar, expected] : cases) {
+        Names saved = savedNames;
+        EXPECT_EQ(openingMatches(app, alternatives, refusesSimilar, titles, holdsTitles,
+                                 saved.empty() ? nullptr : &saved),
+                  expected)
+            << testing::PrintToString(titles);
+    }
 }
 
 TEST(MatchColumns, RefusesAScoreOfExactlyTheThresholdAndTakesTheNextDouble) {
