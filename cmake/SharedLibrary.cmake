@@ -1,71 +1,51 @@
 # SPDX-License-Identifier: MIT
 
-# The library that a host loads: the dialogs, their drag and drop and the door to them, with the
-# matcher and the text tools linked in.
+# The library that a host loads: the dialogs, with the matcher and the text tools linked in.
 
 include(GenerateExportHeader)
-find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
-
-if(WIN32)
-    set(platform msw)
-    enable_language(RC)
-else()
-    set(platform gtk)
-    find_package(PkgConfig REQUIRED)
-    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 wayland-client)
-endif()
-
-# The toolkit's headers are not ours to warn about.
-add_library(columnimport_toolkit INTERFACE)
-target_include_directories(columnimport_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
-target_compile_definitions(columnimport_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
-target_compile_options(columnimport_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
-target_link_libraries(columnimport_toolkit INTERFACE ${wxWidgets_LIBRARIES})
-
-add_subdirectory(languages)
-add_subdirectory(names)
 
 add_library(columnimport SHARED
-    dialogs/${platform}/Scale.cpp
+    delimited/dialogReading.cpp
     dialogs/${platform}/nativeControls.cpp
-    dialogs/${platform}/screenRoom.cpp
+    dialogs/${platform}/screen.cpp
     dialogs/DelimiterField.cpp
+    dialogs/DialogAccess.cpp
     dialogs/HeaderSection.cpp
-    dialogs/ImportDetails.cpp
+    dialogs/History.cpp
+    dialogs/ImportLists.cpp
     dialogs/MatchingSection.cpp
-    dialogs/RefreshStep.cpp
-    dialogs/Scale.cpp
-    dialogs/ScreenColumn.cpp
+    dialogs/StatusLine.cpp
     dialogs/arrowBitmap.cpp
     dialogs/fitToScreen.cpp
-    dialogs/headerSentence.cpp
-    dialogs/quietSentence.cpp
-    dialogs/requiredSentence.cpp
+    dialogs/sentences.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
-    dragdrop/${platform}/AccessibleRows.cpp
     dragdrop/${platform}/RowMarks.cpp
     dragdrop/${platform}/UseMarks.cpp
-    dragdrop/${platform}/clipboardText.cpp
-    dragdrop/History.cpp
+    dragdrop/${platform}/listBox.cpp
+    dragdrop/ChangeQueue.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
-    dragdrop/MatchListKeys.cpp
     dragdrop/TextDropTarget.cpp
-    dragdrop/clipboard.cpp
     dragdrop/dragText.cpp
     dragdrop/rowsText.cpp
-    dragdrop/findTyped.cpp
-    dragdrop/tipWhereCut.cpp
+    dragdrop/tip.cpp
     host/${platform}/HostStandIn.cpp
     host/${platform}/modalLoop.cpp
     host/${platform}/startToolkit.cpp
-    host/OpenRun.cpp
     host/c/show.cpp
-    host/runDialog.cpp
     host/runImport.cpp
     host/toolkit.cpp
-    host/wxImportCSVDialogPeer.cpp)
+    host/wxImportCSVDialogPeer.cpp
+    keyboard/${platform}/clipboardText.cpp
+    keyboard/FileListKeys.cpp
+    keyboard/MatchListKeys.cpp
+    keyboard/Paste.cpp
+    keyboard/clipboard.cpp
+    keyboard/findTyped.cpp
+    readers/${platform}/AccessibleRows.cpp
+    readers/${platform}/describe.cpp
+    readers/rowText.cpp)
 add_library(columnimport::columnimport ALIAS columnimport)
 generate_export_header(columnimport)
 columnimport_own_code(columnimport)
@@ -83,13 +63,12 @@ if(WIN32)
     target_sources(columnimport PRIVATE ${catalogue_resources})
 else()
     target_sources(columnimport PRIVATE
-        dragdrop/gtk/AccessibleRow.cpp
         dragdrop/gtk/ForeignText.cpp
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
-        dragdrop/gtk/listBox.cpp
         dragdrop/gtk/markColours.cpp
-        host/gtk/frameShadow.cpp)
+        host/gtk/frameShadow.cpp
+        readers/gtk/AccessibleRow.cpp)
     include(cmake/ProposeLibrary.cmake)
     target_link_libraries(columnimport PUBLIC columnimport_propose PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
@@ -121,7 +100,7 @@ else()
 endif()
 
 target_include_directories(columnimport
-    PRIVATE dragdrop/${platform}
+    PRIVATE dragdrop/${platform} readers/${platform}
     PUBLIC
         "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host;${PROJECT_SOURCE_DIR}/host/c;${PROJECT_SOURCE_DIR}/host/${platform};${PROJECT_SOURCE_DIR}/dialogs;${CMAKE_CURRENT_BINARY_DIR}>"
         "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/columnimport>")

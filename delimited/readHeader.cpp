@@ -3,7 +3,7 @@
 #include "delimited/readHeader.h"
 
 #include "delimited/SourceFile.h"
-#include "delimited/isUtf8.h"
+#include "names/isUtf8.h"
 #include "delimited/splitLine.h"
 
 #include <algorithm>

@@ -5,6 +5,7 @@
 #include "dialogs/nativeControls.h"
 #include "languages/translated.h"
 #include "names/nameText.h"
+#include "readers/describe.h"
 
 #include <string>
 

@@ -5,21 +5,18 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
-#include "delimited/readHeader.h"
 #include "delimited/readPreview.h"
 #include "dialogs/DelimiterField.h"
-#include "dialogs/ImportDetails.h"
-#include "dialogs/RefreshStep.h"
-#include "dialogs/Scale.h"
-#include "dialogs/headerSentence.h"
+#include "dialogs/ImportOptions.h"
+#include "dialogs/StatusLine.h"
 #include "dialogs/nativeControls.h"
-#include "dialogs/quietSentence.h"
+#include "dialogs/screen.h"
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
 #include "names/nameText.h"
+#include "readers/describe.h"
 
 #include <mutex>
-#include <utility>
 
 #include <wx/checkbox.h>
 #include <wx/image.h>
@@ -76,34 +73,23 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     auto *optionsRow = new wxBoxSizer(wxHORIZONTAL);
     optionsRow->SetMinSize(previewSize.x, wxDefaultCoord);
     optionsRow->Add(options);
-    columnimport::addQuietSentence(*this, *optionsRow, scale(10));
+    m_status = new columnimport::StatusLine(*this);
+    optionsRow->Add(m_status, columnimport::besideControls(scale(10)));
     sizer->Add(optionsRow, wxSizerFlags().Border(wxLEFT | wxRIGHT, scale(10)));
 
     auto *text = new wxStaticText(preview->GetStaticBox(), TEXT_FILE_PREVIEW, wxEmptyString,
                                   wxDefaultPosition, previewSize);
     fitLines(*text, columnimport::previewLines, previewSize.y);
     columnimport::cutLongLines(*text);
-    // The file's text is no caption: an ampersand in it is an ampersand. A new label makes a static
-    // text as large as itself, and the box around it would be fitted to that.
+    // SetLabelText, since an ampersand in a file is an ampersand. A new label makes a static text as
+    // large as itself, and the box around it would be fitted to that.
     text->SetLabelText(columnimport::previewText(columnimport::readPreview(
-        m_fileName, columnimport::tellingLength, m_details->byteOrderMark)));
+        m_fileName, columnimport::tellingLength, m_options->byteOrderMark)));
     text->SetSize(previewSize);
     columnimport::setAccessibleName(*text, translated("File preview"));
     preview->Add(text, wxSizerFlags().Align(wxALIGN_CENTER));
 
     loadHeader();
-}
-
-void wxImportCSVDialog::loadHeader() {
-    columnimport::Header header =
-        columnimport::readHeader(m_fileName, m_delimiter, m_details->byteOrderMark);
-    m_fileSchema = std::move(header.columns);
-    m_details->fileProblem = columnimport::problemOf(header);
-    columnimport::say(*this, columnimport::Matter::source, columnimport::headerSentence(header));
-}
-
-std::string wxImportCSVDialog::getFilePreview() {
-    return columnimport::readPreview(m_fileName);
 }
 
 void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
@@ -112,7 +98,6 @@ void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
     if (typed.empty() || typed.front() == m_delimiter) {
         return;
     }
-    columnimport::RefreshStep::begin(*this, std::move(m_fileSchema));
     m_delimiter = typed.front();
     loadHeader();
     wxCommandEvent refresh;

@@ -2,8 +2,7 @@
 
 #include "dialogs/fitToScreen.h"
 
-#include "dialogs/Scale.h"
-#include "dialogs/screenRoom.h"
+#include "dialogs/screen.h"
 #include "dialogs/wxImportCSVDialog.h"
 #include "dragdrop/controls.h"
 
@@ -60,6 +59,16 @@ void letRowsBeNarrower(wxSizer &sizer, int missing) {
 }
 
 } // namespace
+
+ScreenColumn::ScreenColumn(const wxWindow &dialog)
+    : wxBoxSizer(wxVERTICAL), m_room(contentRoom(dialog).x) {}
+
+void ScreenColumn::RepositionChildren(const wxSize &minSize) {
+    const wxSize whole = m_size;
+    m_size.x = std::min(whole.x, std::max(m_room, minSize.x));
+    wxBoxSizer::RepositionChildren(minSize);
+    m_size = whole;
+}
 
 void fitToScreen(wxWindow &dialog, wxSizer &sizer) {
     auto &files = *findControl<wxWindow>(dialog, wxImportCSVDialog::LISTBOX_FILE);

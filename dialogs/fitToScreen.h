@@ -2,14 +2,25 @@
 
 #pragma once
 
-class wxSizer;
-class wxWindow;
+#include <wx/sizer.h>
 
 namespace columnimport {
 
-/// Makes lower and narrower what `sizer` holds of `dialog` as far as the screen has no room for it,
-/// so that the options and the buttons are in view: both lists lose height down to five rows, then
-/// the preview loses lines; the match list and the preview lose width.
+/// The content of a dialog, from top to bottom. If the frame is wider than the screen, the items at
+/// the right are in view all the same.
+class ScreenColumn : public wxBoxSizer {
+public:
+    explicit ScreenColumn(const wxWindow &dialog);
+
+    void RepositionChildren(const wxSize &minSize) override;
+
+private:
+    int m_room;
+};
+
+/// Makes the items of `sizer` lower and narrower if the screen has no room for them below and beside
+/// the place of `dialog`, so that the options and the buttons are in view: both lists lose height
+/// down to five rows, then the preview loses lines; the match list and the preview lose width.
 void fitToScreen(wxWindow &dialog, wxSizer &sizer);
 
 } // namespace columnimport

@@ -2,8 +2,10 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
-#include "dialogs/ImportDetails.h"
-#include "dialogs/ScreenColumn.h"
+#include "delimited/readHeader.h"
+#include "dialogs/ImportLists.h"
+#include "dialogs/ImportOptions.h"
+#include "dialogs/fitToScreen.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
@@ -42,7 +44,8 @@ wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
       m_firstLineHeader(firstLineHeader), m_fileName(std::move(fileName)), m_isOk(false),
       m_useSavedMatches(useSavedMatches), m_savedMatches(std::move(savedMatches)),
       m_matchDropTarget(nullptr), m_fileDropTarget(nullptr),
-      m_details(std::make_unique<columnimport::ImportDetails>()) {
+      m_options(std::make_unique<const columnimport::ImportOptions>()),
+      m_header(std::make_unique<columnimport::Header>()), m_status(nullptr) {
     if (!columnimport::holdsAName(m_savedMatches)) {
         m_useSavedMatches = false;
     }
@@ -89,4 +92,5 @@ bool wxImportCSVDialog::isOk() const {
 
 void wxImportCSVDialog::setFileSchema(std::vector<std::string> fileSchema) {
     m_fileSchema = std::move(fileSchema);
+    *m_header = {{}, columnimport::FirstLine::cut, {}};
 }

@@ -13,8 +13,11 @@
 class wxBoxSizer;
 
 namespace columnimport {
-class RefreshStep;
-struct ImportDetails;
+struct DialogAccess;
+struct Header;
+class ImportLists;
+struct ImportOptions;
+class StatusLine;
 class TextDropTarget;
 } // namespace columnimport
 
@@ -32,9 +35,10 @@ class TextDropTarget;
 ///     }
 ///
 /// The matches live only as the texts of the match list, which has one row per application column:
-/// the name of the file column, or "Not used". Dragging writes into these rows; every refresh (the
-/// check box, another delimiter, "Reset to Default") makes them anew and drops what was changed by
-/// hand.
+/// the name of the file column, or "Not used". Drops, keys and double clicks write into these rows.
+/// Every refresh (the check box, another delimiter, "Reset to Default", or a call of `onCheckHeader`)
+/// fills the list anew from the members and drops what the user changed by hand. Control and Z takes
+/// back one change after the other, up to the last refresh and including it.
 class COLUMNIMPORT_EXPORT wxImportCSVDialog : public wxDialog {
 public:
     static const int BTN_ADD = 1;           ///< no control has it
@@ -97,14 +101,16 @@ protected:
     /// lists. Runs last.
     void createMainDlg(wxBoxSizer *sizer);
 
-    /// Reads `m_fileSchema` from the first line of the file.
+    /// Reads `m_fileSchema` from the first line of the file. Touches no control: the lists and the
+    /// status line follow at the next `onCheckHeader`.
     void loadHeader();
 
     /// The first lines of the file as raw bytes, each with one line feed. The preview shows the
     /// heads of long ones.
     std::string getFilePreview();
 
-    /// Makes the content of both lists anew, by position, from the saved matches or as a proposal.
+    /// Refreshes both lists from the members: by position, from the saved matches or as a proposal.
+    /// Reads nothing of the event. To be called after `setFileSchema` or `loadHeader`, too.
     void onCheckHeader(wxCommandEvent &event);
 
     /// Takes the first byte typed as the delimiter and reads the file again if it is another one.
@@ -116,11 +122,12 @@ protected:
     /// Shows the rows that read "Not used" in bold and the others at normal weight.
     void applyListBoxMatchFont();
 
-    /// Replaces the file columns; no control is touched.
+    /// Replaces the file columns. Touches no control, as `loadHeader`.
     void setFileSchema(std::vector<std::string> fileSchema);
 
 private:
-    friend class columnimport::RefreshStep;
+    friend struct columnimport::DialogAccess;
+    friend class columnimport::ImportLists;
 
     std::vector<std::string> m_appColumns;
     std::vector<std::string> m_fileSchema;
@@ -132,9 +139,11 @@ private:
     std::vector<std::string> m_savedMatches;
     columnimport::TextDropTarget *m_matchDropTarget; // owned by the match list
     columnimport::TextDropTarget *m_fileDropTarget;  // owned by the list of file columns
-    std::unique_ptr<columnimport::ImportDetails> m_details;
 
-    friend struct columnimport::ImportDetails;
+    std::unique_ptr<const columnimport::ImportOptions> m_options; // what else the host asked for
+    std::unique_ptr<columnimport::Header> m_header; // what loadHeader found, but for the columns
+    columnimport::StatusLine *m_status;             // owned by its sizer; null before `create`
+    std::unique_ptr<columnimport::ImportLists> m_lists; // null before `create`
 
     wxDECLARE_EVENT_TABLE();
 };

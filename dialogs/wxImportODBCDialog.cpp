@@ -2,7 +2,7 @@
 
 #include "dialogs/wxImportODBCDialog.h"
 
-#include "dialogs/ScreenColumn.h"
+#include "dialogs/fitToScreen.h"
 #include "languages/translated.h"
 
 #include <utility>

@@ -3,38 +3,39 @@
 #include "dragdrop/ListBoxSource.h"
 
 #include "dragdrop/ListCtrlSource.h"
-#include "dragdrop/clipboard.h"
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
-#include "dragdrop/findTyped.h"
-#include "dragdrop/tipWhereCut.h"
-#include "languages/translated.h"
-#include "listBox.h" // of the platform
-
-#include <wx/time.h>
+#include "dragdrop/listBox.h"
+#include "dragdrop/tip.h"
 
 namespace columnimport {
 
 ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                              const wxSize &size)
-    : wxListBox(parent, id, position, size), m_useMarks(*this, translated("File columns")) {
+    : wxListBox(parent, id, position, size), m_useMarks(*this) {
     Bind(wxEVT_LEFT_DOWN, &ListBoxSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListBoxSource::onMouseMove, this, wxID_ANY, wxID_ANY);
-    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent &event) { assign(HitTest(event.GetPosition())); });
-    // Also what a screen reader does with an entry.
-    Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent &event) { assign(event.GetInt()); });
-    Bind(wxEVT_CHAR_HOOK, &ListBoxSource::onReturn, this);
-    Bind(wxEVT_KEY_DOWN, &ListBoxSource::onKeyDown, this);
-    Bind(wxEVT_CHAR, &ListBoxSource::onCharacter, this);
+    Bind(wxEVT_LEFT_UP, &ListBoxSource::onLeftUp, this);
+    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent &event) {
+        m_secondClick.pressAgain(HitTest(event.GetPosition()));
+        onLeftDown(event);
+    });
+    // A screen reader activates an entry this way.
+    Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent &event) { pick(event.GetInt()); });
     // The control would select an entry with any button.
     for (const auto &press :
          {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
         Bind(press, [](wxMouseEvent &) {});
     }
-    hearReturn(*this);
 }
 
 ListBoxSource::~ListBoxSource() = default;
+
+void ListBoxSource::pick(int row) {
+    if (row != wxNOT_FOUND && m_picked) {
+        m_picked(GetString(static_cast<unsigned>(row)));
+    }
+}
 
 void ListBoxSource::showNames(const wxArrayString &names) {
     m_names = names;
@@ -50,17 +51,29 @@ void ListBoxSource::showUse(const std::unordered_set<std::int32_t> &used) {
     }
 }
 
+void ListBoxSource::goTo(int row) {
+    goToEntry(*this, row);
+}
+
 wxString ListBoxSource::GetString(unsigned row) const {
     return m_names[row];
 }
 
-// The control is not told of the press, so it takes no focus by itself.
+// The control is not told of the press, so it does not take the focus by itself.
 void ListBoxSource::onLeftDown(wxMouseEvent &event) {
     SetFocus();
     const int row = HitTest(event.GetPosition());
     if (row >= 0) {
-        goToEntry(*this, row);
+        goTo(row);
     }
+}
+
+void ListBoxSource::onLeftUp(wxMouseEvent &event) {
+    const int row = HitTest(event.GetPosition());
+    if (m_secondClick.release(row)) {
+        pick(row);
+    }
+    event.Skip();
 }
 
 void ListBoxSource::onMouseMove(wxMouseEvent &event) {
@@ -68,63 +81,16 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
     if (row < 0) {
         return;
     }
-    tipWhereCut(*this, GetString(static_cast<unsigned>(row)),
-                GetClientSize().x - m_useMarks.width() - GetCharWidth());
+    const wxString name = GetString(static_cast<unsigned>(row));
+    tipWhereCut(*this, name, GetClientSize().x - m_useMarks.width() - GetCharWidth());
     if (!movedWithButtonDown(event)) {
         return;
     }
-    findControl<ListCtrlSource>(*this, matchListId)->clearMarkedRows();
+    m_secondClick.drag();
+    auto &matches = *findControl<ListCtrlSource>(*this, matchListId);
+    matches.clearMarkedRows();
     SetSelection(row);
-    const wxString name = GetString(static_cast<unsigned>(row));
-    dragText(*this, name, name);
-}
-
-void ListBoxSource::onKeyDown(wxKeyEvent &event) {
-    const int row = GetSelection();
-    if (event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C' && row != wxNOT_FOUND) {
-        copyText(GetString(static_cast<unsigned>(row)));
-    } else {
-        event.Skip();
-    }
-}
-
-// The control would take Return for a second click too.
-void ListBoxSource::onReturn(wxKeyEvent &event) {
-    if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
-        event.Skip();
-    } else if (event.ControlDown()) {
-        assign(GetSelection());
-    } else {
-        wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
-        wxGetTopLevelParent(this)->GetEventHandler()->AddPendingEvent(ok);
-    }
-}
-
-void ListBoxSource::onCharacter(wxKeyEvent &event) {
-    const wxChar character = event.GetUnicodeKey();
-    if (event.HasModifiers() || character < WXK_SPACE || character == WXK_DELETE) {
-        event.Skip();
-        return;
-    }
-    constexpr int pause = 1500; // after which another name is meant
-    const wxLongLong now = wxGetUTCTimeMillis();
-    if (now - m_typedAt > pause) {
-        m_typed.clear();
-    }
-    m_typedAt = now;
-    m_typed += character;
-    const int found = findTyped(m_names, m_typed, GetSelection());
-    if (found != wxNOT_FOUND) {
-        goToEntry(*this, found);
-    }
-}
-
-void ListBoxSource::assign(int row) {
-    m_typed.clear();
-    if (row != wxNOT_FOUND) {
-        findControl<ListCtrlSource>(*this, matchListId)
-            ->assign(GetString(static_cast<unsigned>(row)));
-    }
+    dragText(*this, matches.names().textForOthers(name), name);
 }
 
 } // namespace columnimport

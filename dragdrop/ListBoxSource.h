@@ -3,52 +3,59 @@
 #pragma once
 
 #include "UseMarks.h" // of the platform
+#include "dragdrop/SecondClick.h"
 
 #include <cstdint>
+#include <functional>
 #include <unordered_set>
+#include <utility>
 
 #include <wx/arrstr.h>
 #include <wx/listbox.h>
-#include <wx/longlong.h>
 
 namespace columnimport {
 
 /// The list of file columns, from which names are dragged onto rows of the match list.
 ///
-/// It takes the left button for itself: a press selects the entry under it, and the first move with
-/// the button down over an entry drags that entry's text. A second click, or Ctrl+Enter, writes the
-/// text into the match list. The list is not changed by any of them, but for the check mark before
-/// each name which the match list holds. The mark is no part of the entry's text.
-///
-/// What is typed selects the next entry that begins with it, or else the next one that contains it.
+/// It handles the left button itself: a press selects the entry under it, and the first move with
+/// the button down over an entry drags that entry's text. A double click picks the entry. Nothing
+/// of this changes the list. A check mark stands before each name that the match list holds; it is
+/// no part of the entry's text.
 class ListBoxSource : public wxListBox {
 public:
     ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
     ~ListBoxSource() override;
 
+    /// Calls `picked` with the text of each entry that is picked from now on.
+    void onPick(std::function<void(const wxString &text)> picked) { m_picked = std::move(picked); }
+
+    /// Picks the entry `row`, or nothing if there is none.
+    void pick(int row);
+
     /// Replaces all entries by `names`, none of which is in use.
     void showNames(const wxArrayString &names);
 
-    /// Shows the columns at these positions, and no others, as in use.
+    /// Marks the columns at these positions, and no others, as in use.
     void showUse(const std::unordered_set<std::int32_t> &used);
+    bool isUsed(unsigned row) const { return m_useMarks.isUsed(row); }
 
     const wxArrayString &names() const { return m_names; }
+
+    /// Selects the entry `row`; the arrow keys go on from it.
+    void goTo(int row);
 
     /// The name in an entry.
     wxString GetString(unsigned row) const override;
 
 private:
     void onLeftDown(wxMouseEvent &event);
+    void onLeftUp(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
-    void onKeyDown(wxKeyEvent &event);
-    void onReturn(wxKeyEvent &event);
-    void onCharacter(wxKeyEvent &event);
-    void assign(int row);
 
+    std::function<void(const wxString &)> m_picked;
     wxArrayString m_names;
     UseMarks m_useMarks;
-    wxString m_typed;     // to be found
-    wxLongLong m_typedAt; // when its last character was typed, in milliseconds
+    SecondClick m_secondClick;
 };
 
 } // namespace columnimport

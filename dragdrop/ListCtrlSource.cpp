@@ -2,26 +2,26 @@
 
 #include "dragdrop/ListCtrlSource.h"
 
-#include "dragdrop/ListBoxSource.h"
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
 #include "dragdrop/rowsText.h"
-#include "dragdrop/tipWhereCut.h"
+#include "dragdrop/tip.h"
 #include "languages/translated.h"
 
 #include <algorithm>
-#include <unordered_set>
 
 namespace columnimport {
 
 ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                                const wxSize &size)
-    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this),
-      m_accessible(*this, m_marks, translated("Column matching")), m_keys(*this) {
+    : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this) {
     Bind(wxEVT_LEFT_DOWN, &ListCtrlSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_UP, &ListCtrlSource::onLeftUp, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListCtrlSource::onMouseMove, this, wxID_ANY, wxID_ANY);
-    Bind(wxEVT_LEFT_DCLICK, &ListCtrlSource::onLeftDown, this);
+    Bind(wxEVT_LEFT_DCLICK, [this](wxMouseEvent &event) {
+        m_secondClick.pressAgain(static_cast<int>(rowAt(event.GetPosition())));
+        onLeftDown(event);
+    });
     // The control would select rows with any button.
     for (const auto &press :
          {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
@@ -29,9 +29,22 @@ ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &p
     }
 }
 
-// What is held beside the rows hears of their end, and has to be there yet.
+// Members bound to the delete event must outlive the rows, so the rows go first.
 ListCtrlSource::~ListCtrlSource() {
     DeleteAllItems();
+}
+
+void ListCtrlSource::showRows(const std::vector<RowMatch> &matches,
+                              const wxArrayString &applications, ShownNames &names) {
+    DeleteAllItems();
+    m_names = &names;
+    m_origins.clear();
+    for (const RowMatch &match : matches) {
+        const auto row = static_cast<long>(m_origins.size());
+        m_origins.push_back(match);
+        InsertItem(row, match.text);
+        SetItem(row, matchColumn + 1, applications[m_origins.size() - 1]);
+    }
 }
 
 std::string ListCtrlSource::getMatchText(int row) const {
@@ -39,83 +52,41 @@ std::string ListCtrlSource::getMatchText(int row) const {
 }
 
 SourceMatch ListCtrlSource::getMatch(int row) const {
-    const wxString text = GetItemText(row, matchColumn);
-    if (text == m_names->textOf(NameBook::noColumn)) {
+    const RowMatch match = rowMatch(row);
+    if (match.text == m_names->textOf(ShownNames::noColumn)) {
         return {};
     }
-    return {{m_names->positionOf(text)}, m_names->bytesOf(text)};
+    SourceMatch source{match, m_names->bytesOf(match.text)};
+    source.position = m_names->positionOf(match.text);
+    return source;
 }
 
-void ListCtrlSource::appendRow(const wxString &matchText, const wxString &application) {
-    const long row = InsertItem(GetItemCount(), matchText);
-    SetItem(row, matchColumn + 1, application);
+RowMatch ListCtrlSource::rowMatch(long row) const {
+    return {m_origins[static_cast<std::size_t>(row)], GetItemText(row, matchColumn)};
 }
 
-std::vector<wxString> ListCtrlSource::matchTexts() const {
-    std::vector<wxString> texts;
+std::vector<RowMatch> ListCtrlSource::rowMatches() const {
+    std::vector<RowMatch> matches;
     for (long row = 0; row < GetItemCount(); ++row) {
-        texts.push_back(GetItemText(row, matchColumn));
+        matches.push_back(rowMatch(row));
     }
-    return texts;
+    return matches;
 }
 
-void ListCtrlSource::setMatchTexts(const std::vector<long> &rows, const wxString &text) {
-    if (rows.empty()) {
-        return;
-    }
-    std::vector<wxString> texts(rows.size(), text);
-    exchange(rows, texts);
-    m_history.add([this, rows, texts]() mutable {
-        exchange(rows, texts);
-        EnsureVisible(rows.front());
-    });
-}
-
-void ListCtrlSource::exchange(const std::vector<long> &rows, std::vector<wxString> &texts) {
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        const wxString before = GetItemText(rows[index], matchColumn);
-        SetItem(rows[index], matchColumn, texts[index]);
-        applyMatchFont(rows[index]);
-        texts[index] = before;
-    }
-    showUse();
-    m_accessible.tell(rows);
-}
-
-void ListCtrlSource::assign(const wxString &text) {
-    std::vector<long> rows = m_keys.chosenRows();
-    if (rows.empty()) {
-        rows.push_back(nextUnusedRow(wxNOT_FOUND));
-    }
-    if (rows.front() == wxNOT_FOUND) {
-        return;
-    }
-    setMatchTexts(rows, text);
-    clearMarkedRows();
-    const long next = nextUnusedRow(rows.back());
-    m_keys.goTo(next != wxNOT_FOUND ? next : rows.back());
-}
-
-long ListCtrlSource::nextUnusedRow(long row) const {
-    for (long step = 1; step <= GetItemCount(); ++step) {
-        const long next = (row + step) % GetItemCount();
-        if (isUnused(next)) {
-            return next;
-        }
-    }
-    return wxNOT_FOUND;
-}
-
-void ListCtrlSource::showUse() {
+std::unordered_set<std::int32_t> ListCtrlSource::usedColumns() const {
     std::unordered_set<std::int32_t> used;
-    for (const wxString &text : matchTexts()) {
-        used.insert(m_names->positionOf(text));
+    for (long row = 0; row < GetItemCount(); ++row) {
+        used.insert(m_names->positionOf(GetItemText(row, matchColumn)));
     }
-    findControl<ListBoxSource>(*this, fileListId)->showUse(used);
+    return used;
 }
 
 bool ListCtrlSource::isUnused(long row) const {
     return m_names->isUnused(GetItemText(row, matchColumn));
+}
+
+bool ListCtrlSource::isGuess(long row) const {
+    return m_origins[static_cast<std::size_t>(row)].origin == MatchOrigin::similar;
 }
 
 void ListCtrlSource::applyMatchFont(long row) {
@@ -125,7 +96,102 @@ void ListCtrlSource::applyMatchFont(long row) {
         font = GetFont();
     }
     font.SetWeight(isUnused(row) ? wxFONTWEIGHT_BOLD : wxFONTWEIGHT_NORMAL);
+    font.SetStyle(isGuess(row) ? wxFONTSTYLE_ITALIC : wxFONTSTYLE_NORMAL);
     SetItemFont(row, font);
+}
+
+void ListCtrlSource::write(const Rows &rows, const wxString &text) {
+    m_changes.run([this, rows, text] {
+        ColumnMatch match{m_names->positionOf(text), MatchOrigin::byHand};
+        if (text == m_names->textOf(ShownNames::noColumn)) {
+            match.origin = MatchOrigin::none;
+        } else if (match.position == ShownNames::noColumn) {
+            match.origin = MatchOrigin::foreign;
+        }
+        change(rows, std::vector<RowMatch>(rows.size(), {match, text}));
+    });
+}
+
+void ListCtrlSource::change(const Rows &rows, const std::vector<RowMatch> &matches) {
+    Rows changing;
+    std::vector<RowMatch> wanted;
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        const long row = rows[index];
+        if (row < GetItemCount() &&
+            (isGuess(row) || GetItemText(row, matchColumn) != matches[index].text)) {
+            changing.push_back(row);
+            wanted.push_back(matches[index]);
+        }
+    }
+    if (changing.empty()) {
+        return;
+    }
+    exchange(changing, wanted);
+    if (m_written) {
+        m_written([this, changing, wanted]() mutable {
+            exchange(changing, wanted);
+            EnsureVisible(changing.front());
+        });
+    }
+}
+
+void ListCtrlSource::exchange(const Rows &rows, std::vector<RowMatch> &matches) {
+    for (std::size_t index = 0; index < rows.size(); ++index) {
+        const long row = rows[index];
+        const RowMatch before = rowMatch(row);
+        m_origins[static_cast<std::size_t>(row)] = matches[index];
+        SetItem(row, matchColumn, matches[index].text);
+        applyMatchFont(row);
+        matches[index] = before;
+    }
+    if (m_changed) {
+        m_changed(rows);
+    }
+}
+
+void ListCtrlSource::assign(const wxString &text) {
+    // The marks are the person's choice now; the rest is settled when the turn comes.
+    m_changes.run([this, text, marked = markedRows()] {
+        const auto unused = [this](long row) { return isUnused(row); };
+        Rows rows = marked.empty() ? chosenRows() : marked;
+        if (rows.empty()) {
+            rows.push_back(nextRow(wxNOT_FOUND, unused));
+        }
+        if (rows.front() == wxNOT_FOUND) {
+            return;
+        }
+        write(rows, text);
+        clearMarkedRows();
+        const long next = nextRow(rows.back(), unused);
+        goTo(next != wxNOT_FOUND ? next : rows.back());
+    });
+}
+
+void ListCtrlSource::confirm(const Rows &rows) {
+    m_changes.run([this, rows] {
+        Rows guesses;
+        std::vector<RowMatch> matches;
+        for (const long row : rows) {
+            if (row < GetItemCount() && isGuess(row)) {
+                guesses.push_back(row);
+                matches.push_back(rowMatch(row));
+                matches.back().origin = MatchOrigin::byHand;
+                matches.back().score = noScore;
+            }
+        }
+        change(guesses, matches);
+    });
+}
+
+template <typename Wanted>
+long ListCtrlSource::nextRow(long row, const Wanted &isWanted) const {
+    for (long step = 1; step <= GetItemCount(); ++step) {
+        const long next = (row + step) % GetItemCount();
+        if (isWanted(next)) {
+            return next;
+        }
+    }
+    return wxNOT_FOUND;
 }
 
 long ListCtrlSource::rowAt(const wxPoint &position) const {
@@ -154,10 +220,6 @@ void ListCtrlSource::scrollAtEdge() {
     }
 }
 
-void ListCtrlSource::layOutRows() {
-    OnInternalIdle();
-}
-
 void ListCtrlSource::clearHoverRows() {
     for (long row = GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED);
          row != wxNOT_FOUND; row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
@@ -166,7 +228,8 @@ void ListCtrlSource::clearHoverRows() {
 }
 
 void ListCtrlSource::markRows(long one, long other) {
-    for (long row = std::min(one, other); row <= std::max(one, other); ++row) {
+    const long last = std::min<long>(std::max(one, other), GetItemCount() - 1);
+    for (long row = std::min(one, other); row <= last; ++row) {
         m_marks.set(row, true);
     }
 }
@@ -177,30 +240,55 @@ void ListCtrlSource::clearMarkedRows() {
     }
 }
 
-int ListCtrlSource::countMarkedRows() const {
-    return static_cast<int>(markedRows().size());
-}
-
-std::vector<long> ListCtrlSource::markedRows() const {
-    std::vector<long> rows;
+ListCtrlSource::Rows ListCtrlSource::markedRows() const {
+    Rows rows;
     for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
         rows.push_back(row);
     }
     return rows;
 }
 
-long ListCtrlSource::nextMarkedRow(long row) const {
-    return m_marks.next(row);
+long ListCtrlSource::currentRow() const {
+    return GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED);
 }
 
-// The press is kept from the control, whose own selection would mix with the marks; so it takes no
-// focus by itself.
+void ListCtrlSource::moveTo(long row) {
+    SetItemState(row, wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
+    EnsureVisible(row);
+}
+
+void ListCtrlSource::goTo(long row) {
+    m_keyAnchor = row;
+    moveTo(row);
+    clearHoverRows();
+    hoverOver(row);
+}
+
+void ListCtrlSource::goToNextGuess(long row) {
+    const long next = nextRow(row, [this](long each) { return isGuess(each); });
+    if (next != wxNOT_FOUND) {
+        clearMarkedRows();
+        goTo(next);
+    }
+}
+
+ListCtrlSource::Rows ListCtrlSource::chosenRows() const {
+    Rows rows = markedRows();
+    if (rows.empty() && currentRow() != wxNOT_FOUND) {
+        rows.push_back(currentRow());
+    }
+    return rows;
+}
+
+// The press is kept from the control, whose own selection would mix with the marks; so it does not
+// take the focus by itself.
 void ListCtrlSource::onLeftDown(wxMouseEvent &) {
     SetFocus();
 }
 
 void ListCtrlSource::onLeftUp(wxMouseEvent &event) {
     const long row = rowAt(event.GetPosition());
+    const bool isSecondClick = m_secondClick.release(static_cast<int>(row));
     if (row < 0) {
         clearMarkedRows();
         return;
@@ -211,13 +299,16 @@ void ListCtrlSource::onLeftUp(wxMouseEvent &event) {
     if (!control && !shift) {
         clearMarkedRows();
     }
-    // The list may have fewer rows than when the anchor was set.
-    if (shift && m_lastClickedRow >= 0 && m_lastClickedRow < GetItemCount()) {
+    if (shift && m_lastClickedRow >= 0) {
         markRows(m_lastClickedRow, row);
     }
     m_marks.set(row, true);
     m_lastClickedRow = static_cast<std::int32_t>(row);
-    m_keys.startFrom(row);
+    m_keyAnchor = row;
+    SetItemState(row, wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
+    if (isSecondClick && !control && !shift) {
+        confirm({row});
+    }
 }
 
 void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
@@ -226,19 +317,29 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
         return;
     }
     hoverOver(row);
-    tipWhereCutAt(event.GetPosition(), row);
+    showTip(event.GetPosition(), row);
     if (!movedWithButtonDown(event)) {
         return;
     }
+    m_secondClick.drag();
     if (!m_marks.isMarked(row)) {
         clearMarkedRows();
         m_marks.set(row, true);
     }
     const wxString name = GetItemText(row, matchColumn);
-    dragText(*this, name, rowsText(name, static_cast<std::size_t>(countMarkedRows())));
+    m_draggedRow = row;
+    dragText(*this, m_names->textForOthers(name),
+             rowsText(name, static_cast<std::size_t>(countMarkedRows())));
+    m_draggedRow = wxNOT_FOUND;
 }
 
-void ListCtrlSource::tipWhereCutAt(const wxPoint &position, long row) {
+void ListCtrlSource::showTip(const wxPoint &position, long row) {
+    if (isGuess(row)) {
+        setTip(*this, wxString::Format(translated("Similar names: %s and %s"),
+                                       GetItemText(row, matchColumn),
+                                       GetItemText(row, matchColumn + 1)));
+        return;
+    }
     int column = 0;
     int right = GetColumnWidth(column) - GetScrollPos(wxHORIZONTAL);
     while (position.x >= right && column + 1 < GetColumnCount()) {

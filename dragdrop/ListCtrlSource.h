@@ -2,16 +2,18 @@
 
 #pragma once
 
-#include "AccessibleRows.h" // of the platform
-#include "RowMarks.h"       // of the platform
-#include "dragdrop/History.h"
-#include "dragdrop/MatchListKeys.h"
-#include "names/NameBook.h"
+#include "RowMarks.h" // of the platform
+#include "dragdrop/ChangeQueue.h"
+#include "dragdrop/RowMatch.h"
+#include "dragdrop/SecondClick.h"
+#include "names/ShownNames.h"
 #include "names/SourceMatch.h"
 
 #include <cstdint>
-#include <memory>
+#include <functional>
 #include <string>
+#include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include <wx/listctrl.h>
@@ -19,112 +21,167 @@
 namespace columnimport {
 
 /// The match list: one row per application column, with the matched file column's name in its first
-/// column. The rows are the only record of the current matching. They hold the texts under which
-/// the names are shown; `names` knows the bytes that these stand for.
+/// column. The rows are the only record of the current matching. They hold shown texts; `names`
+/// knows the bytes that these stand for. A row in bold reads "Not used", one in italics is a guess.
 ///
-/// Two states of a row, independent of each other:
-///  - marked: the row belongs to the user's multiple selection. A click marks one row, Control adds
-///    a row, Shift adds the range from the row clicked last; a click below the rows clears all.
+/// `write` is the only way in which a person's change reaches a row, whether by drop, key, double
+/// click or paste. The list tells its listeners of every change, and knows none of them.
+///
+/// A row has three states, independent of each other:
+///  - marked: it belongs to the user's multiple selection. A click marks one row, Control adds a
+///    row, Shift adds the range from the row clicked last; a click below the rows clears all marks.
 ///  - hover: the row under the pointer, shown only while no row is marked; at most one.
+///  - current: the row that the keys are at; at most one.
 ///
 /// For example, after a click on row 2 and a Shift-click on row 4 the rows 2, 3 and 4 are marked,
 /// and no row is in hover. Dragging row 3 onto the list of file columns then clears all three
 /// matches; dragging row 7 first leaves row 7 alone marked.
 class ListCtrlSource : public wxListCtrl {
 public:
+    using Rows = std::vector<long>;
+
     ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
     ~ListCtrlSource() override;
+
+    // ---- What the rows hold ----
+
+    /// Replaces all rows. `names` are those of the source from now on, and must outlive the rows.
+    void showRows(const std::vector<RowMatch> &matches, const wxArrayString &applications,
+                  ShownNames &names);
+
+    /// The names of the source's columns; to be called once rows have been shown.
+    ShownNames &names() const { return *m_names; }
 
     /// The match text of `row`, as the bytes of a file column's name or "Not used".
     std::string getMatchText(int row) const;
 
     /// What stands in `row`.
     SourceMatch getMatch(int row) const;
+    RowMatch rowMatch(long row) const;
+    std::vector<RowMatch> rowMatches() const;
 
-    /// Appends a row with these texts.
-    void appendRow(const wxString &matchText, const wxString &application);
-
-    /// The match texts of all rows, as they are shown.
-    std::vector<wxString> matchTexts() const;
-
-    /// Writes a match text into `rows`, as it is to be shown, gives them the weight that goes with
-    /// it, and tells all who are concerned. It is one step of the history.
-    void setMatchTexts(const std::vector<long> &rows, const wxString &text);
-
-    /// Writes it into the marked rows or else into the current one, which before anything was
-    /// chosen is the first that reads "Not used". Then no row is marked, and the next one that
-    /// reads "Not used" is the current one: a person goes on with the next name.
-    void assign(const wxString &text);
-
-    /// What was done in this list, or made it anew.
-    History &history() { return m_history; }
-
-    /// The book of the columns that this dialog shows.
-    NameBook &names() { return *m_names; }
-
-    /// Goes by `names` from now on, and gives the book back by which it went so far. The rows are
-    /// to be made anew.
-    void exchangeNames(std::unique_ptr<NameBook> &names) { m_names.swap(names); }
+    /// The positions of the source columns that the rows hold.
+    std::unordered_set<std::int32_t> usedColumns() const;
 
     /// Whether `row` reads "Not used".
     bool isUnused(long row) const;
+    bool isGuess(long row) const;
 
-    /// Shows `row` in bold if it reads "Not used" and at normal weight otherwise.
+    /// Shows `row` in bold if it reads "Not used", in italics if it is a guess.
     void applyMatchFont(long row);
+
+    // ---- Changing them ----
+
+    /// Writes a text into `rows` in its turn, as chosen by the person. Rows that hold it already
+    /// and rows that are no longer there are left out; if none is left, nothing has happened.
+    void write(const Rows &rows, const wxString &text);
+
+    /// The same with the text of "Not used".
+    void clearMatches(const Rows &rows) { write(rows, m_names->textOf(ShownNames::noColumn)); }
+
+    /// Writes a text into the marked rows or else the current one; before any row was chosen, into
+    /// the first that reads "Not used". Then the next such row is the current one and no row is
+    /// marked, so that a person goes on with the next name.
+    void assign(const wxString &text);
+
+    /// Makes the guesses in `rows` the person's choice.
+    void confirm(const Rows &rows);
+
+    /// The queue in which all these changes are made.
+    ChangeQueue &changes() { return m_changes; }
+
+    /// Calls `changed` whenever rows have been written, also by undo.
+    void onChange(std::function<void(const Rows &)> changed) { m_changed = std::move(changed); }
+
+    /// Calls `written` whenever a person's change has been made. The step exchanges what the rows
+    /// held before with what they hold: run once it undoes the change, run again it does it again.
+    void onWrite(std::function<void(std::function<void()> step)> written) {
+        m_written = std::move(written);
+    }
+
+    // ---- Marks, hover and the current row ----
+
+    RowMarks &marks() { return m_marks; }
+    void clearMarkedRows();
+    int countMarkedRows() const { return static_cast<int>(markedRows().size()); }
+    Rows markedRows() const;
+
+    /// Marks the rows from `one` to `other`, both included, in either order. Rows behind the last
+    /// one are left out.
+    void markRows(long one, long other);
+
+    void clearHoverRows();
+
+    /// Puts `row` alone in the hover state, unless a row is marked.
+    void hoverOver(long row);
+
+    long currentRow() const;
+
+    /// The row from which Shift and a key mark a range. It survives a refresh.
+    long keyAnchor() const { return m_keyAnchor; }
+    void setKeyAnchor(long row) { m_keyAnchor = row; }
+
+    /// Makes `row` the current one and brings it into view; the anchor of the keys stays.
+    void moveTo(long row);
+
+    /// The same, with the anchor at `row`, and shows it as the row under the pointer is shown.
+    void goTo(long row);
+
+    /// The same for the next guess behind `row`, if there is one, and no row is marked any more.
+    void goToNextGuess(long row);
+
+    /// The marked rows, or else the current one, or none before a row was chosen.
+    Rows chosenRows() const;
+
+    // ---- The view ----
 
     /// The row at `position`, in the coordinates of the list's mouse and drag events, or
     /// wxNOT_FOUND.
     long rowAt(const wxPoint &position) const;
 
-    /// Puts `row` alone in the hover state, unless a row is marked.
-    void hoverOver(long row);
+    /// The row that is being dragged, or wxNOT_FOUND.
+    long draggedRow() const { return m_draggedRow; }
 
-    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows, which moves
-    /// another row under it. The edge is thin, so that a drop on the first or last row in view is
-    /// no matter of luck.
+    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows, which brings
+    /// another row under it. The edge is thin, so that a drop on the first or last row in view
+    /// does not scroll by accident.
     void scrollAtEdge();
 
-    /// Gives the rows their places at once. Left to the control, which waits until the toolkit is
-    /// idle, they are blank till then: with very many file columns, for as long as the list of
-    /// those takes to measure its own rows.
-    void layOutRows();
-
-    void clearHoverRows();
-
-    /// Marks the rows from `one` to `other`, both included, in either order.
-    void markRows(long one, long other);
-
-    /// Has the list of file columns tell which of them the rows hold.
-    void showUse();
-
-    void clearMarkedRows();
-    int countMarkedRows() const;
-    std::vector<long> markedRows() const;
-
-    /// The first marked row behind `row`, or wxNOT_FOUND, which starts at the first row.
-    long nextMarkedRow(long row) const;
+    /// Lays out the rows at once. The control waits until the toolkit is idle, and with very many
+    /// file columns the other list keeps it busy; the rows would stay blank until then.
+    void layOutRows() { OnInternalIdle(); }
 
 private:
-    /// Writes one text into each of `rows`, and keeps in its place what the row held before.
-    void exchange(const std::vector<long> &rows, std::vector<wxString> &texts);
+    /// Gives `rows` these matches as one change, and leaves out rows that hold theirs already.
+    void change(const Rows &rows, const std::vector<RowMatch> &matches);
 
-    /// The first row behind `row`, or else from the first one on, that reads "Not used"; or
-    /// wxNOT_FOUND.
-    long nextUnusedRow(long row) const;
+    /// Writes each of `matches` into the row of the same index, and what the row held into it.
+    void exchange(const Rows &rows, std::vector<RowMatch> &matches);
+
+    /// The first row behind `row`, or else from the first one on, that `isWanted`; or wxNOT_FOUND.
+    template <typename Wanted>
+    long nextRow(long row, const Wanted &isWanted) const;
+
+    /// The first marked row behind `row`, or wxNOT_FOUND, which starts at the first row.
+    long nextMarkedRow(long row) const { return m_marks.next(row); }
 
     void onLeftDown(wxMouseEvent &event);
     void onLeftUp(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
 
-    /// Tells the whole name in `row` at `position` if the column is too narrow for it.
-    void tipWhereCutAt(const wxPoint &position, long row);
+    /// Explains a guess in a tooltip, or gives the whole text at `position` if it is cut.
+    void showTip(const wxPoint &position, long row);
 
-    std::unique_ptr<NameBook> m_names = std::make_unique<NameBook>();
-    History m_history;
+    ShownNames *m_names = nullptr;
+    std::vector<ColumnMatch> m_origins; // by row; the texts are the control's
+    std::function<void(const Rows &)> m_changed;
+    std::function<void(std::function<void()>)> m_written;
+    ChangeQueue m_changes;
     RowMarks m_marks;
-    AccessibleRows m_accessible;
+    SecondClick m_secondClick;
     std::int32_t m_lastClickedRow = wxNOT_FOUND; // the anchor of a Shift range; survives a refresh
-    MatchListKeys m_keys;
+    long m_keyAnchor = wxNOT_FOUND;
+    long m_draggedRow = wxNOT_FOUND;
 };
 
 } // namespace columnimport

@@ -2,7 +2,7 @@
 
 #include "dragdrop/TextDropTarget.h"
 
-#include "ForeignText.h" // of the platform
+#include "dragParts.h" // of the platform
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 
@@ -32,14 +32,14 @@ wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult sugge
 
 bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     if (m_matchList != nullptr) {
-        m_matchList->setMatchTexts(m_matchList->markedRows(),
-                                   m_matchList->names().textOf(NameBook::noColumn));
+        m_matchList->clearMatches(m_matchList->markedRows());
         return true;
     }
     auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);
     const long row = list.rowAt(wxPoint(x, y));
-    if (row >= 0) {
-        list.setMatchTexts({row}, list.names().textOfForeign(text));
+    // A row on itself is a click with a trembling hand.
+    if (row >= 0 && row != list.draggedRow()) {
+        list.write({row}, list.names().textOfForeign(text));
     }
     return true;
 }

@@ -11,11 +11,11 @@ class ListCtrlSource;
 /// Receives text that is dropped on one of the two lists, from the dialog or from any program.
 ///
 /// On the match list the text is written into the row under the pointer. On the list of file
-/// columns, whose target knows the match list, the text does not count: all marked rows of the
-/// match list become "Not used".
+/// columns, whose target knows the match list, the text is ignored: all marked rows of the match
+/// list become "Not used".
 ///
-/// A row out of view is reached during a drag too: each move along the very edge of the match list
-/// scrolls it by a row. The row in the hover state is always the one that a drop would write to.
+/// A move along the very edge of the match list scrolls it by a row, so that a drag reaches rows out
+/// of view. The row in the hover state is always the one that a drop would write to.
 class TextDropTarget : public wxTextDropTarget {
 public:
     /// `owner` is the control on which the target will sit, and which then owns it.

@@ -2,8 +2,7 @@
 
 #include "dragdrop/dragText.h"
 
-#include "RunningDrag.h" // of the platform
-#include "UnicodeText.h" // of the platform
+#include "dragParts.h" // of the platform
 
 #include <wx/dnd.h>
 #include <wx/event.h>

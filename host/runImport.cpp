@@ -2,35 +2,77 @@
 
 #include "host/runImport.h"
 
-#include "dialogs/ImportDetails.h"
+#include "dialogs/DialogAccess.h"
+#include "dialogs/screen.h"
 #include "dialogs/wxImportODBCDialog.h"
 #include "host/HostStandIn.h"
-#include "host/OpenRun.h"
 #include "host/c/columnimport.h"
 #include "host/modalLoop.h"
-#include "host/runDialog.h"
 #include "host/toolkit.h"
 #include "names/nameText.h"
+
+#include <wx/log.h>
 
 namespace columnimport {
 
 namespace {
 
+/// Where the dialog stands, on platforms that let a program place its windows.
+const wxPoint framePlace(100, 100);
+
+/// Holds while a dialog of the library is open: there is one at a time. Meanwhile the toolkit logs
+/// nothing, neither to the host's console nor in windows of its own.
+class OpenRun {
+public:
+    static inline bool isOpen = false;
+
+    OpenRun() { isOpen = true; }
+    ~OpenRun() { isOpen = false; }
+    OpenRun(const OpenRun &) = delete;
+    OpenRun &operator=(const OpenRun &) = delete;
+
+private:
+    wxLogNull m_silence;
+};
+
+/// The size of the frame for a host that asks for `size`: that very size where the layout has its
+/// usual scale. Elsewhere a host can't know what to ask for, so the size follows the scale, up to
+/// the end of the screen.
+wxSize frameSize(const wxWindow &dialog, wxSize size) {
+    constexpr int greatestSize = 32000; // no screen has as many pixels
+    const Scale scale(dialog);
+    if (scale.isUsual()) {
+        return size;
+    }
+    size.DecTo(wxSize(greatestSize, greatestSize));
+    size = scale(size);
+    size.DecTo(frameRoom(dialog));
+    return size;
+}
+
 std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
                  std::optional<ImportResult> &result) {
-    ImportDetails &details = ImportDetails::of(dialog);
-    details.alternatives = request.alternatives;
-    details.required = request.required;
-    details.refusesSimilar = request.refusesSimilar;
-    details.byteOrderMark = request.byteOrderMark;
-    const bool ok = runDialog(dialog, {request.width, request.height});
-    if (hasWindow(dialog)) {
+    DialogAccess::setOptions(dialog, {request.alternatives, request.required,
+                                      request.refusesSimilar, request.byteOrderMark});
+    dialog.SetPosition(framePlace); // where it is fitted to the screen
+    dialog.create();
+    // The fitted size is only a default: the host may ask for less.
+    dialog.SetMinSize(wxDefaultSize);
+    resize(dialog, frameSize(dialog, {request.width, request.height}));
+    dialog.SetPosition(framePlace);
+    const bool ok = showModal(dialog) == wxID_OK;
+    const bool isThere = hasWindow(dialog);
+    if (isThere) {
         result =
-            ImportResult{ImportDetails::matches(dialog), ImportDetails::takeSourceColumns(dialog),
-                         details.fileProblem, dialog.getDelimiter(), dialog.isFirstLineHeader()};
+            ImportResult{DialogAccess::matches(dialog), DialogAccess::takeSourceColumns(dialog),
+                         DialogAccess::fileProblem(dialog), dialog.getDelimiter(),
+                         dialog.isFirstLineHeader()};
     }
     parent.release();
     dialog.Destroy();
+    if (!isThere) {
+        return columnimport_failed;
+    }
     return ok ? columnimport_ok : columnimport_cancelled;
 }
 
@@ -41,7 +83,7 @@ std::int32_t runImport(HostWindow hostWindow, const ImportRequest &request,
     if (!isToolkitSetUp()) {
         return columnimport_no_display;
     }
-    if (OpenRun::isOpen()) {
+    if (OpenRun::isOpen) {
         return columnimport_already_open;
     }
     const OpenRun openRun;

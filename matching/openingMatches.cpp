@@ -52,20 +52,6 @@ void refuse(std::vector<ColumnMatch> &matches, const std::vector<bool> &refusesS
 
 } // namespace
 
-std::string columnName(const std::vector<std::string> &titles, bool holdsTitles,
-                       std::size_t position) {
-    return holdsTitles ? titles[position] : "Column" + std::to_string(position + 1);
-}
-
-std::vector<std::string> columnNames(const std::vector<std::string> &titles, bool holdsTitles) {
-    std::vector<std::string> names;
-    names.reserve(titles.size());
-    for (std::size_t position = 0; position < titles.size(); ++position) {
-        names.push_back(columnName(titles, holdsTitles, position));
-    }
-    return names;
-}
-
 bool holdsAName(const std::vector<std::string> &savedMatches) {
     return std::any_of(savedMatches.begin(), savedMatches.end(),
                        [](const std::string &match) { return !match.empty(); });

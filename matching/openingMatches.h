@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -10,14 +9,6 @@
 #include "names/ColumnMatch.h"
 
 namespace columnimport {
-
-/// The name under which an import knows one of the source's columns: its title, or without titles
-/// "Column1" at position 0, "Column2" at 1 and so on.
-std::string columnName(const std::vector<std::string> &titles, bool holdsTitles,
-                       std::size_t position);
-
-/// The names of all of them.
-std::vector<std::string> columnNames(const std::vector<std::string> &titles, bool holdsTitles);
 
 /// Whether there is anything to find again: a saved match that is not empty.
 bool holdsAName(const std::vector<std::string> &savedMatches);

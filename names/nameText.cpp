@@ -2,7 +2,7 @@
 
 #include "names/nameText.h"
 
-#include "delimited/isUtf8.h"
+#include "names/isUtf8.h"
 
 #include <algorithm>
 #include <string_view>
@@ -22,23 +22,22 @@ bool isUnicode(const wxString &text) {
     return !bytes.empty() && isUtf8(bytes);
 }
 
-/// The picture of a character that can't be seen, or the character itself.
+/// A character that can be seen in the place of one that can't, or the character itself. Each
+/// stand-in is in the fonts of a plain Debian and of Windows.
 wxUniChar standIn(wxUniChar character) {
-    constexpr wxUint32 pictures = 0x2400;
-    constexpr wxUint32 pictureOfDelete = 0x2421;
+    constexpr wxUint32 arrow = 0x2192;
+    constexpr wxUint32 paragraph = 0xB6;
     constexpr wxUint32 replacement = 0xFFFD;
     constexpr wxUint32 byteOrderMark = 0xFEFF;
     const wxUint32 value = character.GetValue();
-    if (value < 0x20) {
-        return pictures + value;
+    if (value == '\t') {
+        return arrow;
     }
-    if (value == byteOrderMark) {
-        return replacement;
+    if (value == '\n' || value == '\r') {
+        return paragraph;
     }
-    if (value == 0x7F) {
-        return pictureOfDelete;
-    }
-    return value >= 0x80 && value < 0xA0 ? wxUniChar(replacement) : character;
+    const bool isControl = value < 0x20 || (value >= 0x7F && value < 0xA0);
+    return isControl || value == byteOrderMark ? wxUniChar(replacement) : character;
 }
 
 /// The first bytes of what is too long, without a part of a UTF-8 character at their end.

@@ -9,8 +9,8 @@
 
 namespace columnimport {
 
-// From bytes to the text that is best to read, and from foreign text to bytes. The two need not
-// invert each other: which bytes a shown text stands for is told by a NameBook.
+// From bytes to the text that is best to read, and from foreign text to bytes. Neither inverts the
+// other: ShownNames knows the bytes that a shown text stands for.
 
 /// The number of bytes up to which a name or a line is shown in full. A file of megabytes without
 /// a line feed has its whole content for the name of its only column, and some list controls give
@@ -29,7 +29,7 @@ std::string encoded(const wxString &text);
 /// `text` with a visible stand-in for each control character and byte-order mark, and its head
 /// alone if it is long.
 ///
-///     readable(L"from\tto") == L"from\x2409to"
+///     readable(L"from\tto") == L"from\x2192to"
 wxString readable(const wxString &text);
 
 /// A name as a person reads it: decoded and readable.

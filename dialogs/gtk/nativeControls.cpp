@@ -5,7 +5,6 @@
 #include <gtk/gtk.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
-#include <wx/window.h>
 
 namespace columnimport {
 
@@ -28,29 +27,6 @@ void fitOneCharacter(wxTextCtrl &control) {
 
 void cutLongLines(wxStaticText &text) {
     gtk_label_set_ellipsize(GTK_LABEL(text.GetHandle()), PANGO_ELLIPSIZE_END);
-}
-
-namespace {
-
-void setName(GtkWidget *widget, const wxString &name) {
-    atk_object_set_name(gtk_widget_get_accessible(widget), name.utf8_str());
-}
-
-} // namespace
-
-// A list is several widgets, and the reader stops at the one that takes the keys.
-void setAccessibleName(wxWindow &control, const wxString &name) {
-    setName(control.GetHandle(), name);
-    if (control.m_focusWidget != nullptr) {
-        setName(control.m_focusWidget, name);
-    }
-    for (wxWindow *part : control.GetChildren()) {
-        setAccessibleName(*part, name);
-    }
-}
-
-void announceWhenShown(wxWindow &control) {
-    atk_object_set_role(gtk_widget_get_accessible(control.GetHandle()), ATK_ROLE_NOTIFICATION);
 }
 
 } // namespace columnimport

@@ -117,7 +117,7 @@ GtkCellLayout *cellsOf(const wxListBox &list) {
 } // namespace
 
 // In the place of the toolkit's own cell, which shows the entry's text too.
-UseMarks::UseMarks(wxListBox &list, const wxString &name) : m_list(list) {
+UseMarks::UseMarks(wxListBox &list) : m_list(list) {
     GtkCellLayout *cells = cellsOf(list);
     auto *cell = static_cast<GtkCellRenderer *>(g_object_new(cellType(), nullptr));
     nameCell(cell).room = width();
@@ -125,9 +125,6 @@ UseMarks::UseMarks(wxListBox &list, const wxString &name) : m_list(list) {
     gtk_cell_layout_pack_start(cells, cell, TRUE);
     gtk_cell_layout_add_attribute(cells, cell, "text", 0);
     gtk_cell_layout_set_cell_data_func(cells, cell, markCell, this, nullptr);
-    for (GtkWidget *part : {list.GetHandle(), list.m_focusWidget}) {
-        atk_object_set_name(gtk_widget_get_accessible(part), name.utf8_str());
-    }
 }
 
 UseMarks::~UseMarks() {

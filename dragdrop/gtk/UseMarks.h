@@ -6,7 +6,6 @@
 
 class wxArrayString;
 class wxListBox;
-class wxString;
 
 namespace columnimport {
 
@@ -19,8 +18,8 @@ namespace columnimport {
 /// It is drawn and no character: no font has to have it.
 class UseMarks {
 public:
-    /// To be made after `list`, and to go before it. `name` tells the list from others to a reader.
-    UseMarks(wxListBox &list, const wxString &name);
+    /// To be made after `list`, and to go before it.
+    explicit UseMarks(wxListBox &list);
     ~UseMarks();
     UseMarks(const UseMarks &) = delete;
     UseMarks &operator=(const UseMarks &) = delete;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "listBox.h"
+#include "dragdrop/listBox.h"
 
 #include <gtk/gtk.h>
 #include <wx/listbox.h>
@@ -25,7 +25,7 @@ gboolean passReturnOn(GtkWidget *, GdkEvent *event, void *list) {
 
 } // namespace
 
-// The toolkit's list box takes Return for itself before it tells of any key.
+// The toolkit handles Return itself before it sends any key event.
 void hearReturn(wxListBox &list) {
     g_signal_connect(list.m_focusWidget, "event", G_CALLBACK(passReturnOn), &list);
 }

@@ -2,9 +2,6 @@
 
 #include "UseMarks.h"
 
-#include "languages/translated.h"
-
-#include <wx/access.h>
 #include <wx/listbox.h>
 #include <wx/vector.h>
 
@@ -19,42 +16,10 @@ wxString entryText(const wxString &name, bool isUsed) {
     return (isUsed ? wxString(checkMark) : wxString()) + '\t' + name;
 }
 
-#if wxUSE_ACCESSIBILITY
-
-/// Child number 1 is row 0; the list itself is number 0.
-class Entries : public wxAccessible {
-public:
-    Entries(wxListBox &list, const UseMarks &marks, const wxString &name)
-        : wxAccessible(&list), m_list(list), m_marks(marks), m_name(name) {}
-
-    wxAccStatus GetName(int child, wxString *name) override {
-        if (child == wxACC_SELF) {
-            *name = m_name;
-            return wxACC_OK;
-        }
-        const unsigned row = static_cast<unsigned>(child) - 1;
-        *name = m_list.GetString(row);
-        if (m_marks.isUsed(row)) {
-            name->Printf(translated("%s, in use"), wxString(*name));
-        }
-        return wxACC_OK;
-    }
-
-private:
-    wxListBox &m_list;
-    const UseMarks &m_marks;
-    wxString m_name;
-};
-
-#endif
-
 } // namespace
 
-UseMarks::UseMarks(wxListBox &list, [[maybe_unused]] const wxString &name) : m_list(list) {
+UseMarks::UseMarks(wxListBox &list) : m_list(list) {
     list.MSWSetTabStops(wxVector<int>(1, roomInDialogUnits));
-#if wxUSE_ACCESSIBILITY
-    list.SetAccessible(new Entries(list, *this, name));
-#endif
 }
 
 void UseMarks::showNames(const wxArrayString &names) {

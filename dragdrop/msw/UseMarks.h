@@ -6,7 +6,6 @@
 
 class wxArrayString;
 class wxListBox;
-class wxString;
 
 namespace columnimport {
 
@@ -19,8 +18,8 @@ namespace columnimport {
 /// The native control shows texts alone: an entry is the mark or nothing, a tab, and the name.
 class UseMarks {
 public:
-    /// To be made after `list`, and to go before it. `name` tells the list from others to a reader.
-    UseMarks(wxListBox &list, const wxString &name);
+    /// To be made after `list`, and to go before it.
+    explicit UseMarks(wxListBox &list);
 
     /// Replaces all entries by `names`, without marks.
     void showNames(const wxArrayString &names);

@@ -4,7 +4,7 @@
 
 #include "host/c/Import.h"
 
-#include "delimited/isUtf8.h"
+#include "names/isUtf8.h"
 
 #include <string_view>
 #include <utility>

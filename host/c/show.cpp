@@ -37,7 +37,8 @@ std::int32_t show(columnimport_import &import, columnimport::HostWindow window) 
     import.result = std::move(result);
     import.message = outcome == columnimport_no_display     ? "There is no display."
                      : outcome == columnimport_already_open ? "Another dialog is open."
-                                                            : "";
+                     : outcome == columnimport_failed ? "The window closed with the dialog over it."
+                                                      : "";
     return outcome;
 }
 

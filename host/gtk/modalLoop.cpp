@@ -14,15 +14,24 @@ namespace columnimport {
 
 namespace {
 
-/// A gtk_main() of our own around the dialog's. On leaving its loop the toolkit calls
-/// gtk_main_quit() once more than it called gtk_main() if it was entered inside one: this loop
-/// takes that call, or the host's would end.
+/// A gtk_main() of our own around the dialog's. If the toolkit entered its loop inside another one,
+/// it calls gtk_main_quit() once too often on leaving: this loop takes that call, or the host's
+/// would end.
 class LoopAround {
 public:
-    explicit LoopAround(wxDialog &dialog) : m_dialog(dialog) {}
+    explicit LoopAround(wxDialog &dialog)
+        : m_dialog(dialog), m_due(g_idle_add_full(G_PRIORITY_HIGH, enter, this, nullptr)) {}
+
+    // The host may have left the loop before it came to the dialog.
+    ~LoopAround() {
+        if (m_due != 0) {
+            g_source_remove(m_due);
+        }
+    }
+    LoopAround(const LoopAround &) = delete;
+    LoopAround &operator=(const LoopAround &) = delete;
 
     int run() {
-        g_idle_add_full(G_PRIORITY_HIGH, enter, this, nullptr);
         gtk_main();
         if (m_exception) {
             std::rethrow_exception(m_exception);
@@ -36,15 +45,15 @@ private:
         return G_SOURCE_REMOVE;
     }
 
-    // No exception is to cross the frames of GLib. The loop ends in every way out, also where the
-    // dialog never ran a loop of its own; ending it twice is the same as once.
+    // GLib's frames must not see an exception. The loop ends in every way out, also where the
+    // dialog never ran a loop of its own; ending it twice is harmless.
     void showModal() {
+        m_due = 0;
         const unsigned level = gtk_main_level();
         try {
             m_result = m_dialog.ShowModal();
         } catch (...) {
-            // Where the toolkit itself let it cross the dialog's loop, that one can't be left any
-            // more, nor this one by its end.
+            // If the toolkit let the exception escape its own loop, neither loop can end normally.
             if (gtk_main_level() != level) {
                 throw;
             }
@@ -54,25 +63,30 @@ private:
     }
 
     wxDialog &m_dialog;
+    unsigned m_due; // the call of `enter`, or 0
     int m_result = wxID_CANCEL;
     std::exception_ptr m_exception;
 };
 
+/// A length as a host asks for it, or the toolkit's default.
+int clampedLength(int length) {
+    // No frame is smaller than its title bar and borders, whose size is known only when it is
+    // shown. X11 counts no further than 16 bits, and under Wayland the memory for all pixels of a
+    // window is the program's own.
+    constexpr int least = 100;
+    constexpr int greatest = 8000;
+    return length == wxDefaultCoord ? length : std::clamp(length, least, greatest);
+}
+
 } // namespace
 
 void resize(wxDialog &dialog, const wxSize &size) {
-    // No frame is smaller than its title bar and borders, and how large these are is known only
-    // when it is shown. X11 counts no further than 16 bits, and under Wayland the memory for all
-    // pixels of a window is the program's own.
-    constexpr int leastSize = 100;
-    constexpr int greatestSize = 8000;
-    dialog.SetSize(std::clamp(size.x, leastSize, greatestSize),
-                   std::clamp(size.y, leastSize, greatestSize));
+    dialog.SetSize(clampedLength(size.x), clampedLength(size.y));
 }
 
 int showModal(wxDialog &dialog) {
-    // On its first show the toolkit realises the window early, to ask for the extents of its frame,
-    // and the position that it was given gets lost on the way.
+    // On its first show the toolkit realises the window early to ask for the extents of its frame, and
+    // loses the position.
     const wxPoint position = dialog.GetPosition();
     const wxSize size = dialog.GetSize();
     dialog.Bind(wxEVT_SHOW, [&dialog, position, size](wxShowEvent &event) {

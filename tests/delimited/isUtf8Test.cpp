@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "delimited/isUtf8.h"
+#include "names/isUtf8.h"
 
 #include <string>
 

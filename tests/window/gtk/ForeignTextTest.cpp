@@ -85,7 +85,7 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
             program.dropAt(person, Person::matchRow(row));
         }
         const Names before = matchTexts();
-        EXPECT_EQ(before[4], "1\xE2\x90\x8A\x32\xE2\x90\x8A\x33");
+        EXPECT_EQ(before[4], "1\xC2\xB6\x32\xC2\xB6\x33");
         program.dropAt(person, Person::fileRow(0));
         EXPECT_EQ(matchTexts(), before);
         person.click(Person::matchRow(7));

@@ -1,0 +1,21 @@
+# SPDX-License-Identifier: MIT
+
+# The toolkit of the dialogs, and the platform's name in the folders that hold what differs.
+
+find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
+
+if(WIN32)
+    set(platform msw)
+    enable_language(RC)
+else()
+    set(platform gtk)
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 wayland-client)
+endif()
+
+# The toolkit's headers are not ours to warn about.
+add_library(columnimport_toolkit INTERFACE)
+target_include_directories(columnimport_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+target_compile_definitions(columnimport_toolkit INTERFACE ${wxWidgets_DEFINITIONS})
+target_compile_options(columnimport_toolkit INTERFACE ${wxWidgets_CXX_FLAGS})
+target_link_libraries(columnimport_toolkit INTERFACE ${wxWidgets_LIBRARIES})

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "delimited/ByteOrderMark.h"
+
+#include <string>
+#include <vector>
+
+namespace columnimport {
+
+/// What a host may ask of a dialog beyond the arguments of its constructor. The lists are by
+/// application column and may be shorter.
+struct ImportOptions {
+    std::vector<std::vector<std::string>> alternatives;
+    std::vector<bool> required;
+    std::vector<bool> refusesSimilar;
+    ByteOrderMark byteOrderMark = ByteOrderMark::kept;
+};
+
+} // namespace columnimport

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+namespace columnimport {
+
+/// Tells a double click on a row from drags of it. A double click is two clicks on one row, and
+/// counts when the button goes up: a press that a drag begins with is no click.
+///
+///     press AA, release, press AA again, release           a double click
+///     press AA, release, press AA again, drag              a click and a drag
+///     drag AA, press AA, release                           a drag and a click
+class SecondClick {
+public:
+    /// The second press of what the system takes for a double click.
+    void pressAgain(int row) { m_isPressedAgain = row >= 0 && row == m_clicked; }
+
+    /// Whether the release over `row` completes a double click.
+    bool release(int row) {
+        const bool isSecond = m_isPressedAgain && row == m_clicked;
+        m_clicked = isSecond ? none : row;
+        m_isPressedAgain = false;
+        return isSecond;
+    }
+
+    void drag() { *this = {}; }
+
+private:
+    static constexpr int none = -1;
+    int m_clicked = none; // the row of the last press and release
+    bool m_isPressedAgain = false;
+};
+
+} // namespace columnimport

@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+class wxListBox;
+
+namespace columnimport {
+
+// Workarounds for differences between list boxes. Each platform has a file of its own.
+
+/// Lets `list` receive the Return key as wxEVT_CHAR_HOOK before the control acts on it.
+void hearReturn(wxListBox &list);
+
+/// Selects the entry `row`; the arrow keys go on from it.
+void goToEntry(wxListBox &list, int row);
+
+} // namespace columnimport

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+
+#include "dragdrop/listBox.h"
+
+#include <wx/listbox.h>
+
+namespace columnimport {
+
+// The toolkit does that by itself here.
+void hearReturn(wxListBox &) {}
+
+void goToEntry(wxListBox &list, int row) {
+    list.SetSelection(row);
+}
+
+} // namespace columnimport

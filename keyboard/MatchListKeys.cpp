@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+
+#include "keyboard/MatchListKeys.h"
+
+#include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/controls.h"
+#include "keyboard/clipboard.h"
+
+#include <algorithm>
+
+namespace columnimport {
+
+MatchListKeys::MatchListKeys(ListCtrlSource &list) : m_list(list), m_paste(list.changes()) {
+    list.Bind(wxEVT_KEY_DOWN, &MatchListKeys::onKeyDown, this);
+    list.Bind(wxEVT_CHAR, &MatchListKeys::onCharacter, this);
+}
+
+// As in any list: an arrow key alone clears the marks, with Shift it marks from the anchor, and
+// with Control it changes no mark.
+void MatchListKeys::moveCurrentRow(long row, const wxKeyEvent &key) {
+    if (m_list.GetItemCount() == 0) {
+        return;
+    }
+    row = std::clamp<long>(row, 0, m_list.GetItemCount() - 1);
+    if (key.ShiftDown()) {
+        if (m_list.keyAnchor() < 0) {
+            m_list.setKeyAnchor(std::max<long>(m_list.currentRow(), 0));
+        }
+        m_list.clearMarkedRows();
+        m_list.markRows(m_list.keyAnchor(), row);
+    } else if (!key.ControlDown()) {
+        m_list.clearMarkedRows();
+        m_list.setKeyAnchor(row);
+    }
+    m_list.moveTo(row);
+    showCurrentRow();
+}
+
+void MatchListKeys::showCurrentRow() {
+    m_list.clearHoverRows();
+    if (m_list.currentRow() >= 0) {
+        m_list.hoverOver(m_list.currentRow());
+    }
+}
+
+void MatchListKeys::markCurrentRow(bool alone) {
+    const long row = m_list.currentRow();
+    if (row < 0) {
+        return;
+    }
+    m_list.clearHoverRows();
+    if (alone) {
+        m_list.clearMarkedRows();
+    }
+    m_list.markRows(row, row);
+    m_list.setKeyAnchor(row);
+}
+
+void MatchListKeys::copy(long row) {
+    if (row >= 0) {
+        copyText(m_list.names().textForOthers(m_list.GetItemText(row, matchColumn)));
+    }
+}
+
+std::optional<long> MatchListKeys::targetOf(int key) const {
+    const long row = m_list.currentRow();
+    switch (key) {
+    case WXK_UP:
+        return row - 1;
+    case WXK_DOWN:
+        return row + 1;
+    case WXK_PAGEUP:
+        return row - m_list.GetCountPerPage();
+    case WXK_PAGEDOWN:
+        return row + m_list.GetCountPerPage();
+    case WXK_HOME:
+        return 0;
+    case WXK_END:
+        return m_list.GetItemCount();
+    default:
+        return std::nullopt;
+    }
+}
+
+// Rows are those that are chosen when the key is struck, also where a change waits for its turn.
+bool MatchListKeys::edit(const wxKeyEvent &key) {
+    const ListCtrlSource::Rows rows = m_list.chosenRows();
+    switch (key.GetKeyCode()) {
+    case WXK_DELETE:
+    case WXK_NUMPAD_DELETE:
+        m_list.clearMatches(rows);
+        return true;
+    case WXK_RETURN:
+    case WXK_NUMPAD_ENTER: // the control would keep Return for itself
+        if (key.ControlDown()) {
+            m_list.confirm(rows);
+            m_list.changes().run([this] { m_list.goToNextGuess(m_list.currentRow()); });
+        } else {
+            pressOkSoon(m_list);
+        }
+        return true;
+    case 'C':
+        if (key.ControlDown()) {
+            m_list.changes().run([this, row = m_list.currentRow()] { copy(row); });
+        }
+        return key.ControlDown();
+    case 'V':
+        if (key.ControlDown()) {
+            m_paste.start([this, rows](const wxString &text) {
+                m_list.write(rows, m_list.names().textOfForeign(text));
+            });
+        }
+        return key.ControlDown();
+    default:
+        return false;
+    }
+}
+
+void MatchListKeys::onKeyDown(wxKeyEvent &event) {
+    const std::optional<long> target = targetOf(event.GetKeyCode());
+    if (!event.AltDown() && edit(event)) {
+        return;
+    }
+    if (target) {
+        moveCurrentRow(*target, event);
+    } else if (event.GetKeyCode() == WXK_SPACE && !event.AltDown()) {
+        markCurrentRow(!event.ControlDown());
+    } else {
+        event.Skip();
+    }
+}
+
+// The control would look for the row that begins with what is typed, and select it.
+void MatchListKeys::onCharacter(wxKeyEvent &event) {
+    event.Skip(event.HasModifiers() || event.GetUnicodeKey() < WXK_SPACE);
+    if (event.GetKeyCode() == WXK_SPACE && event.AltDown()) {
+        // Alt and Space belong to the window manager; a control that gets them selects a row.
+        m_list.CallAfter([this] { showCurrentRow(); });
+    }
+}
+
+} // namespace columnimport

@@ -1,0 +1,277 @@
+// SPDX-License-Identifier: MIT
+
+#include "AccessibleRows.h"
+
+#include "AccessibleRow.h"
+#include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/rowsText.h"
+#include "readers/rowText.h"
+
+#include <gtk/gtk-a11y.h>
+
+namespace columnimport {
+
+namespace {
+
+/// What a reader finds in the place of the widget.
+struct RowList {
+    GtkWidgetAccessible parent;
+    AccessibleRows *rows; // null when the list control has gone
+};
+
+AccessibleRows *rowsOf(void *accessible) {
+    return static_cast<RowList *>(accessible)->rows;
+}
+
+AtkObjectClass *parentClass() {
+    return ATK_OBJECT_CLASS(g_type_class_peek(GTK_TYPE_WIDGET_ACCESSIBLE));
+}
+
+int countItems(AtkObject *accessible) {
+    const AccessibleRows *rows = rowsOf(accessible);
+    return rows == nullptr ? 0 : rows->list().GetItemCount();
+}
+
+AtkObject *refItem(AtkObject *accessible, int row) {
+    if (row < 0 || row >= countItems(accessible)) {
+        return nullptr;
+    }
+    return ATK_OBJECT(g_object_ref(rowsOf(accessible)->item(row)));
+}
+
+// The items come and go, so a reader must not fetch them all first.
+AtkStateSet *refStates(AtkObject *accessible) {
+    AtkStateSet *states = parentClass()->ref_state_set(accessible);
+    const AccessibleRows *rows = rowsOf(accessible);
+    atk_state_set_add_state(states, ATK_STATE_MANAGES_DESCENDANTS);
+    atk_state_set_add_state(states, ATK_STATE_MULTISELECTABLE);
+    if (rows != nullptr && rows->list().IsShownOnScreen()) {
+        atk_state_set_add_state(states, ATK_STATE_SHOWING);
+        atk_state_set_add_state(states, ATK_STATE_FOCUSABLE);
+        if (rows->hasFocus()) {
+            atk_state_set_add_state(states, ATK_STATE_FOCUSED);
+        }
+    }
+    return states;
+}
+
+void initListClass(void *listClass, void *) {
+    AtkObjectClass *accessible = ATK_OBJECT_CLASS(listClass);
+    accessible->get_n_children = countItems;
+    accessible->ref_child = refItem;
+    accessible->ref_state_set = refStates;
+}
+
+int countMarked(AtkSelection *accessible) {
+    int count = 0;
+    if (const AccessibleRows *rows = rowsOf(accessible)) {
+        for (long row = rows->marks().next(wxNOT_FOUND); row != wxNOT_FOUND;
+             row = rows->marks().next(row)) {
+            ++count;
+        }
+    }
+    return count;
+}
+
+/// The row of the item that is selected as number `index`, or none.
+long markedRow(AtkSelection *accessible, int index) {
+    if (index < 0 || index >= countMarked(accessible)) {
+        return wxNOT_FOUND;
+    }
+    long row = wxNOT_FOUND;
+    for (; index >= 0; --index) {
+        row = rowsOf(accessible)->marks().next(row);
+    }
+    return row;
+}
+
+AtkObject *refMarked(AtkSelection *accessible, int index) {
+    return refItem(ATK_OBJECT(accessible), static_cast<int>(markedRow(accessible, index)));
+}
+
+int isMarked(AtkSelection *accessible, int row) {
+    const AccessibleRows *rows = rowsOf(accessible);
+    return rows != nullptr && rows->marks().isMarked(row) ? TRUE : FALSE;
+}
+
+int setMark(AtkSelection *accessible, long row, bool marked) {
+    if (row < 0 || row >= countItems(ATK_OBJECT(accessible))) {
+        return FALSE;
+    }
+    rowsOf(accessible)->marks().set(row, marked);
+    return TRUE;
+}
+
+int mark(AtkSelection *accessible, int row) {
+    return setMark(accessible, row, true);
+}
+
+int unmark(AtkSelection *accessible, int index) {
+    return setMark(accessible, markedRow(accessible, index), false);
+}
+
+int unmarkAll(AtkSelection *accessible) {
+    while (unmark(accessible, 0) != FALSE) {
+    }
+    return TRUE;
+}
+
+int markAll(AtkSelection *accessible) {
+    for (int row = 0; mark(accessible, row) != FALSE; ++row) {
+    }
+    return TRUE;
+}
+
+void initSelection(void *iface, void *) {
+    auto *selection = static_cast<AtkSelectionIface *>(iface);
+    selection->add_selection = mark;
+    selection->clear_selection = unmarkAll;
+    selection->ref_selection = refMarked;
+    selection->get_selection_count = countMarked;
+    selection->is_child_selected = isMarked;
+    selection->remove_selection = unmark;
+    selection->select_all_selection = markAll;
+}
+
+GType listType() {
+    static const GType type = [] {
+        const GType list =
+            g_type_register_static_simple(GTK_TYPE_WIDGET_ACCESSIBLE, "ColumnImportAccessibleRows",
+                                          sizeof(GtkWidgetAccessibleClass), initListClass,
+                                          sizeof(RowList), nullptr, GTypeFlags());
+        const GInterfaceInfo selection = {initSelection, nullptr, nullptr};
+        g_type_add_interface_static(list, ATK_TYPE_SELECTION, &selection);
+        return list;
+    }();
+    return type;
+}
+
+void initWidgetClass(void *widgetClass, void *) {
+    gtk_widget_class_set_accessible_type(GTK_WIDGET_CLASS(widgetClass), listType());
+    gtk_widget_class_set_accessible_role(GTK_WIDGET_CLASS(widgetClass), ATK_ROLE_LIST);
+}
+
+void initWidget(GTypeInstance *widget, void *) {
+    gtk_widget_set_has_window(GTK_WIDGET(widget), FALSE);
+}
+
+GType widgetType() {
+    static const GType type =
+        g_type_register_static_simple(GTK_TYPE_WIDGET, "ColumnImportRows", sizeof(GtkWidgetClass),
+                                      initWidgetClass, sizeof(GtkWidget), initWidget, GTypeFlags());
+    return type;
+}
+
+/// The part of the list control that shows the rows and takes the keys.
+wxWindow &rowArea(wxListCtrl &list) {
+    wxWindow *area = &list;
+    for (wxWindow *part : list.GetChildren()) {
+        area = part->AcceptsFocus() ? part : area;
+    }
+    return *area;
+}
+
+} // namespace
+
+AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &name) : m_list(list) {
+    auto *widget = static_cast<GtkWidget *>(g_object_new(widgetType(), nullptr));
+    GtkWidget *area = rowArea(list).GetHandle();
+    gtk_container_add(GTK_CONTAINER(area), widget);
+    gtk_widget_show(widget);
+    m_accessible = ATK_OBJECT(g_object_ref(gtk_widget_get_accessible(widget)));
+    reinterpret_cast<RowList *>(m_accessible)->rows = this;
+    for (GtkWidget *part : {list.GetHandle(), area, widget}) {
+        atk_object_set_name(gtk_widget_get_accessible(part), name.utf8_str());
+    }
+
+    marks().onChange([this](long row) { tellMark(row); });
+    m_list.Bind(wxEVT_LIST_ITEM_FOCUSED, &AccessibleRows::onCurrentRow, this);
+    m_list.Bind(wxEVT_LIST_DELETE_ALL_ITEMS, &AccessibleRows::onNoRows, this);
+    m_list.Bind(wxEVT_SET_FOCUS, &AccessibleRows::onFocus, this);
+    m_list.Bind(wxEVT_KILL_FOCUS, &AccessibleRows::onFocus, this);
+}
+
+AccessibleRows::~AccessibleRows() {
+    marks().onChange(nullptr);
+    forgetItems();
+    reinterpret_cast<RowList *>(m_accessible)->rows = nullptr;
+    g_object_unref(m_accessible);
+}
+
+void AccessibleRows::onCurrentRow(wxListEvent &event) {
+    tellCurrentRow(event.GetIndex());
+    event.Skip();
+}
+
+void AccessibleRows::onNoRows(wxListEvent &event) {
+    forgetItems();
+    event.Skip();
+}
+
+void AccessibleRows::onFocus(wxFocusEvent &event) {
+    const bool isGained = event.GetEventType() == wxEVT_SET_FOCUS;
+    atk_object_notify_state_change(m_accessible, ATK_STATE_FOCUSED, isGained ? TRUE : FALSE);
+    tellCurrentRow(isGained ? m_list.GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED)
+                            : wxNOT_FOUND);
+    event.Skip();
+}
+
+void AccessibleRows::announce(const std::vector<long> &rows) {
+    for (const long row : rows) {
+        const auto known = m_items.find(row);
+        if (known != m_items.end()) {
+            g_object_notify(G_OBJECT(known->second), "accessible-name");
+        }
+    }
+    const wxString text = rowsText(rowText(m_list, rows.front()), rows.size());
+    g_signal_emit_by_name(m_accessible, "announcement", text.utf8_str().data());
+}
+
+RowMarks &AccessibleRows::marks() const {
+    return m_list.marks();
+}
+
+AtkObject *AccessibleRows::item(long row) {
+    AtkObject *&known = m_items[row];
+    if (known == nullptr) {
+        known = makeAccessibleRow(*this, m_accessible, row);
+    }
+    return known;
+}
+
+bool AccessibleRows::hasFocus() const {
+    const wxWindow *focus = wxWindow::FindFocus();
+    return focus != nullptr && (focus == &m_list || focus->GetParent() == &m_list);
+}
+
+void AccessibleRows::tellMark(long row) {
+    const auto known = m_items.find(row);
+    if (known != m_items.end()) {
+        atk_object_notify_state_change(known->second, ATK_STATE_SELECTED,
+                                       marks().isMarked(row) ? TRUE : FALSE);
+    }
+    g_signal_emit_by_name(m_accessible, "selection-changed");
+}
+
+void AccessibleRows::tellCurrentRow(long row) {
+    const auto before = m_items.find(m_toldRow);
+    if (before != m_items.end()) {
+        atk_object_notify_state_change(before->second, ATK_STATE_FOCUSED, FALSE);
+    }
+    m_toldRow = row;
+    if (row >= 0 && hasFocus()) {
+        atk_object_notify_state_change(item(row), ATK_STATE_FOCUSED, TRUE);
+        g_signal_emit_by_name(m_accessible, "active-descendant-changed", item(row));
+    }
+}
+
+void AccessibleRows::forgetItems() {
+    m_toldRow = wxNOT_FOUND;
+    for (const auto &[row, item] : m_items) {
+        retireAccessibleRow(item);
+        g_object_unref(item);
+    }
+    m_items.clear();
+}
+
+} // namespace columnimport

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <unordered_map>
+#include <vector>
+
+#include <wx/event.h>
+
+using AtkObject = struct _AtkObject; // NOLINT(bugprone-reserved-identifier): ATK's name for it
+
+class wxListEvent;
+
+namespace columnimport {
+
+class ListCtrlSource;
+class RowMarks;
+
+/// The rows of the match list for a screen reader. The list control draws them itself, so that a
+/// reader would find one empty area. An invisible widget in that area stands for the rows: it is a
+/// list, and each row is an item of it.
+///
+///     gold is to get Au g/t       an item "gold: Au g/t"
+///     the same as a guess         an item "gold: Au g/t, a guess"
+///     gold gets nothing           an item "gold: Not used"
+///     the row is marked           the item is selected
+///     the keyboard is at it       the item has the focus
+///
+/// An item is made when a reader first asks for it, and is retired with its row: many rows cost
+/// nothing where no reader runs.
+///
+/// It is an event handler, so that events that the control sends while it is destroyed no longer
+/// reach it.
+class AccessibleRows : public wxEvtHandler {
+public:
+    /// Attaches itself to `list`, which must outlive this object. `name` tells the list from other
+    /// lists.
+    AccessibleRows(ListCtrlSource &list, const wxString &name);
+    ~AccessibleRows() override;
+    AccessibleRows(const AccessibleRows &) = delete;
+    AccessibleRows &operator=(const AccessibleRows &) = delete;
+
+    /// Has the reader announce what now stands in `rows`, wherever the focus is. `rows` must not be
+    /// empty.
+    void announce(const std::vector<long> &rows);
+
+    // What the items ask for.
+    ListCtrlSource &list() const { return m_list; }
+    RowMarks &marks() const;
+    AtkObject *item(long row);
+    bool hasFocus() const;
+
+private:
+    void tellMark(long row);
+    void tellCurrentRow(long row);
+    void onCurrentRow(wxListEvent &event);
+    void onNoRows(wxListEvent &event);
+    void onFocus(wxFocusEvent &event);
+    void forgetItems();
+
+    ListCtrlSource &m_list;
+    AtkObject *m_accessible; // of the widget that speaks for the rows
+    std::unordered_map<long, AtkObject *> m_items;
+    long m_toldRow = wxNOT_FOUND; // the current row, as the reader has been told
+};
+
+} // namespace columnimport

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: MIT
+
+#include "readers/describe.h"
+
+#include "dragdrop/ListBoxSource.h"
+
+#include <gtk/gtk.h>
+
+namespace columnimport {
+
+namespace {
+
+void setName(GtkWidget *widget, const wxString &name) {
+    atk_object_set_name(gtk_widget_get_accessible(widget), name.utf8_str());
+}
+
+} // namespace
+
+// A list is several widgets, and the reader stops at the one that takes the keys.
+void setAccessibleName(wxWindow &control, const wxString &name) {
+    setName(control.GetHandle(), name);
+    if (control.m_focusWidget != nullptr) {
+        setName(control.m_focusWidget, name);
+    }
+    for (wxWindow *part : control.GetChildren()) {
+        setAccessibleName(*part, name);
+    }
+}
+
+// The cells of the list have the words for their marks.
+void describeFileColumns(ListBoxSource &list, const wxString &name) {
+    setAccessibleName(list, name);
+}
+
+void announceWhenShown(wxWindow &control) {
+    atk_object_set_role(gtk_widget_get_accessible(control.GetHandle()), ATK_ROLE_NOTIFICATION);
+}
+
+} // namespace columnimport

@@ -1,0 +1,125 @@
+// SPDX-License-Identifier: MIT
+
+#include "names/ShownNames.h"
+#include "matching/normalizeColumnName.h"
+#include "names/nameText.h"
+
+#include "locales.h"
+
+#include <clocale>
+#include <random>
+#include <set>
+
+#include <gtest/gtest.h>
+
+using namespace columnimport;
+using namespace std::string_literals;
+
+namespace {
+
+/// Names that a file or a table may well have, and others that none should have.
+std::vector<std::string> awkwardNames() {
+    std::vector<std::string> names = {"",
+                                      "Not used",
+                                      "Plong\xC3\xA9 e",
+                                      "Plong\xE9 e",
+                                      "hole\0name"s,
+                                      "hole\xE2\x90\x80name",
+                                      "\xED\xA0\x80 is half a character",
+                                      "\xF4\x90\x80\x80 is none",
+                                      "\x81\x8D\xFF",
+                                      "a\xE2\x80\x8B",
+                                      std::string(400, 'x') + "\xE2\x80\xA6",
+                                      std::string(5000, 'x'),
+                                      std::string(5000, 'x') + "y",
+                                      std::string(398, 'x') + "\xC3\xA9\xC3\xA9 and more"};
+    std::mt19937 random(4);
+    for (int round = 0; round < 5000; ++round) {
+        std::string name;
+        for (int left = std::uniform_int_distribution<int>(1, 3)(random); left > 0; --left) {
+            name += static_cast<char>(std::uniform_int_distribution<int>(0, 255)(random));
+        }
+        names.push_back(name);
+    }
+    return names;
+}
+
+class Locale : public testing::TestWithParam<const char *> {
+protected:
+    void SetUp() override { ASSERT_NE(std::setlocale(LC_ALL, GetParam()), nullptr); }
+};
+
+} // namespace
+
+TEST_P(Locale, GivesTheBytesAndThePositionOfEachColumnBack) {
+    const std::vector<std::string> columns = awkwardNames(); // some more than once
+    ShownNames names(columns, true);
+    std::set<std::wstring> texts = {names.textOf(ShownNames::noColumn).ToStdWstring()};
+    for (const wxString &text : names.texts()) {
+        texts.insert(text.ToStdWstring());
+    }
+    EXPECT_EQ(texts.size(), columns.size() + 1);
+    std::setlocale(LC_ALL, "C");
+    for (std::size_t i = 0; i < columns.size(); ++i) {
+        const auto position = static_cast<std::int32_t>(i);
+        const wxString text = names.textOf(position);
+        ASSERT_EQ(names.bytesOf(text), columns[i]);
+        ASSERT_FALSE(text.empty()) << "nothing would be dragged";
+        ASSERT_LT(text.length(), 512U) << "more than every list control gives back";
+        // Dragged or copied, it travels as UTF-8, and comes back as the column that left.
+        const wxString left = names.textForOthers(text);
+        const wxString dropped = wxString::FromUTF8(left.utf8_string());
+        ASSERT_FALSE(left.empty());
+        ASSERT_EQ(names.positionOf(names.textOfForeign(dropped)), position);
+    }
+}
+
+TEST_P(Locale, GivesForeignTextItsBytes) {
+    ShownNames names({"one\ttwo"}, true);
+    const wxString accent =
+        names.textOfForeign(wxString::FromUTF8("plong\xC3\xA9 \xC3\x83\xC2\xA9"));
+    EXPECT_EQ(accent, wxString::FromUTF8("plong\xC3\xA9 \xC3\x83\xC2\xA9")) << "shown as given";
+    EXPECT_EQ(names.bytesOf(accent),
+              isLatin1(GetParam()) ? "plong\xE9 \xC3\xA9" : "plong\xC3\xA9 \xC3\x83\xC2\xA9");
+    EXPECT_EQ(names.bytesOf(names.textOfForeign(wxString::FromUTF8("\xCE\xA9"))), "\xCE\xA9");
+    EXPECT_EQ(names.bytesOf(names.textOfForeign("a\nb")), "a\nb");
+    EXPECT_EQ(names.textOfForeign("a\nb"), names.textOfForeign("a\nb")) << "the same each time";
+    EXPECT_EQ(names.positionOf(names.textOfForeign("one\ttwo")), 0) << "found by its bytes";
+    EXPECT_EQ(names.bytesOf("never seen"), "never seen");
+    EXPECT_EQ(names.positionOf(accent), ShownNames::noColumn);
+    const std::string page(1 << 20, 'x');
+    EXPECT_EQ(names.bytesOf(names.textOfForeign(page)), page);
+}
+
+TEST_P(Locale, LeavesNormalisedNamesAsTheyAre) {
+    EXPECT_EQ(normalizeColumnName("BHID, DIP \xDD\xE9"), "bhid__dip___");
+}
+
+INSTANTIATE_TEST_SUITE_P(InEach, Locale, testing::ValuesIn(locales));
+
+TEST(ShownNames, TellManyColumnsApartThatReadTheSame) {
+    const std::string head(1000, 'x');
+    std::vector<std::string> columns;
+    for (int name = 0; name < 20000; ++name) {
+        columns.push_back(head + std::to_string(name));
+    }
+    const ShownNames names(columns, true);
+    EXPECT_EQ(names.bytesOf(names.textOf(19999)), head + "19999");
+}
+
+TEST(ShownNames, LeaveForOtherProgramsWithoutInvisibleCharacters) {
+    ShownNames names({"AU", "AU", ""}, true);
+    for (const std::int32_t position : {0, 1}) {
+        EXPECT_EQ(names.textForOthers(names.textOf(position)), "AU");
+    }
+    EXPECT_EQ(names.positionOf(names.textOfForeign("AU")), 1) << "the one that left last";
+    EXPECT_EQ(names.textForOthers(names.textOf(2)), " ");
+    EXPECT_EQ(names.positionOf(names.textOfForeign("AU")), 0);
+}
+
+TEST(ShownNames, CountColumnsWithoutTitles) {
+    ShownNames names({"same", "same"}, false);
+    EXPECT_EQ(names.textOf(0), "Column1");
+    EXPECT_EQ(names.bytesOf("Column2"), "Column2");
+    EXPECT_EQ(names.positionOf(names.textOfForeign("same")), ShownNames::noColumn);
+}
