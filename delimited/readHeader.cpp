@@ -22,6 +22,9 @@ Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     }
     const bool isMissing = line.empty() && file.isAtEnd();
     const bool isDelimited = line.find(delimiter) != std::string::npos;
+    if (!isDelimited) {
+        header.likely = likelyDelimiter(line);
+    }
     splitLine(std::move(line), header.columns, std::string(1, delimiter));
     for (std::string &column : header.columns) {
         column.erase(std::remove(column.begin(), column.end(), '"'), column.end());

@@ -3,7 +3,9 @@
 #pragma once
 
 #include "delimited/ByteOrderMark.h"
+#include "delimited/likelyDelimiter.h"
 
+#include <optional>
 #include <string>
 #include <system_error>
 #include <vector>
@@ -23,7 +25,8 @@ enum class FirstLine : unsigned char {
 struct Header {
     std::vector<std::string> columns;
     FirstLine firstLine = FirstLine::unreadable;
-    std::error_code reason; ///< the system's, if it has one for what is unreadable
+    std::optional<LikelyDelimiter> likely; ///< of a line that is undelimited, if it has one
+    std::error_code reason;                ///< the system's, if it has one for what is unreadable
 };
 
 /// The fields of the first line of the file `path` (UTF-8), cut at each byte `delimiter` and

@@ -3,7 +3,6 @@
 #include "delimited/splitLine.h"
 
 #include <cassert>
-#include <string_view>
 
 namespace columnimport {
 
@@ -16,10 +15,6 @@ std::string_view trimmedRight(std::string_view text, std::string_view chars) {
 std::string_view trimmedLeft(std::string_view text, std::string_view chars) {
     const std::size_t first = text.find_first_not_of(chars);
     return first == std::string_view::npos ? std::string_view() : text.substr(first);
-}
-
-std::string_view trimmed(std::string_view text) {
-    return trimmedLeft(trimmedRight(text, blankChars), blankChars);
 }
 
 struct Cut {
@@ -37,6 +32,10 @@ Cut cutFirstField(std::string_view text, std::string_view delimiter) {
 }
 
 } // namespace
+
+std::string_view trimmed(std::string_view text) {
+    return trimmedLeft(trimmedRight(text, blankChars), blankChars);
+}
 
 std::string trimRight(const std::string &text, const std::string &chars) {
     return std::string(trimmedRight(text, chars));

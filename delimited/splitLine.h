@@ -3,12 +3,16 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace columnimport {
 
 /// The bytes that are trimmed off lines and fields: blank, tab, carriage return, line feed.
 inline constexpr const char *blankChars = " \t\r\n";
+
+/// `text` without `blankChars` at either end.
+std::string_view trimmed(std::string_view text);
 
 /// `text` without the run of bytes of `chars` at its right end.
 std::string trimRight(const std::string &text, const std::string &chars);

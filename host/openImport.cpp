@@ -10,7 +10,10 @@ namespace columnimport {
 
 Header readSource(const ImportRequest &request) {
     if (request.table) {
-        return {*request.table, FirstLine::cut, {}};
+        Header table;
+        table.columns = *request.table;
+        table.firstLine = FirstLine::cut;
+        return table;
     }
     return readHeader(request.path, request.delimiter, request.byteOrderMark);
 }

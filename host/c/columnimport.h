@@ -276,6 +276,19 @@ columnimport_exported int32_t columnimport_set_table(columnimport_import *import
                                                      const char *const *names,
                                                      const int64_t *lengths, int32_t count);
 
+/**
+ * The delimiter that the first line of the file was likely written with, whatever was set: a host
+ * may begin with it. Nothing else of the file is read.
+ *
+ *     int32_t likely = columnimport_likely_delimiter(import);
+ *     columnimport_set_delimiter(import, likely == columnimport_none ? ',' : (char)likely);
+ *
+ * @param import  the import, for which a file was set
+ * @return '\t', ';', '|', ',' or ' '; columnimport_none if none is likely or the file can't be
+ * read; columnimport_invalid after wrong use, as where no file was set, or if there was no memory
+ */
+columnimport_exported int32_t columnimport_likely_delimiter(columnimport_import *import);
+
 /* ---- Running it ----
  *
  * A run drops the result of the one before it and the texts that were given out of it. */

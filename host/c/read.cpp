@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-// What a host reads of the last run.
+// What a host reads of the last run, and of a file before one.
 
 #include "host/c/Import.h"
+
+#include "delimited/likelyDelimiter.h"
 
 using columnimport::answer;
 using columnimport::ImportResult;
@@ -72,6 +74,15 @@ const char *bytesOf(const std::string &name, std::int64_t *length) {
 }
 
 } // namespace
+
+std::int32_t columnimport_likely_delimiter(columnimport_import *import) {
+    return number(import, [](const columnimport_import &read) -> std::int32_t {
+        columnimport::require(read.hasSource && !read.request.table, "No file was set.");
+        const auto likely = columnimport::likelyDelimiterOfFile(read.request.path);
+        return likely ? static_cast<unsigned char>(likely->delimiter)
+                      : static_cast<std::int32_t>(columnimport_none);
+    });
+}
 
 std::int32_t columnimport_outcome(columnimport_import *import) {
     return number(import, [](const columnimport_import &read) {

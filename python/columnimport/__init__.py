@@ -31,6 +31,7 @@ __all__ = [
     "NoDisplay",
     "Origin",
     "Result",
+    "likely_delimiter",
     "propose",
     "show",
     "version",
@@ -114,6 +115,19 @@ Source = Union[str, "os.PathLike[str]", Sequence[str]]
 def version() -> str:
     """The version of the library that is loaded, for example "0.4.0"."""
     return _library.proposals().columnimport_version().decode()
+
+
+def likely_delimiter(path: str | os.PathLike[str]) -> str | None:
+    """The delimiter that the first line of a file was likely written with, or `None`.
+
+        >>> result = columnimport.propose(columns, path, columnimport.likely_delimiter(path) or ",")
+
+    It is a tab, semicolon, bar, comma or blank. A file that can't be read has none.
+    """
+    with Import() as one:
+        one.call("set_file", text(os.fspath(path)))
+        likely = one.call("likely_delimiter")
+        return chr(likely) if likely != _library.NONE else None
 
 
 def propose(

@@ -34,6 +34,7 @@ _FUNCTIONS = {
     "set_delimiter": (c_int32, [c_void_p, c_char]),
     "set_first_line_holds_titles": (c_int32, [c_void_p, c_int32]),
     "set_table": (c_int32, [c_void_p, POINTER(c_char_p), POINTER(c_int64), c_int32]),
+    "likely_delimiter": (c_int32, [c_void_p]),
     "propose": (c_int32, [c_void_p]),
     "file_problem": (c_char_p, [c_void_p]),
     "match_position": (c_int32, [c_void_p, c_int32]),

@@ -27,6 +27,17 @@ TEST(ReadHeader, CutsTheFirstLineAndDropsTheQuotes) {
     }
 }
 
+TEST(ReadHeader, TellsTheLikelyDelimiterWhereItsOwnIsNotInTheLine) {
+    const ScratchFile file("BHID\tFrom\tTo\r\n1;2;3;4\n");
+    const Header undelimited = readHeader(file.path(), ';');
+    ASSERT_TRUE(undelimited.likely);
+    EXPECT_EQ(undelimited.likely->delimiter, '\t');
+    EXPECT_EQ(undelimited.likely->count, 2U);
+    EXPECT_FALSE(readHeader(file.path(), 'F').likely);
+    EXPECT_EQ(likelyDelimiterOfFile(file.path())->delimiter, '\t');
+    EXPECT_FALSE(likelyDelimiterOfFile("/nowhere.csv"));
+}
+
 TEST(ReadPreview, GivesTenLinesAtMostEachWithOneLineFeed) {
     const std::string nine = "1\n2\n3\n4\n\n6\n7\n8\n9\n";
     const struct {

@@ -67,6 +67,7 @@ TEST_F(Door, RefusesBadArgumentsWithAnErrorAndASentence) {
         EXPECT_TRUE(isWrong(i, columnimport_set_table(i, names, nullptr, -1)));
         EXPECT_TRUE(isWrong(i, columnimport_set_table(i, names, nullptr, 2)));
         EXPECT_TRUE(isWrong(i, columnimport_set_table(i, names, lengths, 2)));
+        EXPECT_TRUE(isWrong(i, columnimport_likely_delimiter(i)));
         EXPECT_TRUE(isWrong(i, columnimport_propose(i)));
         EXPECT_TRUE(isWrong(i, columnimport_file_problem(i)));
         EXPECT_TRUE(isWrong(i, columnimport_delimiter(i)));
@@ -92,6 +93,7 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     columnimport_add_alternative(import, 1, "rl");
     columnimport_add_alternative(import, 2, "Au_gt");
     columnimport_set_file(import, file.path().c_str());
+    EXPECT_EQ(columnimport_likely_delimiter(import), ';');
     columnimport_set_delimiter(import, ';');
     const auto propose = [this] {
         EXPECT_EQ(columnimport_propose(import), columnimport_ok) << columnimport_message(import);
@@ -134,6 +136,7 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
 
     const char *names[] = {"collar", "hole"};
     columnimport_set_table(import, names, nullptr, 2);
+    EXPECT_TRUE(isWrong(import, columnimport_likely_delimiter(import)));
     columnimport_set_saved_match(import, 3, nullptr, 0);
     columnimport_set_saved_match(import, 0, nullptr, 0);
     EXPECT_EQ(propose(), (Positions{1, 0, -1, -1}));
@@ -151,4 +154,5 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     columnimport_set_file(import, "/no such file");
     EXPECT_EQ(propose(), (Positions(4, -1)));
     EXPECT_NE(columnimport_file_problem(import), nullptr);
+    EXPECT_EQ(columnimport_likely_delimiter(import), columnimport_none);
 }

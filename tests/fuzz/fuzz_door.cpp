@@ -91,6 +91,7 @@ void call(columnimport_import *import, FuzzedDataProvider &data, Filled &filled)
         [&] { columnimport_set_delimiter(import, static_cast<char>(number)); },
         [&] { columnimport_set_first_line_holds_titles(import, number); },
         [&] { columnimport_file_problem(import); },
+        [&] { columnimport_likely_delimiter(import); },
         [&] { columnimport_match_origin(import, number); },
         [&] { columnimport_match_score(import, number); },
         [&] { columnimport_match_name(import, number, &lengths.emplace_back()); },

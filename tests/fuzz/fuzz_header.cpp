@@ -18,14 +18,10 @@ using Fields = std::vector<std::string>;
 
 namespace {
 
-std::string trimmed(const std::string &text) {
-    return trimLeft(trimRight(text, blankChars), blankChars);
-}
-
 Fields fieldsOf(const std::string &line, const std::string &delimiter) {
     Fields fields;
     splitLine(line, fields, delimiter);
-    std::string rest = trimmed(line);
+    std::string rest(trimmed(line));
     require(fields.empty() == rest.empty(), "no fields in a blank line only");
     for (const std::string &field : fields) {
         const bool isLast = rest.find(delimiter) == std::string::npos;
@@ -53,6 +49,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     for (std::string &name : names) {
         name.erase(std::remove(name.begin(), name.end(), '"'), name.end());
     }
+    const auto likely = likelyDelimiterOfFile(file);
+    require(!likely ||
+                fieldsOf(content.substr(0, content.find('\n')), {likely->delimiter}).size() > 1,
+            "a likely delimiter that cuts");
     require(readHeader(file, bytes[1]).columns == names,
             "the fields of the first line without quotes");
     return 0;

@@ -33,6 +33,8 @@ class Propose(unittest.TestCase):
         with tempfile.NamedTemporaryFile("w", suffix=".csv") as file:
             file.write("\ufeffHOLE;DIP\n1;2\n")
             file.flush()
+            self.assertEqual(columnimport.likely_delimiter(file.name), ";")
+            self.assertIsNone(columnimport.likely_delimiter("/nowhere"))
             by_name = columnimport.propose(["dip"], file.name, ";")
             self.assertEqual(by_name.matches, (Match("DIP", 1, Origin.SAME),))
             self.assertEqual(by_name.source_columns, ("HOLE", "DIP"))
