@@ -3,8 +3,9 @@
 #include "delimited/readHeader.h"
 
 #include "delimited/SourceFile.h"
-#include "names/isUtf8.h"
+#include "delimited/quotedFields.h"
 #include "delimited/splitLine.h"
+#include "names/isUtf8.h"
 
 #include <algorithm>
 #include <utility>
@@ -25,6 +26,7 @@ Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     if (!isDelimited) {
         header.likely = likelyDelimiter(line);
     }
+    header.fields = quotedFields(line, delimiter);
     splitLine(std::move(line), header.columns, std::string(1, delimiter));
     for (std::string &column : header.columns) {
         column.erase(std::remove(column.begin(), column.end(), '"'), column.end());

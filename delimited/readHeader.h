@@ -5,6 +5,7 @@
 #include "delimited/ByteOrderMark.h"
 #include "delimited/likelyDelimiter.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -24,6 +25,7 @@ enum class FirstLine : unsigned char {
 /// The columns that the first line of a file names, and why there are none, or one alone.
 struct Header {
     std::vector<std::string> columns;
+    std::vector<std::int32_t> fields; ///< by column, as quotedFields has them
     FirstLine firstLine = FirstLine::unreadable;
     std::optional<LikelyDelimiter> likely; ///< of a line that is undelimited, if it has one
     std::error_code reason;                ///< the system's, if it has one for what is unreadable

@@ -29,8 +29,8 @@ std::vector<std::string> DialogAccess::takeSourceColumns(wxImportCSVDialog &dial
     return std::move(dialog.m_fileSchema);
 }
 
-std::string DialogAccess::fileProblem(const wxImportCSVDialog &dialog) {
-    return problemOf(*dialog.m_header);
+const Header &DialogAccess::header(const wxImportCSVDialog &dialog) {
+    return *dialog.m_header;
 }
 
 } // namespace columnimport

@@ -12,6 +12,8 @@ class wxImportCSVDialog;
 
 namespace columnimport {
 
+struct Header;
+
 /// What a run sets and reads of a dialog beyond its public members.
 struct DialogAccess {
     /// To be called before `create`.
@@ -23,8 +25,8 @@ struct DialogAccess {
     /// Takes the columns of the source out of a dialog that has ended, as they were cut last.
     static std::vector<std::string> takeSourceColumns(wxImportCSVDialog &dialog);
 
-    /// Why the file could not be read; empty if it was read.
-    static std::string fileProblem(const wxImportCSVDialog &dialog);
+    /// What came of the file's first line, but for its columns.
+    static const Header &header(const wxImportCSVDialog &dialog);
 };
 
 } // namespace columnimport

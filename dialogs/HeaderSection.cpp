@@ -81,8 +81,8 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
                                   wxDefaultPosition, previewSize);
     fitLines(*text, columnimport::previewLines, previewSize.y);
     columnimport::cutLongLines(*text);
-    // SetLabelText, since an ampersand in a file is an ampersand. A new label makes a static text as
-    // large as itself, and the box around it would be fitted to that.
+    // SetLabelText, since an ampersand in a file is an ampersand. A new label makes a static text
+    // as large as itself, and the box around it would be fitted to that.
     text->SetLabelText(columnimport::previewText(columnimport::readPreview(
         m_fileName, columnimport::tellingLength, m_options->byteOrderMark)));
     text->SetSize(previewSize);

@@ -52,8 +52,10 @@ void ImportLists::refresh(const std::vector<ColumnMatch> &opening) {
             before.reset();
         }
     }
-    m_shown.reset(new ShownImport{m_dialog.m_delimiter, m_dialog.m_useSavedMatches,
-                                  m_dialog.m_savedMatches, *m_dialog.m_header,
+    m_shown.reset(new ShownImport{m_dialog.m_delimiter,
+                                  m_dialog.m_useSavedMatches,
+                                  m_dialog.m_savedMatches,
+                                  *m_dialog.m_header,
                                   {m_dialog.m_fileSchema, m_dialog.m_firstLineHeader},
                                   {}});
     for (const ColumnMatch &match : opening) {
@@ -100,8 +102,8 @@ void ImportLists::showStatus() {
     m_status.show(StatusLine::source, headerSentence(m_shown->header));
     m_status.show(StatusLine::guesses, guessSentence(rows));
     if (m_hasAskedBack) {
-        m_status.show(StatusLine::required, requiredSentence(m_dialog.m_appColumns,
-                                                             m_dialog.m_options->required, rows));
+        m_status.show(StatusLine::required,
+                      requiredSentence(m_dialog.m_appColumns, m_dialog.m_options->required, rows));
     }
 }
 

@@ -33,8 +33,8 @@ public:
                 StatusLine &status);
     ~ImportLists() override;
 
-    /// Fills both lists from the dialog's members and with the matches `opening`. The history begins
-    /// anew; its first step leads back to what the lists showed before.
+    /// Fills both lists from the dialog's members and with the matches `opening`. The history
+    /// begins anew; its first step leads back to what the lists showed before.
     void refresh(const std::vector<ColumnMatch> &opening);
 
 private:

@@ -13,9 +13,9 @@ class wxStaticText;
 namespace columnimport {
 
 /// The line in which a dialog tells what a person should know, in the room that the controls leave
-/// free. It has one sentence per topic, in the order of the topics, and a button for what a sentence
-/// offers. It asks for no room, so that nothing moves when a sentence comes or goes. A screen reader
-/// announces what is new.
+/// free. It has one sentence per topic, in the order of the topics, and a button for what a
+/// sentence offers. It asks for no room, so that nothing moves when a sentence comes or goes. A
+/// screen reader announces what is new.
 ///
 ///     status.show(StatusLine::source, "The file is empty.");
 ///     status.show(StatusLine::source, {}); // takes the sentence back

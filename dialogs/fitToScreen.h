@@ -18,9 +18,10 @@ private:
     int m_room;
 };
 
-/// Makes the items of `sizer` lower and narrower if the screen has no room for them below and beside
-/// the place of `dialog`, so that the options and the buttons are in view: both lists lose height
-/// down to five rows, then the preview loses lines; the match list and the preview lose width.
+/// Makes the items of `sizer` lower and narrower if the screen has no room for them below and
+/// beside the place of `dialog`, so that the options and the buttons are in view: both lists lose
+/// height down to five rows, then the preview loses lines; the match list and the preview lose
+/// width.
 void fitToScreen(wxWindow &dialog, wxSizer &sizer);
 
 } // namespace columnimport

@@ -23,9 +23,7 @@ public:
     explicit Scale(const wxWindow &window);
 
     int operator()(int pixels) const { return static_cast<int>(std::lround(m_ratio * pixels)); }
-    wxSize operator()(const wxSize &pixels) const {
-        return {(*this)(pixels.x), (*this)(pixels.y)};
-    }
+    wxSize operator()(const wxSize &pixels) const { return {(*this)(pixels.x), (*this)(pixels.y)}; }
 
     bool isUsual() const { return m_ratio == 1; }
 
@@ -35,7 +33,8 @@ private:
 
 // Each platform has a file of its own for these.
 
-/// The size of a frame that reaches from the place of `dialog` to the end of the screen's work area.
+/// The size of a frame that reaches from the place of `dialog` to the end of the screen's work
+/// area.
 wxSize frameRoom(const wxWindow &dialog);
 
 /// The size of the content of such a frame. The dialog need not have been shown yet.

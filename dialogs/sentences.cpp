@@ -30,8 +30,8 @@ wxString headerSentence(const Header &header) {
 }
 
 wxString guessSentence(const std::vector<RowMatch> &rows) {
-    const auto guesses = static_cast<unsigned>(
-        std::count_if(rows.begin(), rows.end(), [](const RowMatch &row) {
+    const auto guesses =
+        static_cast<unsigned>(std::count_if(rows.begin(), rows.end(), [](const RowMatch &row) {
             return row.origin == MatchOrigin::similar;
         }));
     return guesses == 0 ? wxString()

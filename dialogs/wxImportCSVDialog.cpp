@@ -92,5 +92,6 @@ bool wxImportCSVDialog::isOk() const {
 
 void wxImportCSVDialog::setFileSchema(std::vector<std::string> fileSchema) {
     m_fileSchema = std::move(fileSchema);
-    *m_header = {{}, columnimport::FirstLine::cut, {}};
+    *m_header = {};
+    m_header->firstLine = columnimport::FirstLine::cut;
 }

@@ -36,9 +36,9 @@ class TextDropTarget;
 ///
 /// The matches live only as the texts of the match list, which has one row per application column:
 /// the name of the file column, or "Not used". Drops, keys and double clicks write into these rows.
-/// Every refresh (the check box, another delimiter, "Reset to Default", or a call of `onCheckHeader`)
-/// fills the list anew from the members and drops what the user changed by hand. Control and Z takes
-/// back one change after the other, up to the last refresh and including it.
+/// Every refresh (the check box, another delimiter, "Reset to Default", or a call of
+/// `onCheckHeader`) fills the list anew from the members and drops what the user changed by hand.
+/// Control and Z takes back one change after the other, up to the last refresh and including it.
 class COLUMNIMPORT_EXPORT wxImportCSVDialog : public wxDialog {
 public:
     static const int BTN_ADD = 1;           ///< no control has it
@@ -141,8 +141,8 @@ private:
     columnimport::TextDropTarget *m_fileDropTarget;  // owned by the list of file columns
 
     std::unique_ptr<const columnimport::ImportOptions> m_options; // what else the host asked for
-    std::unique_ptr<columnimport::Header> m_header; // what loadHeader found, but for the columns
-    columnimport::StatusLine *m_status;             // owned by its sizer; null before `create`
+    std::unique_ptr<columnimport::Header> m_header;     // of loadHeader, but for the columns
+    columnimport::StatusLine *m_status;                 // owned by its sizer; null before `create`
     std::unique_ptr<columnimport::ImportLists> m_lists; // null before `create`
 
     wxDECLARE_EVENT_TABLE();

@@ -335,9 +335,9 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
 
 void ListCtrlSource::showTip(const wxPoint &position, long row) {
     if (isGuess(row)) {
-        setTip(*this, wxString::Format(translated("Similar names: %s and %s"),
-                                       GetItemText(row, matchColumn),
-                                       GetItemText(row, matchColumn + 1)));
+        setTip(*this,
+               wxString::Format(translated("Similar names: %s and %s"),
+                                GetItemText(row, matchColumn), GetItemText(row, matchColumn + 1)));
         return;
     }
     int column = 0;

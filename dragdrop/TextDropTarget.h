@@ -14,8 +14,8 @@ class ListCtrlSource;
 /// columns, whose target knows the match list, the text is ignored: all marked rows of the match
 /// list become "Not used".
 ///
-/// A move along the very edge of the match list scrolls it by a row, so that a drag reaches rows out
-/// of view. The row in the hover state is always the one that a drop would write to.
+/// A move along the very edge of the match list scrolls it by a row, so that a drag reaches rows
+/// out of view. The row in the hover state is always the one that a drop would write to.
 class TextDropTarget : public wxTextDropTarget {
 public:
     /// `owner` is the control on which the target will sit, and which then owns it.

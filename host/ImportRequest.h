@@ -36,7 +36,8 @@ struct ImportRequest {
 struct ImportResult {
     std::vector<SourceMatch> matches; ///< one for each row of the dialog
     std::vector<std::string> sourceColumns;
-    std::string fileProblem; ///< why the file could not be read; empty if it was
+    std::vector<std::int32_t> fields; ///< by source column, as Header has them; none of a table
+    std::string fileProblem;          ///< why the file could not be read; empty if it was
     char delimiter = ',';
     bool holdsTitles = true;
 };

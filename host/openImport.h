@@ -25,8 +25,8 @@ Header readSource(const ImportRequest &request);
 std::vector<ColumnMatch> matchSource(ImportRequest &request,
                                      const std::vector<std::string> &titles);
 
-/// Both in a row. `columnName` tells what a column of the source is called where it has no title, and
-/// `problemOf` why a file could not be read.
+/// Both in a row. `columnName` tells what a column of the source is called where it has no title,
+/// and `problemOf` why a file could not be read.
 Opening openImport(ImportRequest request);
 
 } // namespace columnimport

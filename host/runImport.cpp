@@ -2,6 +2,7 @@
 
 #include "host/runImport.h"
 
+#include "delimited/readHeader.h"
 #include "dialogs/DialogAccess.h"
 #include "dialogs/screen.h"
 #include "dialogs/wxImportODBCDialog.h"
@@ -63,10 +64,13 @@ std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportReq
     const bool ok = showModal(dialog) == wxID_OK;
     const bool isThere = hasWindow(dialog);
     if (isThere) {
-        result =
-            ImportResult{DialogAccess::matches(dialog), DialogAccess::takeSourceColumns(dialog),
-                         DialogAccess::fileProblem(dialog), dialog.getDelimiter(),
-                         dialog.isFirstLineHeader()};
+        const Header &header = DialogAccess::header(dialog);
+        result = ImportResult{DialogAccess::matches(dialog),
+                              DialogAccess::takeSourceColumns(dialog),
+                              header.fields,
+                              problemOf(header),
+                              dialog.getDelimiter(),
+                              dialog.isFirstLineHeader()};
     }
     parent.release();
     dialog.Destroy();

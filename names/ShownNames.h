@@ -16,11 +16,11 @@ namespace columnimport {
 /// The texts under which the columns of a source are shown, and the columns and bytes that a shown
 /// text stands for.
 ///
-/// A name is bytes, of any encoding or none. The shown text is made for a reader: decoded as well as
-/// possible, cut if it is long, with stand-ins for control characters. No two columns share a text.
-/// Names that would read the same get an invisible difference, a number in characters without a
-/// width; so does a column that is called "Not used". No text is empty, since an empty one could not
-/// be dragged.
+/// A name is bytes, of any encoding or none. The shown text is made for a reader: decoded as well
+/// as possible, cut if it is long, with stand-ins for control characters. No two columns share a
+/// text. Names that would read the same get an invisible difference, a number in characters without
+/// a width; so does a column that is called "Not used". No text is empty, since an empty one could
+/// not be dragged.
 ///
 ///     position  name               shown as
 ///     none                         Not used, in the language of the dialog
@@ -76,8 +76,8 @@ public:
 private:
     struct Entry {
         std::int32_t position;
-        std::string foreignBytes;   ///< of a text that is no column's
-        std::size_t visibleLength;  ///< of the text, without its invisible difference
+        std::string foreignBytes;  ///< of a text that is no column's
+        std::size_t visibleLength; ///< of the text, without its invisible difference
     };
 
     using Entries = std::unordered_map<std::wstring, Entry>;
@@ -88,7 +88,7 @@ private:
 
     std::vector<std::string> m_titles;
     bool m_holdsTitles;
-    Entries m_entries; ///< by their texts
+    Entries m_entries;                         ///< by their texts
     std::vector<const std::wstring *> m_texts; ///< of "Not used" and then of the columns
     std::unordered_map<std::wstring, std::size_t> m_sharers; ///< by text, how many more share it
     wxString m_left; ///< the name that left last, as it is shown

@@ -349,6 +349,31 @@ columnimport_exported int32_t columnimport_match_position(columnimport_import *i
                                                           int32_t column);
 
 /**
+ * The number of the field, in each row of the source, that is matched to an application column.
+ *
+ * It differs from the position where the first line does. The position counts the line's columns as
+ * the dialog cuts them: at each delimiter, also between double quotes, and at a run of tabs or
+ * blanks once. The field is counted as a reader of rows does that honours double quotes (RFC 4180):
+ * delimiters in a quoted field are text, doubled quotes are one, and a run of tabs is as many
+ * delimiters. Of a table it is the position.
+ *
+ *     "From, m",To,Au    has the columns From | m | To | Au, and they are in the fields 0, 0, 1, 2
+ *
+ * Readers don't agree where quotes follow blanks and hold a delimiter, where a quote does not close
+ * in the line, behind a field with text after its closing quote, behind blanks that separate and
+ * stand in a run or at the beginning, and behind a carriage return in the midst of the line. From
+ * there on no field is told. A reader that takes a run of blanks as one delimiter has the position.
+ *
+ * It is told of the first line as the run read it, without a byte-order mark.
+ *
+ * @param import  the import
+ * @param column  the number of the application column
+ * @return a number from 0; columnimport_none if no column of the source is matched, or if its field
+ *         can't be told; columnimport_invalid after wrong use
+ */
+columnimport_exported int32_t columnimport_match_field(columnimport_import *import, int32_t column);
+
+/**
  * How an application column came by its match. What tells a guess from a certainty:
  *
  *     if (columnimport_match_origin(import, column) == columnimport_origin_similar) {

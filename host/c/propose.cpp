@@ -22,6 +22,7 @@ ImportResult proposed(ImportRequest request) {
     columnimport::Opening opening = columnimport::openImport(std::move(request));
     result.fileProblem = columnimport::problemOf(opening.source);
     result.sourceColumns = std::move(opening.source.columns);
+    result.fields = std::move(opening.source.fields);
     for (const ColumnMatch &match : opening.matches) {
         result.matches.push_back(
             {match, match.position < 0

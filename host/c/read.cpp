@@ -122,6 +122,15 @@ double columnimport_match_score(columnimport_import *import, std::int32_t column
                  [column](const columnimport_import &read) { return matchOf(read, column).score; });
 }
 
+std::int32_t columnimport_match_field(columnimport_import *import, std::int32_t column) {
+    return number(import, [column](const columnimport_import &read) {
+        const std::int32_t position = matchOf(read, column).position;
+        const std::vector<std::int32_t> &fields = resultOf(read).fields;
+        return position < 0 || fields.empty() ? position
+                                              : fields[static_cast<std::size_t>(position)];
+    });
+}
+
 const char *columnimport_match_name(columnimport_import *import, std::int32_t column,
                                     std::int64_t *length) {
     return text(import, [column, length](const columnimport_import &read) {

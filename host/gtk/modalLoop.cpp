@@ -85,8 +85,8 @@ void resize(wxDialog &dialog, const wxSize &size) {
 }
 
 int showModal(wxDialog &dialog) {
-    // On its first show the toolkit realises the window early to ask for the extents of its frame, and
-    // loses the position.
+    // On its first show the toolkit realises the window early to ask for the extents of its frame,
+    // and loses the position.
     const wxPoint position = dialog.GetPosition();
     const wxSize size = dialog.GetSize();
     dialog.Bind(wxEVT_SHOW, [&dialog, position, size](wxShowEvent &event) {

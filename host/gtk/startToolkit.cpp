@@ -14,8 +14,8 @@ bool hasDisplay() {
     return gdk_display_get_default() != nullptr || gdk_display_open(nullptr) != nullptr;
 }
 
-// If the host has started GTK already, GTK warns that the toolkit's gtk_disable_setlocale() comes too
-// late. A host that makes warnings fatal must not be aborted by it.
+// If the host has started GTK already, GTK warns that the toolkit's gtk_disable_setlocale() comes
+// too late. A host that makes warnings fatal must not be aborted by it.
 void startToolkit() {
     const GLogLevelFlags fatal =
         g_log_set_always_fatal(static_cast<GLogLevelFlags>(G_LOG_LEVEL_ERROR));

@@ -7,7 +7,7 @@ corrects the proposal:
     >>> import columnimport
     >>> result = columnimport.propose(["holename", "dip"], ["BHID", "Au g/t"])
     >>> result.matches
-    (Match(name='BHID', position=0, origin=<Origin.SYNONYM: 2>, score=None), None)
+    (Match(name='BHID', position=0, field=0, origin=<Origin.SYNONYM: 2>, score=None), None)
 
 Names are bytes for the library. Here they are texts: UTF-8, and a byte that is none is a lone
 surrogate ("surrogateescape"), so that every name leads back to its bytes.
@@ -78,15 +78,19 @@ class Origin(Enum):
 
 @dataclass(frozen=True)
 class Match:
-    """A column of the source: its name, and its position there, counted from 0.
+    """A column of the source: its name, its position as the dialog counts, and its field in a row.
 
-    The position is `None` if a person dropped a text that no column of the source is called.
+    `field` is the index in each row of a reader that honours double quotes, such as `csv.reader`. It
+    differs from the position where a quoted title holds the delimiter, and where tabs stand in a
+    run; it is `None` where such readers don't agree. Both are counted from 0, and both are `None` if
+    a person dropped a text that no column of the source is called.
     `origin` tells a guess from a certainty, and `score` is how much the two names of a guess have
     in common, above 0.4 and below 1; of other matches it is `None`.
     """
 
     name: str
     position: int | None
+    field: int | None
     origin: Origin
     score: float | None = None
 
@@ -243,9 +247,11 @@ def _match(one: Import, column: int) -> Match | None:
         return None
     position = one.call("match_position", column)
     score = one.call("match_score", column)
+    field = one.call("match_field", column)
     return Match(
         name,
         position if position != _library.NONE else None,
+        field if field != _library.NONE else None,
         Origin(one.call("match_origin", column)),
         score if score != _library.NONE else None,
     )

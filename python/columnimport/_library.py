@@ -38,6 +38,7 @@ _FUNCTIONS = {
     "propose": (c_int32, [c_void_p]),
     "file_problem": (c_char_p, [c_void_p]),
     "match_position": (c_int32, [c_void_p, c_int32]),
+    "match_field": (c_int32, [c_void_p, c_int32]),
     "match_origin": (c_int32, [c_void_p, c_int32]),
     "match_score": (c_double, [c_void_p, c_int32]),
     "match_name": (_BYTES, [c_void_p, c_int32, POINTER(c_int64)]),

@@ -53,6 +53,7 @@ TEST_F(Door, RefusesBadArgumentsWithAnErrorAndASentence) {
             EXPECT_TRUE(isWrong(i, columnimport_match_position(i, column)));
             EXPECT_TRUE(isWrong(i, columnimport_match_origin(i, column)));
             EXPECT_EQ(columnimport_match_score(i, column), columnimport_invalid);
+            EXPECT_TRUE(isWrong(i, columnimport_match_field(i, column)));
             EXPECT_TRUE(isWrong(i, columnimport_match_name(i, column, nullptr)));
             EXPECT_TRUE(isWrong(i, columnimport_source_column(i, column, nullptr)));
         }
@@ -116,6 +117,8 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     EXPECT_EQ(origins(), (Positions{columnimport_origin_same, columnimport_origin_alternative,
                                     columnimport_origin_alternative, columnimport_none}));
     EXPECT_EQ(columnimport_match_score(import, 0), columnimport_none);
+    EXPECT_EQ(columnimport_match_field(import, 2), 3) << "the quotes are around two columns";
+    EXPECT_EQ(columnimport_match_field(import, 3), columnimport_none);
     std::int64_t length = 0;
     EXPECT_EQ(std::string(columnimport_match_name(import, 2, &length), 6), "Au\0g/t"s);
     EXPECT_EQ(length, 6);
@@ -149,6 +152,7 @@ TEST_F(Door, ProposesForAFileWhatTheDialogOpensWith) {
     EXPECT_EQ(propose(), (Positions{-1, -1, -1, 0}));
     columnimport_set_similar(import, 0, 1);
     EXPECT_EQ(propose(), (Positions{1, -1, -1, 0}));
+    EXPECT_EQ(columnimport_match_field(import, 0), 1);
     EXPECT_EQ(columnimport_first_line_holds_titles(import), 1);
 
     columnimport_set_file(import, "/no such file");

@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: MIT
 """What a host in Python gets, on a machine without a display."""
 
+import csv
 import tempfile
 import unittest
 from concurrent.futures import ThreadPoolExecutor
@@ -16,14 +17,14 @@ class Propose(unittest.TestCase):
     def test_names_lead_to_matches(self):
         latin = "plong\udce9e"
         for columns, source, expected in [
-            (["holename", "dip"], ["BHID", "Au g/t"], [Match("BHID", 0, Origin.SYNONYM), None]),
-            (["au"], ["x", "Au", "Au"], [Match("Au", 1, Origin.SAME)]),
-            ([Column("elevation", alternatives=["RL"])], ["rl"], [Match("rl", 0, Origin.ALTERNATIVE)]),
-            ([Column("dip", saved="b")], ["dip", "b"], [Match("b", 1, Origin.SAVED)]),
-            (["Cu %"], ["cut_pct"], [Match("cut_pct", 0, Origin.SIMILAR, 39 / 56)]),
+            (["holename", "dip"], ["BHID", "Au g/t"], [Match("BHID", 0, 0, Origin.SYNONYM), None]),
+            (["au"], ["x", "Au", "Au"], [Match("Au", 1, 1, Origin.SAME)]),
+            ([Column("elevation", alternatives=["RL"])], ["rl"], [Match("rl", 0, 0, Origin.ALTERNATIVE)]),
+            ([Column("dip", saved="b")], ["dip", "b"], [Match("b", 1, 1, Origin.SAVED)]),
+            (["Cu %"], ["cut_pct"], [Match("cut_pct", 0, 0, Origin.SIMILAR, 39 / 56)]),
             ([Column("Cu %", similar=False)], ["cut_pct"], [None]),
-            (["plong_e"], ["a", latin], [Match(latin, 1, Origin.SAME)]),
-            (["a_b"], ["a\0b"], [Match("a\0b", 0, Origin.SAME)]),
+            (["plong_e"], ["a", latin], [Match(latin, 1, 1, Origin.SAME)]),
+            (["a_b"], ["a\0b"], [Match("a\0b", 0, 0, Origin.SAME)]),
             ([], [], []),
         ]:
             with self.subTest(columns=columns, source=source):
@@ -36,11 +37,27 @@ class Propose(unittest.TestCase):
             self.assertEqual(columnimport.likely_delimiter(file.name), ";")
             self.assertIsNone(columnimport.likely_delimiter("/nowhere"))
             by_name = columnimport.propose(["dip"], file.name, ";")
-            self.assertEqual(by_name.matches, (Match("DIP", 1, Origin.SAME),))
+            self.assertEqual(by_name.matches, (Match("DIP", 1, 1, Origin.SAME),))
             self.assertEqual(by_name.source_columns, ("HOLE", "DIP"))
             by_position = columnimport.propose(["dip"], file.name, ";", titles=False)
-            self.assertEqual(by_position.matches, (Match("Column1", 0, Origin.IN_ORDER),))
+            self.assertEqual(by_position.matches, (Match("Column1", 0, 0, Origin.IN_ORDER),))
             self.assertEqual((by_position.delimiter, by_position.titles), (";", False))
+
+    def test_a_field_is_where_the_reader_of_rows_has_it(self):
+        for line, delimiter in [
+            ('"a, m",b,"c""d"', ","),
+            ('3" core,"a;b",b', ","),
+            ("a\t\tb\t\"c\td\"", "\t"),
+        ]:
+            with tempfile.NamedTemporaryFile("w", suffix=".csv") as file:
+                file.write(line + "\n")
+                file.flush()
+                row = next(csv.reader([line], delimiter=delimiter))
+                names = columnimport.propose([], file.name, delimiter).source_columns
+                found = columnimport.propose(names, file.name, delimiter).matches
+            for match in found:
+                with self.subTest(line=line, match=match):
+                    self.assertIn(match.name, row[match.field].replace('"', ""))
 
     def test_a_file_that_cannot_be_read_says_why(self):
         result = columnimport.propose(["dip"], "/nowhere")
@@ -61,7 +78,7 @@ class Propose(unittest.TestCase):
 
         with ThreadPoolExecutor(20) as threads:
             matches = list(threads.map(work, range(20)))
-        self.assertEqual(matches, [Match(f"name{number}", 0, Origin.SAME) for number in range(20)])
+        self.assertEqual(matches, [Match(f"name{number}", 0, 0, Origin.SAME) for number in range(20)])
 
     def test_a_frame_gets_the_names_of_the_host(self):
         frame = rename_columns(pandas.DataFrame({"BHID": [1], "Remark": [2]}), ["holename"])
