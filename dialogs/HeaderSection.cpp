@@ -7,6 +7,7 @@
 
 #include "delimited/readPreview.h"
 #include "dialogs/DelimiterField.h"
+#include "dialogs/ImportLists.h"
 #include "dialogs/ImportOptions.h"
 #include "dialogs/StatusLine.h"
 #include "dialogs/nativeControls.h"
@@ -99,6 +100,7 @@ void wxImportCSVDialog::onTxtDelimiter(wxCommandEvent &) {
         return;
     }
     m_delimiter = typed.front();
+    m_lists->makeRoom();
     loadHeader();
     wxCommandEvent refresh;
     onCheckHeader(refresh);

@@ -40,17 +40,23 @@ ImportLists::ImportLists(wxImportCSVDialog &dialog, ListBoxSource &files, ListCt
 
 ImportLists::~ImportLists() = default;
 
+void ImportLists::makeRoom() {
+    if (m_shown && !m_shown->isSmallEnoughToKeep()) {
+        m_history.clear();
+        m_files.showNames({});
+        m_matches.DeleteAllItems();
+        m_shown.reset();
+    }
+}
+
 void ImportLists::refresh(const std::vector<ColumnMatch> &opening) {
     // A text on its way was meant for the rows that are about to go.
     m_matches.changes().clear();
     m_history.clear();
+    makeRoom();
     std::shared_ptr<ShownImport> before = std::move(m_shown);
     if (before) {
         before->rows = m_matches.rowMatches();
-        m_matches.DeleteAllItems();
-        if (!before->isSmallEnoughToKeep()) {
-            before.reset();
-        }
     }
     m_shown.reset(new ShownImport{m_dialog.m_delimiter,
                                   m_dialog.m_useSavedMatches,
@@ -94,7 +100,18 @@ void ImportLists::show() {
     m_dialog.applyListBoxMatchFont();
     m_files.showUse(m_matches.usedColumns());
     m_matches.layOutRows();
+    offerDelimiter();
     showStatus();
+}
+
+void ImportLists::offerDelimiter() {
+    const std::optional<LikelyDelimiter> &likely = m_shown->header.likely;
+    m_status.offer(likely ? offerOf(likely->delimiter) : wxString(), [this, likely] {
+        // As if it were typed into the field, which keeps the keys when the button goes.
+        auto &field = *findControl<wxTextCtrl>(m_dialog, wxImportCSVDialog::TXT_DELIMITER);
+        field.SetFocus();
+        field.SetValue(wxString(likely->delimiter));
+    });
 }
 
 void ImportLists::showStatus() {

@@ -33,6 +33,10 @@ public:
                 StatusLine &status);
     ~ImportLists() override;
 
+    /// Empties both lists if they show names as large as a file, so that a refresh does not hold
+    /// them once more.
+    void makeRoom();
+
     /// Fills both lists from the dialog's members and with the matches `opening`. The history
     /// begins anew; its first step leads back to what the lists showed before.
     void refresh(const std::vector<ColumnMatch> &opening);
@@ -41,6 +45,9 @@ private:
     /// Shows `m_shown` in both lists.
     void show();
     void showStatus();
+
+    /// Offers the delimiter that the first line contains in the place of the one that it does not.
+    void offerDelimiter();
 
     /// Puts `other` in the place of what is shown, in the dialog's members too, and keeps what was.
     void exchange(std::shared_ptr<ShownImport> &other);

@@ -23,18 +23,10 @@ constexpr int buttonId = 12;
 StatusLine::StatusLine(wxWindow &dialog)
     : wxBoxSizer(wxHORIZONTAL),
       m_text(new wxStaticText(&dialog, textId, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                              wxST_NO_AUTORESIZE)),
-      m_button(new wxButton(&dialog, buttonId, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                            wxBU_EXACTFIT)) {
+                              wxST_NO_AUTORESIZE)) {
     m_text->Hide();
-    m_button->Hide();
-    m_button->Bind(wxEVT_BUTTON, [this](wxCommandEvent &) {
-        const std::function<void()> take = m_take;
-        take();
-    });
     announceWhenShown(*m_text);
     Add(m_text, wxSizerFlags(1));
-    Add(m_button);
 }
 
 void StatusLine::show(Topic topic, const wxString &sentence) {
@@ -53,9 +45,20 @@ void StatusLine::show(Topic topic, const wxString &sentence) {
 }
 
 void StatusLine::offer(const wxString &label, std::function<void()> take) {
-    m_take = std::move(take);
-    m_button->SetLabelText(label);
-    m_button->Show(!label.empty());
+    if (m_button != nullptr) {
+        // It may be in the middle of its own click.
+        Detach(m_button);
+        m_button->Hide();
+        m_button->CallAfter([button = m_button] { button->Destroy(); });
+        m_button = nullptr;
+    }
+    if (!label.empty()) {
+        m_button =
+            new wxButton(m_text->GetParent(), buttonId, label, wxDefaultPosition, wxDefaultSize);
+        m_button->MoveAfterInTabOrder(m_text);
+        m_button->Bind(wxEVT_BUTTON, [take = std::move(take)](wxCommandEvent &) { take(); });
+        Add(m_button);
+    }
     Layout();
 }
 
@@ -64,12 +67,17 @@ wxSize StatusLine::CalcMin() {
 }
 
 void StatusLine::RepositionChildren(const wxSize &) {
-    const wxSize button = m_button->IsShown() ? m_button->GetBestSize() : wxSize();
-    const wxSize text(std::max(m_size.x - button.x - m_button->GetCharWidth(), 1), m_size.y);
+    wxSize text = m_size;
+    if (m_button != nullptr) {
+        const wxSize button = m_button->GetBestSize();
+        text.x -= button.x + m_text->GetCharWidth();
+        m_button->SetSize(
+            wxRect(wxPoint(m_position.x + m_size.x - button.x, m_position.y), button));
+    }
+    text.IncTo(wxSize(1, 1));
     m_text->SetSize(wxRect(m_position, text));
     m_text->SetLabelText(m_shown);
     m_text->Wrap(text.x);
-    m_button->SetSize(wxRect(wxPoint(m_position.x + m_size.x - button.x, m_position.y), button));
 }
 
 wxSizerFlags besideControls(int gap) {

@@ -27,7 +27,7 @@ public:
 
     void show(Topic topic, const wxString &sentence);
 
-    /// Shows a button that calls `take`; an empty label hides it.
+    /// Shows a button that calls `take`; an empty label takes it away.
     void offer(const wxString &label, std::function<void()> take);
 
     wxSize CalcMin() override;
@@ -35,10 +35,9 @@ public:
 
 private:
     wxStaticText *m_text;
-    wxButton *m_button;
+    wxButton *m_button = nullptr; // exists while something is offered
     std::array<wxString, 3> m_sentences;
     wxString m_shown;
-    std::function<void()> m_take;
 };
 
 /// How the line is added to a row of controls: in the room that they leave, `gap` pixels beside

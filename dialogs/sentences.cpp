@@ -7,16 +7,60 @@
 #include "names/nameText.h"
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
 #include <unordered_map>
 
+#include <wx/translation.h>
+
 namespace columnimport {
+
+namespace {
+
+/// What is offered in the place of a delimiter that the first line does not contain.
+struct Offer {
+    char delimiter;
+    Plural count;
+    const char *label;
+};
+
+constexpr Offer offers[] = {
+    {',', plural("It contains %u comma.", "It contains %u commas."), wxTRANSLATE("Use comma")},
+    {';', plural("It contains %u semicolon.", "It contains %u semicolons."),
+     wxTRANSLATE("Use semicolon")},
+    {'\t', plural("It contains %u tab.", "It contains %u tabs."), wxTRANSLATE("Use tab")},
+    {' ', plural("It contains %u space.", "It contains %u spaces."), wxTRANSLATE("Use space")},
+    {'|', plural("It contains %u bar.", "It contains %u bars."), wxTRANSLATE("Use bar")},
+};
+
+const Offer &offerFor(char delimiter) {
+    return *std::find_if(std::begin(offers), std::end(offers),
+                         [delimiter](const Offer &offer) { return offer.delimiter == delimiter; });
+}
+
+wxString undelimitedSentence(const std::optional<LikelyDelimiter> &likely) {
+    wxString sentence = translated("The first line of the file does not contain this delimiter.");
+    if (likely) {
+        const Offer &offer = offerFor(likely->delimiter);
+        const auto count = static_cast<unsigned>(likely->count);
+        sentence +=
+            '\n' + wxString::Format(translated(offer.count.one, offer.count.many, count), count);
+    }
+    return sentence;
+}
+
+} // namespace
+
+wxString offerOf(char delimiter) {
+    return translated(offerFor(delimiter).label);
+}
 
 wxString headerSentence(const Header &header) {
     switch (header.firstLine) {
     case FirstLine::cut:
         break;
     case FirstLine::undelimited:
-        return translated("The first line of the file does not contain this delimiter.");
+        return undelimitedSentence(header.likely);
     case FirstLine::blank:
         return translated("The first line of the file is blank.");
     case FirstLine::missing:

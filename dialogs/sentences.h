@@ -15,8 +15,12 @@ struct Header;
 
 // The sentences of the status line. Each is empty if there is nothing to say.
 
-/// Why the first line of a file gives no columns, or one alone.
+/// Why the first line of a file gives no columns, or one alone, and the delimiter that it contains
+/// instead.
 wxString headerSentence(const Header &header);
+
+/// The label of the button that takes this delimiter.
+wxString offerOf(char delimiter);
 
 /// How many of `rows` are guesses, and how they look.
 wxString guessSentence(const std::vector<RowMatch> &rows);

@@ -23,4 +23,14 @@ wxString translated(const char *text);
 ///     wxString::Format(translated("%d row", "%d rows", 3), 3) == "3 rows"
 wxString translated(const char *one, const char *many, unsigned count);
 
+/// Two texts that are translated later, marked here for the catalogues.
+struct Plural {
+    const char *one;
+    const char *many;
+};
+
+constexpr Plural plural(const char *one, const char *many) {
+    return {one, many};
+}
+
 } // namespace columnimport

@@ -84,6 +84,11 @@ std::vector<int> boldRows() {
         [](int row) { return matchList().GetItemFont(row).GetWeight() == wxFONTWEIGHT_BOLD; });
 }
 
+std::vector<int> italicRows() {
+    return rowsWhere(
+        [](int row) { return matchList().GetItemFont(row).GetStyle() == wxFONTSTYLE_ITALIC; });
+}
+
 std::vector<int> markedRows() {
     return rowsWhere(isShownAsMarked);
 }

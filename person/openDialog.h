@@ -27,9 +27,11 @@ Control &control(int id) {
 
 // What is to be read of it; to be used on a person's thread.
 
-/// The texts of the match list's first column, and those of its rows that are shown in bold.
+/// The texts of the match list's first column, and those of its rows that are shown in bold and in
+/// italics.
 Names matchTexts();
 std::vector<int> boldRows();
+std::vector<int> italicRows();
 
 /// The rows of the match list that are marked, and those in the hover state.
 std::vector<int> markedRows();

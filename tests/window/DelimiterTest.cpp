@@ -106,7 +106,7 @@ TEST(Delimiter, IsFollowedByASentenceWhereTheFileGivesOneColumnOrNone) {
     const std::string missing = "The file can't be read: No such file or directory";
     const ScratchFile one("BHID;X\na,b\n"), quoted("\"a,b\""), spaces(" \t\na,b\n"), empty("");
     const std::tuple<std::string, std::string, std::string> cases[] = {
-        {one.path(), undelimited, ""},
+        {one.path(), undelimited + "\nIt contains 1 semicolon.", ""},
         {quoted.path(), "", undelimited},
         {spaces.path(), blank, blank},
         {empty.path(), "The file is empty.", "The file is empty."},

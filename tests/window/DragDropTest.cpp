@@ -226,7 +226,46 @@ TEST_F(DragDrop, MarksARangeWithoutTheRowsThatHaveGone) {
         clickWith(person, WXK_CONTROL, 9, {0, 9});
         person.click(wxImportCSVDialog::CHECK_HEADER);
         poll("only the saved rows are shown", [] { return matchTexts().size() == 2; });
-        clickWith(person, WXK_SHIFT, 0, {0});
+        clickWith(person, WXK_SHIFT, 0, {0, 1});
+        pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, AssignsByADoubleClickAndNotByADragBesideAClick) {
+    run.show([](Person &person) {
+        Names texts = start;
+        const auto expectTexts = [&texts] {
+            poll("the rows read " + testing::PrintToString(texts),
+                 [&texts] { return matchTexts() == texts; });
+        };
+        person.click(Person::fileRow(0));
+        person.drag(Person::fileRow(0), Person::matchRow(3));
+        texts[3] = "HOLE";
+        expectTexts();
+        person.drag(Person::fileRow(1), Person::matchRow(4));
+        person.click(Person::fileRow(1));
+        texts[4] = "FROM";
+        expectTexts();
+        clickWith(person, WXK_NONE, 5, {5});
+        person.click(Person::fileRow(9));
+        EXPECT_EQ(markedRows(), Rows{5}) << "the first click leaves the marks";
+        person.click(Person::fileRow(9));
+        texts[5] = "AS";
+        expectTexts();
+        pressCancel(person);
+    });
+}
+
+TEST_F(DragDrop, MakesNoStepOfUndoWhereNothingChanges) {
+    run.show([](Person &person) {
+        person.drag(Person::fileRow(8), Person::matchRow(8));
+        person.drag(Person::fileRow(9), Person::matchRow(9));
+        person.strikeWith(WXK_CONTROL, 'z');
+        poll("the last drag is undone", [] { return matchTexts()[9] == "Not used"; });
+        person.drag(Person::matchRow(3), Person::matchRow(3) + wxSize(2, 0));
+        person.drag(Person::fileRow(8), Person::matchRow(8));
+        person.strikeWith(WXK_CONTROL, 'y');
+        poll("redo is still there", [] { return matchTexts()[9] == "AS"; });
         pressCancel(person);
     });
 }
@@ -393,6 +432,10 @@ TEST_F(DragDrop, ReachesRowsOutOfViewByTheWheelAndAtTheEdge) {
                        "the first row is in view", [&topRow] { return topRow() == 0; });
         person.drop();
         EXPECT_EQ(matchTexts()[0], "FE");
+        person.strikeWith(WXK_CONTROL, 'z');
+        person.strikeWith(WXK_CONTROL, 'z');
+        waitUntil("undo brings its row into view", [&topRow] { return topRow() > 0; });
+        EXPECT_EQ(matchTexts()[78], "Not used");
         pressCancel(person);
     });
 }

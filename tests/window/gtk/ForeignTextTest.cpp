@@ -6,11 +6,13 @@
 #include "person/Screen.h"
 #include "tests/ScratchFile.h"
 
+#include <chrono>
 #include <cstdio>
 
 #include <glib.h>
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
+#include <wxImportCSVDialog.h>
 
 namespace {
 
@@ -141,6 +143,58 @@ TEST(ForeignText, IsPastedAsUtf8IfThatIsOfferedAndElseReadAsANameIs) {
     }
 }
 
+TEST(ForeignText, IsPastedBeforeWhateverIsAskedForLater) {
+    const ScratchFile file("HOLE,FROM\n");
+    const struct {
+        const char *what;
+        Steps later;
+        Names result;
+    } cases[] = {
+        {"undo", [](Person &person) { person.strikeWith(WXK_CONTROL, 'z'); }, {"HOLE", "FROM"}},
+        {"a drop",
+         [](Person &person) { person.drag(Person::fileRow(1), Person::matchRow(0)); },
+         {"FROM", "FROM"}},
+        {"a double click",
+         [](Person &person) {
+             person.click(Person::fileRow(1));
+             person.click(Person::fileRow(1));
+         },
+         {"FROM", "FROM"}},
+        {"OK", [](Person &) {}, {"slow", "FROM"}},
+        {"a refresh",
+         [](Person &person) {
+             person.click(wxImportCSVDialog::CHECK_HEADER);
+             poll("the rows are new", [] { return matchTexts() == Names{"Column1", "Column2"}; });
+             // The program answers the second request never, and the first one before that.
+             person.click(Person::matchRow(1));
+             person.strikeWith(WXK_CONTROL, 'v');
+             poll("the wait is over", [&person] {
+                 person.strike(WXK_DELETE);
+                 return matchTexts().back() == "Not used";
+             });
+         },
+         {"Column1", ""}},
+    };
+    for (const auto &[what, later, result] : cases) {
+        DialogRun run;
+        run.fileName = file.path();
+        run.appColumns = {"hole", "to"};
+        OtherProgram program({"unused"});
+        EXPECT_TRUE(run.show([&program, &later = later](Person &person) {
+            person.drag(Person::fileRow(1), Person::matchRow(1));
+            person.drag(Person::fileRow(0), Person::matchRow(0));
+            person.click(program.window);
+            program.waitFor("taken\n");
+            waitUntil("the dialog has the keys again", [] { return openDialog().IsActive(); });
+            person.click(Person::matchRow(0));
+            person.strikeWith(WXK_CONTROL, 'v');
+            later(person);
+            person.strike(WXK_RETURN);
+        })) << what;
+        EXPECT_EQ(run.matches, result) << what;
+    }
+}
+
 TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
     const ScratchFile file("HOLE,FROM\n");
     DialogRun run;
@@ -168,6 +222,7 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
             poll("the key waits for the text and no longer",
                  [] { return matchTexts().front() == "Not used"; });
         }
+        const auto began = std::chrono::steady_clock::now();
         person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_DOWN);
         poll("the dialog goes on", [] { return hoverRows() == std::vector<int>{1}; });
@@ -175,6 +230,7 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
             person.strike(WXK_DELETE);
             return matchTexts().back() == "Not used";
         });
+        EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(10));
         person.strikeWith(WXK_CONTROL, 'v');
         person.strike(WXK_ESCAPE);
     }));

@@ -206,3 +206,22 @@ TEST_F(Host, ContinuesItsLoopsHoweverARunEnds) {
     inApplication(importInEveryWay);
     gtk_widget_destroy(run.owner);
 }
+
+TEST_F(Host, MayLeaveItsLoopBeforeTheDialogIsShown) {
+    inMainLoop([this] {
+        g_idle_add_full(
+            G_PRIORITY_HIGH - 10,
+            [](void *) -> gboolean {
+                gtk_main_quit();
+                return G_SOURCE_REMOVE;
+            },
+            nullptr, nullptr);
+        bool useSaved = false;
+        EXPECT_FALSE(wxImportCSVDialogPeer().showWindow(
+            nullptr, "Import", run.appColumns, run.fileName, &useSaved, &run.matches,
+            &run.delimiter, &run.firstLineHeader, 900, 900));
+        while (gtk_events_pending() != 0) {
+            gtk_main_iteration();
+        }
+    });
+}

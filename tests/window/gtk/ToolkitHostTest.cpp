@@ -55,6 +55,19 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     EXPECT_TRUE(hasEnded);
 }
 
+/// A dialog that brings in columns of its own.
+class DerivedDialog : public wxImportCSVDialog {
+public:
+    using wxImportCSVDialog::loadHeader;
+    using wxImportCSVDialog::wxImportCSVDialog;
+
+    void showColumns(const Names &columns) {
+        setFileSchema(columns);
+        wxCommandEvent refresh;
+        onCheckHeader(refresh);
+    }
+};
+
 bool runItself(wxImportCSVDialog &dialog, const Steps &steps) {
     dialog.create();
     const bool isOk = runWithPerson(steps, [&dialog] { return dialog.ShowModal() == wxID_OK; });
@@ -110,5 +123,34 @@ TEST(ToolkitHost, RunsTheDialogForATableItself) {
         }));
         EXPECT_EQ(dialog.getColumnNames(), (Names{"BHID", "DIP"}));
         EXPECT_EQ(dialog.getDelimiter(), ',');
+    });
+}
+
+TEST(ToolkitHost, RefreshesADerivedDialogFromItsOwnColumns) {
+    const ScratchFile file("BHID,Dip\n");
+    inHost([&file](wxFrame &frame) {
+        DerivedDialog dialog(&frame, "Import", {"holename", "dip", "depth"}, file.path(), false, {},
+                             ';', true);
+        dialog.loadHeader();
+        const Names depth = {"HoleId", "plongee", "Depth"};
+        const Names all = {"Depth", "plongee", "HoleId"};
+        EXPECT_TRUE(runItself(dialog, [&](Person &person) {
+            person.typeDelimiter(',');
+            poll("the file is cut", [] { return fileTexts() == Names{"BHID", "Dip"}; });
+            person.drag(Person::fileRow(1), Person::matchRow(2));
+            onUserInterface([&dialog, &all] { dialog.showColumns(all); });
+            EXPECT_EQ(fileTexts(), all);
+            EXPECT_EQ(dialog.getColumnNames(), depth);
+            person.click(Person::fileRow(0));
+            person.strikeWith(WXK_CONTROL, 'z');
+            poll("the columns of the file are back", [] {
+                return matchTexts() == Names{"BHID", "Dip", "Dip"};
+            });
+            EXPECT_EQ(fileTexts(), (Names{"BHID", "Dip"}));
+            person.strikeWith(WXK_CONTROL, 'y');
+            poll("and go again", [&depth] { return matchTexts() == depth; });
+            pressOk(person);
+        }));
+        EXPECT_EQ(dialog.getColumnNames(), depth);
     });
 }

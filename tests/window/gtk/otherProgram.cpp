@@ -14,6 +14,7 @@
 #include <utility>
 
 #include <gdk/gdkwayland.h>
+#include <glib-unix.h>
 #include <gtk/gtk.h>
 #include <poll.h>
 #include <unistd.h>
@@ -69,8 +70,11 @@ gboolean takeClipboard(GtkWidget *, GdkEvent *, GtkWindow *window) {
 } // namespace
 
 int main(int argumentCount, char **arguments) {
-    // Should nobody drag.
     alarm(60);
+    // When nobody listens any more.
+    g_unix_fd_add(
+        STDOUT_FILENO, G_IO_ERR, [](int, GIOCondition, void *) -> gboolean { std::_Exit(0); },
+        nullptr);
     gtk_init(&argumentCount, &arguments);
     char **offered = arguments + 1;
     GtkWidget *window = gtk_window_new(GTK_WINDOW_TOPLEVEL);
