@@ -45,6 +45,10 @@ void StatusLine::show(Topic topic, const wxString &sentence) {
 }
 
 void StatusLine::offer(const wxString &label, std::function<void()> take) {
+    m_take = std::move(take);
+    if (m_button != nullptr && m_button->GetLabelText() == label) {
+        return;
+    }
     if (m_button != nullptr) {
         // It may be in the middle of its own click.
         Detach(m_button);
@@ -53,10 +57,12 @@ void StatusLine::offer(const wxString &label, std::function<void()> take) {
         m_button = nullptr;
     }
     if (!label.empty()) {
-        m_button =
-            new wxButton(m_text->GetParent(), buttonId, label, wxDefaultPosition, wxDefaultSize);
+        m_button = new wxButton(m_text->GetParent(), buttonId, label);
         m_button->MoveAfterInTabOrder(m_text);
-        m_button->Bind(wxEVT_BUTTON, [take = std::move(take)](wxCommandEvent &) { take(); });
+        m_button->Bind(wxEVT_BUTTON, [this](wxCommandEvent &) {
+            const std::function<void()> take = m_take; // which may offer something else
+            take();
+        });
         Add(m_button);
     }
     Layout();

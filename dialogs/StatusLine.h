@@ -38,6 +38,7 @@ private:
     wxButton *m_button = nullptr; // exists while something is offered
     std::array<wxString, 3> m_sentences;
     wxString m_shown;
+    std::function<void()> m_take; // what the button does
 };
 
 /// How the line is added to a row of controls: in the room that they leave, `gap` pixels beside
