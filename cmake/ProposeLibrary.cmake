@@ -1,7 +1,8 @@
 # SPDX-License-Identifier: MIT
 
 # The door in C without the dialog, for a host that only proposes: it loads neither the toolkit nor
-# what that loads. Where the toolkit is linked into the library, that one alone serves both.
+# what that loads. Neither library needs the other. Where the toolkit is linked into the library, that
+# one alone serves both.
 
 add_library(columnimport_propose SHARED)
 add_library(columnimport::propose ALIAS columnimport_propose)

@@ -54,10 +54,9 @@ set_target_properties(columnimport PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 target_compile_features(columnimport PUBLIC cxx_std_17)
 target_link_libraries(columnimport PRIVATE
-    columnimport_matching columnimport_delimited columnimport_languages columnimport_names
-    columnimport_toolkit)
+    columnimport_door columnimport_matching columnimport_delimited columnimport_languages
+    columnimport_names columnimport_toolkit)
 if(WIN32)
-    target_link_libraries(columnimport PRIVATE columnimport_door)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
     target_sources(columnimport PRIVATE ${catalogue_resources})
@@ -70,7 +69,7 @@ else()
         host/gtk/frameShadow.cpp
         readers/gtk/AccessibleRow.cpp)
     include(cmake/ProposeLibrary.cmake)
-    target_link_libraries(columnimport PUBLIC columnimport_propose PRIVATE PkgConfig::GTK)
+    target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
     # host closes it.
     target_link_options(columnimport PRIVATE

@@ -45,17 +45,13 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
     BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_folder}
     OUTPUT_VARIABLE prefix_from_pkgconfig_folder)
 function(columnimport_install_package package)
-    list(TRANSFORM ARGN PREPEND "-l" OUTPUT_VARIABLE package_libraries)
-    list(JOIN package_libraries " " package_libraries)
     configure_file(${CMAKE_CURRENT_FUNCTION_LIST_DIR}/columnimport.pc.in ${package}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${package}.pc
         DESTINATION ${pkgconfig_folder} COMPONENT development)
 endfunction()
+columnimport_install_package(columnimport)
 if(TARGET columnimport_propose)
-    columnimport_install_package(columnimport columnimport columnimport-propose)
-    columnimport_install_package(columnimport-propose columnimport-propose)
-else()
-    columnimport_install_package(columnimport columnimport)
+    columnimport_install_package(columnimport-propose)
 endif()
 
 install(FILES README.md CHANGELOG.md CONTRIBUTING.md LICENSE

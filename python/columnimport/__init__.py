@@ -144,7 +144,7 @@ def propose(
     by their positions and are called "Column1" and so on. May be called on any thread. A file that
     can't be read gives no matches, and `problem` says why.
     """
-    with Import() as one:
+    with Import(_library.proposals()) as one:
         _fill(one, columns, source, delimiter, titles)
         _require(one, one.propose(), _library.OK)
         return _read(one, len(columns), True)
@@ -166,7 +166,7 @@ def show(
     The other arguments are those of `propose`. Raises `NoDisplay` without a display, and `Error`
     while another dialog is open.
     """
-    with Import() as one:
+    with Import(_library.dialogs()) as one:
         _fill(one, columns, source, delimiter, titles)
         one.call("set_title", text(title))
         if size is not None:

@@ -6,8 +6,6 @@ from __future__ import annotations
 import ctypes
 from typing import Any, Sequence
 
-from . import _library
-
 
 def text(words: str) -> bytes:
     """Words for the library, whose texts end at a zero."""
@@ -21,10 +19,10 @@ def name_bytes(name: str) -> bytes:
 
 
 class Import:
-    """An import for the length of a `with`."""
+    """An import for the length of a `with`, by the functions of one library from first to last."""
 
-    def __init__(self) -> None:
-        self._functions = _library.proposals()
+    def __init__(self, functions: ctypes.CDLL) -> None:
+        self._functions = functions
         self._import = self._functions.columnimport_new()
         if not self._import:
             raise MemoryError
@@ -46,7 +44,7 @@ class Import:
         return self._functions.columnimport_propose(self._import)
 
     def show(self, window: int | None) -> int:
-        return _library.dialogs().columnimport_show(self._import, window)
+        return self._functions.columnimport_show(self._import, window)
 
     def message(self) -> str:
         """What was wrong with the last call, or an empty text."""

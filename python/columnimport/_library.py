@@ -55,24 +55,22 @@ def _load(name: str) -> ctypes.CDLL:
     return ctypes.CDLL(f"lib{name}.so.{VERSION}")
 
 
-def _declare(library: ctypes.CDLL, name: str, result: object, arguments: list) -> None:
-    function = getattr(library, "columnimport_" + name)
-    function.restype = result
-    function.argtypes = arguments
+def _declare(library: ctypes.CDLL, functions: dict) -> ctypes.CDLL:
+    for name, (result, arguments) in functions.items():
+        function = getattr(library, "columnimport_" + name)
+        function.restype = result
+        function.argtypes = arguments
+    return library
 
 
 @lru_cache(maxsize=None)
 def proposals() -> ctypes.CDLL:
     """All of the library but its dialogs, which costs next to nothing to load."""
-    library = _load("columnimport-propose")
-    for name, (result, arguments) in _FUNCTIONS.items():
-        _declare(library, name, result, arguments)
-    return library
+    return _declare(_load("columnimport-propose"), _FUNCTIONS)
 
 
 @lru_cache(maxsize=None)
 def dialogs() -> ctypes.CDLL:
-    """The dialogs, with the toolkit that they are made of."""
-    library = _load("columnimport")
-    _declare(library, "show", c_int32, [c_void_p, c_void_p])
-    return library
+    """All of the library, with the toolkit that the dialogs are made of."""
+    show = (c_int32, [c_void_p, c_void_p])
+    return _declare(_load("columnimport"), {**_FUNCTIONS, "show": show})
