@@ -6,6 +6,7 @@
 
 add_library(columnimport_propose SHARED)
 add_library(columnimport::propose ALIAS columnimport_propose)
+columnimport_own_code(columnimport_propose)
 set_target_properties(columnimport_propose PROPERTIES
     OUTPUT_NAME columnimport-propose
     EXPORT_NAME propose
