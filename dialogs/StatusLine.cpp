@@ -60,8 +60,8 @@ void StatusLine::offer(const wxString &label, std::function<void()> take) {
         m_button = new wxButton(m_text->GetParent(), buttonId, label);
         m_button->MoveAfterInTabOrder(m_text);
         m_button->Bind(wxEVT_BUTTON, [this](wxCommandEvent &) {
-            const std::function<void()> take = m_take; // which may offer something else
-            take();
+            const std::function<void()> action = m_take; // may replace m_take
+            action();
         });
         Add(m_button);
     }

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragdrop/clipboard.h"
+#include "keyboard/clipboard.h"
 
+#include <memory>
 #include <new>
 #include <string>
+#include <system_error>
 #include <thread>
 
 #include <windows.h>
-#include <wx/app.h>
 
 namespace columnimport {
 
@@ -48,23 +49,62 @@ private:
     bool m_isOpen = false;
 };
 
+/// A request, which a thread of its own answers by a message to the window below. Neither touches
+/// the toolkit from that thread: the host may end or replace its application meanwhile.
+struct Request {
+    TextAnswer answer;
+    std::optional<std::wstring> text;
+};
+
+constexpr UINT answered = WM_APP;
+
+LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM word, LPARAM number) {
+    if (message != answered) {
+        return DefWindowProcW(window, message, word, number);
+    }
+    const std::unique_ptr<Request> request(reinterpret_cast<Request *>(number));
+    DestroyWindow(window);
+    request->answer(request->text ? std::optional<wxString>(*request->text) : std::nullopt);
+    return 0;
+}
+
+/// A window without a picture, on the user-interface thread, for one message.
+HWND newMessageWindow() {
+    static const ATOM windowClass = [] {
+        WNDCLASSW description = {};
+        description.lpfnWndProc = onMessage;
+        description.hInstance = GetModuleHandleW(nullptr);
+        description.lpszClassName = L"ColumnImportClipboardText";
+        return RegisterClassW(&description);
+    }();
+    return CreateWindowExW(0, MAKEINTATOM(windowClass), nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
+                           nullptr, GetModuleHandleW(nullptr), nullptr);
+}
+
+void answerRequest(std::unique_ptr<Request> request, HWND window) {
+    try {
+        request->text = OpenedClipboard().text();
+    } catch (const std::bad_alloc &) {
+        request->text.reset(); // what is too much to take has not come
+    }
+    if (PostMessageW(window, answered, 0, reinterpret_cast<LPARAM>(request.get())) != FALSE) {
+        static_cast<void>(request.release()); // the window's now
+    }
+}
+
 } // namespace
 
-// Windows has no way to ask that does not wait, so a thread of its own does. It may outlive the
-// dialog, but not this library, which stays in the process.
+// Windows can't be asked without waiting, so a thread waits. It may outlive the dialog, but not this
+// library, which stays in the process.
 void requestClipboardText(const TextAnswer &answer) {
-    std::thread([answer] {
-        try {
-            const std::optional<std::wstring> text = OpenedClipboard().text();
-            if (wxTheApp != nullptr) { // a host of the same toolkit ends it
-                wxTheApp->CallAfter([answer, text] {
-                    answer(text ? std::optional<wxString>(*text) : std::nullopt);
-                });
-            }
-        } catch (const std::bad_alloc &) {
-            return; // what is too much to take has not come
-        }
-    }).detach();
+    HWND window = newMessageWindow();
+    try {
+        std::thread(answerRequest, std::make_unique<Request>(Request{answer, std::nullopt}), window)
+            .detach();
+    } catch (const std::system_error &) {
+        DestroyWindow(window);
+        answer(std::nullopt);
+    }
 }
 
 } // namespace columnimport

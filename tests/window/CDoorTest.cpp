@@ -79,3 +79,15 @@ TEST_F(CDoor, AsksOnceForColumnsThatTheHostRequires) {
               columnimport_ok);
     EXPECT_EQ(columnimport_match_position(import.get(), 1), 1);
 }
+
+// The sanitizers notice what is freed too early or never.
+TEST_F(CDoor, FreesAnImportThatIsGivenUpDuringItsRun) {
+    columnimport_import *given = import.release();
+    runWithPerson(
+        [given](Person &person) {
+            onUserInterface([given] { columnimport_free(given); });
+            EXPECT_EQ(matchTexts(), (Names{"HOLE", "Not used"}));
+            pressOk(person);
+        },
+        [given] { return columnimport_show(given, nullptr) == columnimport_ok; });
+}

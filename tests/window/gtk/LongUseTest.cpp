@@ -6,13 +6,11 @@
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
 
-#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <iterator>
 
-#include <columnimport.h>
 #include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <malloc.h>
@@ -90,25 +88,6 @@ TEST(LongUse, HoldsANameAsLargeAsItsFileNoMoreThanTwice) {
     }));
     EXPECT_EQ(run.delimiter, '|');
     EXPECT_LT(peakInMegabytes() - before, 2 * 256 + 128);
-}
-
-TEST(LongUse, FreesAnImportThatIsGivenUpDuringItsRunWhenTheRunIsOver) {
-    columnimport_import *import = columnimport_new();
-    constexpr std::size_t large = 64U << 20U;
-    const std::string name(large, 'x');
-    columnimport_set_table(import, std::array<const char *, 1>{name.c_str()}.data(), nullptr, 1);
-    const auto bytes = [] { return static_cast<std::size_t>(holdings().bytes); };
-    const std::size_t before = bytes();
-    std::size_t during = 0;
-    runWithPerson(
-        [&](Person &person) {
-            onUserInterface([import] { columnimport_free(import); });
-            during = read(bytes);
-            pressOk(person);
-        },
-        [import] { return columnimport_show(import, nullptr) == columnimport_ok; });
-    EXPECT_GE(during, before);
-    EXPECT_LT(bytes(), before - large / 2);
 }
 
 TEST(LongUse, LeaksNoMemoryDescriptorOrWindow) {
