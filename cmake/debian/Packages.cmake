@@ -59,6 +59,7 @@ set(CPACK_DEBIAN_PYTHON_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
     "python3:any (>= 3.8), ${propose_package} (>= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS ${library_package})
+set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_LIST_DIR}/prerm)
 set(CPACK_DEBIAN_PYTHON_DESCRIPTION
 "This is the module for hosts written in Python. It proposes by names alone,
 and shows the dialog over a window of theirs where there is a display.")
