@@ -128,7 +128,7 @@ def likely_delimiter(path: str | os.PathLike[str]) -> str | None:
 
     It is a tab, semicolon, bar, comma or blank. A file that can't be read has none.
     """
-    with Import() as one:
+    with Import(_library.proposals()) as one:
         one.call("set_file", text(os.fspath(path)))
         likely = one.call("likely_delimiter")
         return chr(likely) if likely != _library.NONE else None
