@@ -31,9 +31,11 @@ add_library(columnimport SHARED
     dragdrop/rowsText.cpp
     dragdrop/tip.cpp
     host/${platform}/HostStandIn.cpp
+    host/${platform}/X11Owner.cpp
     host/${platform}/modalLoop.cpp
     host/${platform}/startToolkit.cpp
     host/c/show.cpp
+    host/c/showOverX11.cpp
     host/runImport.cpp
     host/toolkit.cpp
     host/wxImportCSVDialogPeer.cpp

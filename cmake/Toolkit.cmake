@@ -10,7 +10,7 @@ if(WIN32)
 else()
     set(platform gtk)
     find_package(PkgConfig REQUIRED)
-    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 wayland-client)
+    pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 wayland-client x11)
 endif()
 
 # The toolkit's headers are not ours to warn about.

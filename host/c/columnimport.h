@@ -54,7 +54,8 @@ extern "C" {
  * and columnimport_message tells in one sentence what is wrong. No exception leaves a function.
  *
  * Threads: one import is for one thread at a time; different imports may be used at the same time.
- * columnimport_show is for the thread of the user interface alone, everything else for any.
+ * columnimport_show and columnimport_show_over_x11 are for the thread of the user interface alone,
+ * everything else for any.
  */
 
 /** One import: the columns on both sides, and what came of the last run. */
@@ -315,6 +316,26 @@ columnimport_exported int32_t columnimport_propose(columnimport_import *import);
  *         columnimport_cancelled, and not after the others
  */
 columnimport_exported int32_t columnimport_show(columnimport_import *import, void *window);
+
+/**
+ * The same over a window of X11, for a host whose windows are not GTK's: one in Qt or Tk, or in
+ * another process. The window manager keeps the dialog above that window and gives the keys to it,
+ * and the window takes no click while the dialog is open. It may be destroyed meanwhile; then the
+ * dialog stays and can be answered.
+ *
+ * GLib's default main context is served meanwhile, so that what is attached to it goes on: Qt's
+ * windows where Qt uses GLib, as it does by custom; not those of Tk.
+ *
+ * The display is the X11 display that GTK opens by its custom (the variable DISPLAY), also in a
+ * session of Wayland, unless GTK has been started on Wayland in this process.
+ *
+ * @param import  the import
+ * @param window  the number of the window; any window within a top-level stands for that
+ * @return any of the outcomes: columnimport_no_display also where GTK is on Wayland already, and on
+ *         Windows; columnimport_wrong_use also where there is no such window
+ */
+columnimport_exported int32_t columnimport_show_over_x11(columnimport_import *import,
+                                                         int64_t window);
 
 /* ---- Reading it ----
  *
