@@ -7,7 +7,9 @@ corrects the proposal:
     >>> import columnimport
     >>> result = columnimport.propose(["holename", "dip"], ["BHID", "Au g/t"])
     >>> result.matches
-    (Match(name='BHID', position=0, field=0, origin=<Origin.SYNONYM: 2>, score=None), None)
+    (Match('BHID', position=0, field=0, origin=Origin.SYNONYM), None)
+
+`python -m columnimport --help` tells how the same is done on the command line.
 
 Names are bytes for the library. Here they are texts: UTF-8, and a byte that is none is a lone
 surrogate ("surrogateescape"), so that every name leads back to its bytes.
@@ -22,6 +24,7 @@ from enum import Enum
 from typing import Any, Sequence, Tuple, Union
 
 from . import _library
+from ._errors import Error, NoDisplay, NotInstalled
 from ._import import Import, name_bytes, text
 
 __all__ = [
@@ -29,6 +32,7 @@ __all__ = [
     "Error",
     "Match",
     "NoDisplay",
+    "NotInstalled",
     "Origin",
     "Result",
     "likely_delimiter",
@@ -38,22 +42,17 @@ __all__ = [
 ]
 
 
-class Error(RuntimeError):
-    """What the library could not do, as a sentence."""
-
-
-class NoDisplay(Error):
-    """There is no display that a dialog could be shown on."""
-
-
 @dataclass(frozen=True)
 class Column:
     """A column of the application.
 
     `alternatives` are other words for it, which count like synonyms. If a `required` column is left
     without a match, the dialog asks back once before it takes OK. One that is not `similar` takes
-    no guess: only a name that is the same, a synonym or one of its alternatives. `saved` is the name that it was
-    matched to by an earlier run, shown instead of a new proposal where the source has it.
+    no guess: only a name that is the same, a synonym or one of its alternatives. `saved` is the name
+    that it was matched to by an earlier run, shown instead of a new proposal where the source has it.
+
+        >>> propose([Column("elevation", alternatives=["RL"])], ["Remark", "rl"]).matches
+        (Match('rl', position=1, field=1, origin=Origin.ALTERNATIVE),)
     """
 
     name: str
@@ -84,8 +83,12 @@ class Match:
     differs from the position where a quoted title holds the delimiter, and where tabs stand in a
     run; it is `None` where such readers don't agree. Both are counted from 0, and both are `None` if
     a person dropped a text that no column of the source is called.
+
     `origin` tells a guess from a certainty, and `score` is how much the two names of a guess have
     in common, above 0.4 and below 1; of other matches it is `None`.
+
+        >>> propose(["hole"], ["holes"]).matches
+        (Match('holes', position=0, field=0, origin=Origin.SIMILAR, score=0.79),)
     """
 
     name: str
@@ -93,6 +96,13 @@ class Match:
     field: int | None
     origin: Origin
     score: float | None = None
+
+    def __repr__(self) -> str:
+        score = "" if self.score is None else f", score={self.score:.2f}"
+        return (
+            f"Match({self.name!r}, position={self.position}, field={self.field}, "
+            f"origin={self.origin}{score})"
+        )
 
 
 @dataclass(frozen=True)
@@ -103,6 +113,9 @@ class Result:
     true after OK and for a proposal, false after Cancel. `delimiter` and `titles` are as they were
     left, `source_columns` the names of the source as they were cut, and `problem` is the system's
     reason if a file could not be read, else `None`.
+
+        >>> propose(["dip"], "/nowhere.csv").problem
+        'No such file or directory'
     """
 
     matches: Tuple[Match | None, ...]
@@ -118,13 +131,13 @@ Source = Union[str, "os.PathLike[str]", Sequence[str]]
 
 def version() -> str:
     """The version of the library that is loaded, for example "0.4.0"."""
-    return _library.proposals().columnimport_version().decode()
+    return str(_library.proposals().columnimport_version().decode())
 
 
 def likely_delimiter(path: str | os.PathLike[str]) -> str | None:
     """The delimiter that the first line of a file was likely written with, or `None`.
 
-        >>> result = columnimport.propose(columns, path, columnimport.likely_delimiter(path) or ",")
+        >>> result = propose(columns, path, likely_delimiter(path) or ",")
 
     It is a tab, semicolon, bar, comma or blank. A file that can't be read has none.
     """
@@ -143,10 +156,14 @@ def propose(
     names of a table's columns. `delimiter` is one byte. Without `titles` the columns of a file go
     by their positions and are called "Column1" and so on. May be called on any thread. A file that
     can't be read gives no matches, and `problem` says why.
+
+        >>> holename, dip = propose(["holename", "dip"], ["BHID", "Au g/t"]).matches
+        >>> holename.name, dip
+        ('BHID', None)
     """
     with Import(_library.proposals()) as one:
         _fill(one, columns, source, delimiter, titles)
-        _require(one, one.propose(), _library.OK)
+        _require(one, one.run("propose"), _library.OK)
         return _read(one, len(columns), True)
 
 
@@ -158,20 +175,31 @@ def show(
     delimiter: str = ",",
     titles: bool = True,
     size: Tuple[int, int] | None = None,
+    x11_window: int | None = None,
 ) -> Result:
     """Shows the dialog for `source` over `window` and returns when a person has answered it.
 
     To be called on the thread of the user interface. `window` is a `Gtk.Window` of PyGObject, the
-    native handle of a window as a number, or `None`. `size` is that of the dialog's frame in pixels.
-    The other arguments are those of `propose`. Raises `NoDisplay` without a display, and `Error`
-    while another dialog is open.
+    native handle of a window as a number, or `None`. A host that has neither GTK nor Windows gives the
+    number of its window at the X server as `x11_window`: `winfo_id()` of Tk, `winId()` of Qt. `size`
+    is that of the dialog's frame in pixels. The other arguments are those of `propose`.
+
+    Raises `NoDisplay` without a display, `NotInstalled` without the library that has the dialogs, and
+    `Error` while another dialog is open.
     """
+    if window is not None and x11_window is not None:
+        raise ValueError("the dialog belongs to one window, and two are given")
     with Import(_library.dialogs()) as one:
         _fill(one, columns, source, delimiter, titles)
         one.call("set_title", text(title))
         if size is not None:
             one.call("set_size", *size)
-        outcome = one.show(_handle(window))
+        if x11_window is not None:
+            if x11_window.bit_length() > 32:  # of a larger number the call would take a part
+                raise ValueError(f"{x11_window} is no number of an X11 window")
+            outcome = one.run("show_over_x11", x11_window)
+        else:
+            outcome = one.run("show", _handle(window))
         _require(one, outcome, _library.OK, _library.CANCELLED)
         return _read(one, len(columns), outcome == _library.OK)
 
@@ -212,16 +240,14 @@ def _handle(window: Any) -> int | None:
     pointer_of = ctypes.pythonapi.PyCapsule_GetPointer
     pointer_of.restype = ctypes.c_void_p
     pointer_of.argtypes = [ctypes.py_object, ctypes.c_char_p]
-    return pointer_of(window.__gpointer__, None)
+    return int(pointer_of(window.__gpointer__, None))
 
 
 def _require(one: Import, outcome: int, *allowed: int) -> None:
     if outcome in allowed:
         return
     if outcome == _library.NO_DISPLAY:
-        raise NoDisplay("there is no display to show the dialog on")
-    if outcome == _library.ALREADY_OPEN:
-        raise Error("another dialog is open")
+        raise NoDisplay(one.message())
     if outcome == _library.WRONG_USE:
         raise ValueError(one.message())
     raise Error(one.message())

@@ -40,15 +40,13 @@ class Import:
             raise ValueError(self.message())
         return result
 
-    def propose(self) -> int:
-        return self._functions.columnimport_propose(self._import)
-
-    def show(self, window: int | None) -> int:
-        return self._functions.columnimport_show(self._import, window)
+    def run(self, function: str, *arguments: Any) -> int:
+        """The outcome of a function that runs the import."""
+        return int(getattr(self._functions, "columnimport_" + function)(self._import, *arguments))
 
     def message(self) -> str:
         """What was wrong with the last call, or an empty text."""
-        return self._functions.columnimport_message(self._import).decode()
+        return str(self._functions.columnimport_message(self._import).decode())
 
     def set_table(self, names: Sequence[str]) -> None:
         texts = [name_bytes(name) for name in names]

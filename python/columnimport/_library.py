@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: MIT
-"""The functions of the library, found as the system's loader finds it."""
+"""The functions of the library: a copy beside the module, or found as the system's loader finds it."""
 
 from __future__ import annotations
 
@@ -8,8 +8,12 @@ import os
 import sys
 from ctypes import POINTER, c_char, c_char_p, c_double, c_int32, c_int64, c_void_p
 from functools import lru_cache
+from typing import Any, Dict, List, Sequence, Tuple
+
+from ._errors import NotInstalled
 
 VERSION = "0.4"
+_FOLDER = os.path.dirname(os.path.abspath(__file__))
 
 # What the functions return.
 OK, CANCELLED, NO_DISPLAY, ALREADY_OPEN, WRONG_USE, FAILED = range(6)
@@ -18,7 +22,7 @@ NONE, INVALID = -1, -2
 # An array of bytes that may hold zeros, so that it comes as a plain address.
 _BYTES = POINTER(c_char)
 
-_FUNCTIONS = {
+_FUNCTIONS: Dict[str, Tuple[Any, List[Any]]] = {
     "version": (c_char_p, []),
     "new": (c_void_p, []),
     "free": (None, [c_void_p]),
@@ -49,28 +53,47 @@ _FUNCTIONS = {
 }
 
 
-def _load(name: str) -> ctypes.CDLL:
-    if sys.platform == "win32":
-        return ctypes.CDLL(os.path.join(os.path.dirname(__file__), "columnimport.dll"))
-    return ctypes.CDLL(f"lib{name}.so.{VERSION}")
-
-
-def _declare(library: ctypes.CDLL, functions: dict) -> ctypes.CDLL:
-    for name, (result, arguments) in functions.items():
-        function = getattr(library, "columnimport_" + name)
-        function.restype = result
-        function.argtypes = arguments
-    return library
-
-
 @lru_cache(maxsize=None)
 def proposals() -> ctypes.CDLL:
     """All of the library but its dialogs, which costs next to nothing to load."""
-    return _declare(_load("columnimport-propose"), _FUNCTIONS)
+    beside = os.path.join(_FOLDER, "libcolumnimport-propose.so")
+    return _load("columnimport-propose", beside if os.path.exists(beside) else None)
 
 
 @lru_cache(maxsize=None)
 def dialogs() -> ctypes.CDLL:
     """All of the library, with the toolkit that the dialogs are made of."""
-    show = (c_int32, [c_void_p, c_void_p])
-    return _declare(_load("columnimport"), {**_FUNCTIONS, "show": show})
+    library = _load("columnimport")
+    _declare(library, "show", c_int32, [c_void_p, c_void_p])
+    _declare(library, "show_over_x11", c_int32, [c_void_p, c_int64])
+    return library
+
+
+def _load(name: str, file: str | None = None) -> ctypes.CDLL:
+    if sys.platform == "win32":
+        file = os.path.join(_FOLDER, "columnimport.dll")
+    elif file is None:
+        file = f"lib{name}.so.{VERSION}"
+    try:
+        library = ctypes.CDLL(file)
+    except OSError as reason:
+        raise NotInstalled(_advice(name, file, reason)) from reason
+    for function, (result, arguments) in _FUNCTIONS.items():
+        _declare(library, function, result, arguments)
+    return library
+
+
+def _advice(name: str, file: str, reason: OSError) -> str:
+    if sys.platform == "win32":
+        return f"put columnimport.dll beside the module, into {_FOLDER} ({reason})"
+    what = "the dialogs are" if name == "columnimport" else "the library is"
+    return (
+        f"{what} not installed: install the Debian package lib{name}{VERSION}, or have the loader "
+        f"find {file}, for example by LD_LIBRARY_PATH ({reason})"
+    )
+
+
+def _declare(library: ctypes.CDLL, name: str, result: Any, arguments: Sequence[Any]) -> None:
+    function = getattr(library, "columnimport_" + name)
+    function.restype = result
+    function.argtypes = arguments
