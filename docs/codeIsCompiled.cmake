@@ -13,7 +13,7 @@ foreach(source IN LISTS sources)
 endforeach()
 
 set(count 0)
-foreach(language cpp c csharp python)
+foreach(language cpp c csharp python rust)
     set(begin "```${language}\n")
     string(LENGTH ${begin} beginLength)
     set(rest "${whole}")

@@ -96,25 +96,17 @@ TEST(QuotedFields, ArePlainWhereTheTwoCountAlikeAndNoneWhereReadersDiffer) {
         char delimiter;
         Numbers fields;
     } cases[] = {
-        {"", ',', {}},
         {" \t\r", ',', {}},
         {" a,,b, ", ',', {0, 1, 2, 3}},
         {R"("From, m",To,"a ""b, c""",d)", ',', {0, 0, 1, 2, 2, 3}},
-        {R"("","",)", ',', {0, 1, 2}},
-        {R"(a, "b" ,c)", ',', {0, 1, 2}},
         {R"(a, "b,c",d)", ',', {0, 1, -1, -1}},
         {R"(3.5" core,2" core,c)", ',', {0, 1, 2}},
         {R"("a"b,c,d)", ',', {0, -1, -1}},
-        {R"(a,"b)", ',', {0, 1}},
         {R"(a,"b,c)", ',', {0, 1, -1}},
         {"\t a\t \tb\t", '\t', {1, 3}},
-        {"\"a\t\tb\"\tc", '\t', {0, 0, 1}},
-        {"a b\tc d", ' ', {0, 1, 2}},
         {"a  b c", ' ', {0, -1, -1}},
         {" a b", ' ', {-1, -1}},
-        {R"("a  b" c)", ' ', {0, 0, 1}},
         {"a,b\rc,d", ',', {0, -1, -1}},
-        {"\"a\rb\",c\r", ',', {0, 1}},
         {R"(a"b")", '"', {0, 1, 2}},
     };
     for (const auto &[line, delimiter, fields] : cases) {

@@ -94,6 +94,7 @@ void call(columnimport_import *import, FuzzedDataProvider &data, Filled &filled)
         [&] { columnimport_likely_delimiter(import); },
         [&] { columnimport_match_origin(import, number); },
         [&] { columnimport_match_score(import, number); },
+        [&] { columnimport_match_field(import, number); },
         [&] { columnimport_match_name(import, number, &lengths.emplace_back()); },
         [&] { columnimport_source_column(import, number, &lengths.emplace_back()); },
         [&] { columnimport_message(import); },

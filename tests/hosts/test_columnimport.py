@@ -1,16 +1,31 @@
 # SPDX-License-Identifier: MIT
 """What a host in Python gets, on a machine without a display."""
 
+import contextlib
 import csv
+import doctest
+import io
+import json
 import tempfile
 import unittest
 from concurrent.futures import ThreadPoolExecutor
+from pathlib import Path
+from unittest import mock
 
 import columnimport
-from columnimport import Column, Match, Origin
+from columnimport import Column, Match, Origin, _library
+from columnimport.__main__ import main
 from rename_columns import rename_columns
 
 import pandas
+
+COLLARS = str(Path(__file__).parents[2] / "examples/data/collars.csv")
+
+
+def load_tests(_loader, tests, _pattern):
+    examples = {"columns": ["holename"], "path": COLLARS}
+    tests.addTests(doctest.DocTestSuite(columnimport, extraglobs=examples))
+    return tests
 
 
 class Propose(unittest.TestCase):
@@ -85,10 +100,64 @@ class Propose(unittest.TestCase):
         self.assertEqual(list(frame.columns), ["holename", "Remark"])
 
 
+class CommandLine(unittest.TestCase):
+    def run_with(self, *arguments):
+        out, err = io.StringIO(), io.StringIO()
+        with contextlib.redirect_stdout(out), contextlib.redirect_stderr(err):
+            try:
+                status = main(arguments)
+            except SystemExit as refused:
+                status = refused.code
+        return status, out.getvalue(), err.getvalue()
+
+    def test_it_prints_a_table_or_json_and_ends_with_a_status(self):
+        columns = "--columns", "holename,dip"
+        for arguments, status, sentence in [
+            ((COLLARS, *columns, "--required", "holename"), 0, ""),
+            ((COLLARS, *columns, "--required", "dip"), 1, "dip is required and has no match"),
+            (("/nowhere.csv", *columns), 2, "No such file"),
+            ((COLLARS, *columns, "--required", "azimuth"), 2, "'azimuth' is none of the columns"),
+            ((COLLARS, *columns, "--delimiter", ";;"), 2, "not one byte"),
+            ((COLLARS, *columns, "--alternative", "dip"), 2, "no COLUMN=WORD"),
+            ((COLLARS, *columns, "--show", "--x11-window", "0x10"), 2, "X11 display"),
+            ((COLLARS,), 2, "--columns"),
+        ]:
+            with self.subTest(arguments=arguments):
+                found = self.run_with(*arguments)
+                self.assertEqual(found[0], status)
+                self.assertIn(sentence, found[2])
+        _, table, _ = self.run_with(COLLARS, "--columns", "holename,dip", "--delimiter", "auto")
+        self.assertRegex(table, r"\nholename +BHID +0 +0 +synonym +-\ndip( +-){5}\n$")
+
+    def test_json_has_all_of_a_match(self):
+        with tempfile.NamedTemporaryFile("wb", suffix=".csv") as file:
+            file.write(b'"BHID;x"\tholes \xe9\tRL')
+            file.flush()
+            arguments = "--columns", "hole,z", "--alternative", "z=rl", "--delimiter", "tab", "--json"
+            _, text, _ = self.run_with(file.name, *arguments)
+            (hole, z) = json.loads(text)["matches"]
+            self.assertGreater(hole.pop("score"), 0.4)
+            expected = {"column": "hole", "name": "holes \udce9", "position": 1, "field": 1}
+            self.assertEqual(hole, {**expected, "origin": "similar"})
+            expected = {"column": "z", "name": "RL", "position": 2, "field": 2, "score": None}
+            self.assertEqual(z, {**expected, "origin": "alternative"})
+            _, text, _ = self.run_with(file.name, *arguments, "--exact", "hole")
+            self.assertIsNone(json.loads(text)["matches"][0]["name"])
+
+
 class Show(unittest.TestCase):
     def test_it_says_that_there_is_no_display(self):
         with self.assertRaisesRegex(columnimport.NoDisplay, "display"):
             columnimport.show(["dip"], ["DIP"])
+        with self.assertRaisesRegex(columnimport.NoDisplay, "X11 display"):
+            columnimport.show(["dip"], ["DIP"], x11_window=1)
+
+    def test_it_says_what_to_install(self):
+        _library.dialogs.cache_clear()
+        self.addCleanup(_library.dialogs.cache_clear)
+        with mock.patch.object(_library, "VERSION", "0.0"):
+            with self.assertRaisesRegex(columnimport.NotInstalled, "install .* libcolumnimport0.0"):
+                columnimport.show(["dip"], ["DIP"])
 
 
 if __name__ == "__main__":
