@@ -5,9 +5,9 @@
 // Prints the rows taken, the peak of the memory in kB, and the longest time in milliseconds that
 // the main loop was kept waiting.
 
-#include "examples/drillhole/database/connection.h"
-#include "examples/drillhole/database/importRows.h"
-#include "examples/drillhole/window/DatabaseThread.h"
+#include "drillhole/database/connection.h"
+#include "drillhole/database/importRows.h"
+#include "drillhole/window/DatabaseThread.h"
 
 #include <chrono>
 #include <iostream>

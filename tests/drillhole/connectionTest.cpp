@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-#include "examples/drillhole/database/connection.h"
-#include "examples/drillhole/database/faultText.h"
-#include "examples/drillhole/rows/Fault.h"
+#include "drillhole/database/connection.h"
+#include "drillhole/database/faultText.h"
+#include "drillhole/rows/Fault.h"
 
 #include <gtest/gtest.h>
 #include <netinet/in.h>

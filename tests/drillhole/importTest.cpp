@@ -2,10 +2,10 @@
 
 // Imports into a real database, looked into with SQLite's own shell.
 
-#include "examples/drillhole/database/connection.h"
-#include "examples/drillhole/database/faultText.h"
-#include "examples/drillhole/database/importRows.h"
-#include "examples/drillhole/rows/Fault.h"
+#include "drillhole/database/connection.h"
+#include "drillhole/database/faultText.h"
+#include "drillhole/database/importRows.h"
+#include "drillhole/rows/Fault.h"
 
 #include <cstdlib>
 #include <filesystem>

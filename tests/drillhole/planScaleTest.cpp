@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "examples/drillhole/window/planScale.h"
+#include "drillhole/window/planScale.h"
 
 #include <gtest/gtest.h>
 

@@ -2,11 +2,11 @@
 
 // Text cut into rows, and rows checked.
 
-#include "examples/drillhole/rows/CsvFile.h"
-#include "examples/drillhole/rows/Fault.h"
-#include "examples/drillhole/rows/RowCheck.h"
-#include "examples/drillhole/rows/startDelimiter.h"
-#include "examples/drillhole/rows/text.h"
+#include "drillhole/rows/CsvFile.h"
+#include "drillhole/rows/Fault.h"
+#include "drillhole/rows/RowCheck.h"
+#include "drillhole/rows/startDelimiter.h"
+#include "drillhole/rows/text.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: MIT
+
+#include "drillhole/database/TableRows.h"
+
+#include "drillhole/database/Answer.h"
+#include "drillhole/database/connection.h"
+#include "drillhole/database/faultText.h"
+#include "drillhole/database/onOwnThread.h"
+#include "drillhole/database/sourceTables.h"
+#include "drillhole/rows/Fault.h"
+#include "drillhole/rows/text.h"
+
+#include <algorithm>
+#include <optional>
+
+#include <boost/algorithm/string/join.hpp>
+
+namespace drillhole {
+
+namespace {
+
+constexpr std::size_t batchSize = 1000;
+
+} // namespace
+
+/// What the thread of the source works with.
+struct TableRows::Source {
+    std::string connection;
+    std::string table;
+    RowLayout layout;
+    double count = 0;
+    Session session = {};
+    std::vector<std::size_t> read = {}; // the positions of the columns that are
+    std::string query = {};
+    bool isCursor = false;
+    std::optional<Answer> answer = {}; // of the open session
+
+    void open() {
+        session = openSource(connection);
+        const std::string name = nameInQuery(*session, table);
+        if (columnNames(*session, name) != layout.columns) {
+            throw Fault("The columns of table " + table +
+                        " were changed meanwhile. Import it again to match the present ones.");
+        }
+        *session << "select count(*) from " + name, soci::into(count);
+        std::vector<std::string> names;
+        for (std::size_t i = 0; i < layout.columns.size(); ++i) {
+            const auto &wanted = layout.positions;
+            if (std::find(wanted.begin(), wanted.end(), i) != wanted.end()) {
+                read.push_back(i);
+                names.push_back(inQuotes(layout.columns[i], '"', '"'));
+            }
+        }
+        query = "select " + boost::join(names, ", ") + " from " + name;
+        // The client of PostgreSQL takes the whole answer to a query into memory.
+        isCursor = session->get_backend_name() == "postgresql";
+        if (isCursor) {
+            session->begin();
+            *session << "declare all_rows no scroll cursor for " + query;
+            query = "fetch " + std::to_string(batchSize) + " from all_rows";
+        }
+    }
+
+    Batch readBatch() {
+        Batch batch;
+        inPlainWords(connection, [&] {
+            if (!session) {
+                open();
+            }
+            if (!answer || isCursor) {
+                answer.emplace(*session, query, std::vector<Kind>(read.size(), Kind::text));
+            }
+            while (batch.size() < batchSize && answer->next()) {
+                std::vector<std::string> &fields = batch.emplace_back(layout.columns.size());
+                for (std::size_t i = 0; i < read.size(); ++i) {
+                    fields[read[i]] = answer->row()[i].text;
+                }
+            }
+        });
+        return batch;
+    }
+};
+
+TableRows::TableRows(const std::string &connection, const std::string &table,
+                     const RowLayout &layout, const std::atomic<bool> &isCancelled)
+    : m_source(new Source{connection, table, layout}), m_isCancelled(isCancelled) {
+    readAhead();
+}
+
+void TableRows::readAhead() {
+    m_ahead = onOwnThread([source = m_source] { return source->readBatch(); });
+}
+
+bool TableRows::next(Row &row) {
+    if (m_nextOfBatch == m_batch.size()) {
+        while (m_ahead.wait_for(std::chrono::milliseconds(20)) != std::future_status::ready) {
+            if (m_isCancelled) {
+                return false;
+            }
+        }
+        m_batch = m_ahead.get();
+        m_nextOfBatch = 0;
+        if (m_batch.empty()) {
+            return false;
+        }
+        readAhead();
+    }
+    const std::vector<std::string> &fields = m_batch[m_nextOfBatch++];
+    row.firstLine = row.lastLine = ++m_read;
+    row.fields.assign(fields.begin(), fields.end());
+    return true;
+}
+
+double TableRows::share() const {
+    return m_source->count > 0 ? static_cast<double>(m_read) / m_source->count : 1;
+}
+
+} // namespace drillhole

@@ -1,0 +1,157 @@
+// SPDX-License-Identifier: MIT
+
+#include "drillhole/database/holeDatabase.h"
+
+#include "drillhole/database/faultText.h"
+#include "drillhole/rows/Fault.h"
+#include "drillhole/rows/text.h"
+
+#include <algorithm>
+
+#include <boost/algorithm/string/join.hpp>
+#include <boost/range/adaptor/transformed.hpp>
+
+namespace drillhole {
+
+namespace {
+
+std::string definitionOf(const Table &table) {
+    const auto defined = [](const Column &column) {
+        return column.sqlName + (column.kind == Kind::text ? " text" : " double precision") +
+               (column.isRequired ? " not null" : "");
+    };
+    const std::string key = table.namesHoles ? ", primary key (holename)" : "";
+    return "create table if not exists " + table.name + " (" +
+           boost::join(table.columns | boost::adaptors::transformed(defined), ", ") + key + ')';
+}
+
+bool hasColumns(soci::session &session, const Table &table) {
+    try {
+        session << "select " + columnList(table) + " from " + table.name + " where 1 = 0";
+        return true;
+    } catch (const soci::soci_error &) {
+        return false;
+    }
+}
+
+std::string isOfHole(const std::string &name) {
+    const std::string text = inQuotes(name, '\'', '\'');
+    return name.empty() ? "1 = 1" : "substr(holename, 1, length(" + text + ")) = " + text;
+}
+
+std::size_t countWhere(soci::session &session, const Table &table, const std::string &condition) {
+    long long count = 0;
+    session << "select count(*) from " + table.name + " where " + condition, soci::into(count);
+    return static_cast<std::size_t>(count);
+}
+
+} // namespace
+
+Session openHoles(const std::string &connection) {
+    Session session = openDatabase(connection);
+    for (const Table &table : holeTables()) {
+        if (hasColumns(*session, table)) {
+            continue; // also where the account may not make a table
+        }
+        inPlainWords(connection, [&] { *session << definitionOf(table); });
+        if (!hasColumns(*session, table)) {
+            throw Fault("The table " + table.name +
+                        " there has other columns than the program's "
+                        "own. Choose another database for the drill holes.");
+        }
+    }
+    return session;
+}
+
+std::size_t rowCount(soci::session &session, const Table &table, const std::string &hole) {
+    return countWhere(session, table, isOfHole(hole));
+}
+
+// Pages go on behind the key of a row, whatever the order: with an offset each page would cost as
+// much as all those before it.
+std::vector<std::vector<std::string>> pageOf(soci::session &session, const RowView &view,
+                                             const PagePlace &place, std::size_t count) {
+    const std::string key = session.get_backend_name() == "postgresql" ? "ctid" : "rowid";
+    const bool goesDown = view.descends != place.isBefore;
+    std::vector<std::string> order = {key};
+    if (view.sortedBy) {
+        const Column &column = view.table->columns[*view.sortedBy];
+        const char *filler = column.kind == Kind::text ? ", '')" : ", 0)";
+        order = {column.sqlName + " is null", "coalesce(" + column.sqlName + filler, key};
+    }
+    std::string query = "select " + key + ", " + columnList(*view.table) + " from " +
+                        view.table->name + " where " + isOfHole(view.hole);
+    if (!place.key.empty()) {
+        const std::string sorted = boost::join(order, ", ");
+        query += " and (" + sorted + ") " + (goesDown ? "<" : ">") + " (select " + sorted +
+                 " from " + view.table->name + " where " + key + " = '" + place.key + "')";
+    }
+    const std::string direction = goesDown ? " desc" : "";
+    query += " order by " + boost::join(order, direction + ", ") + direction + " limit " +
+             std::to_string(count) + " offset " + std::to_string(place.skipped);
+    std::vector<std::vector<std::string>> rows;
+    const std::vector<Kind> texts(view.table->columns.size() + 1, Kind::text);
+    for (Answer answer(session, query, texts); answer.next();) {
+        std::vector<std::string> &row = rows.emplace_back();
+        for (const Value &value : answer.row()) {
+            row.push_back(value.text);
+        }
+    }
+    if (place.isBefore) {
+        std::reverse(rows.begin(), rows.end());
+    }
+    return rows;
+}
+
+std::vector<Collar> collarsOf(soci::session &session) {
+    std::vector<Collar> collars;
+    for (Answer rows = rowsOf(session, holeTables().front(), 3); rows.next();) {
+        collars.push_back({rows.row()[0].text, rows.row()[1].number, rows.row()[2].number});
+    }
+    return collars;
+}
+
+std::string columnList(const Table &table, const std::string &before) {
+    const auto named = [&](const Column &column) { return before + column.sqlName; };
+    return boost::join(table.columns | boost::adaptors::transformed(named), ", ");
+}
+
+Answer rowsOf(soci::session &session, const Table &table, std::size_t width) {
+    std::vector<std::string> names;
+    std::vector<Kind> kinds;
+    for (std::size_t i = 0; i < width; ++i) {
+        names.push_back(table.columns[i].sqlName);
+        kinds.push_back(table.columns[i].kind);
+    }
+    return {session, "select " + boost::join(names, ", ") + " from " + table.name, kinds};
+}
+
+Holes holesOf(soci::session &session, const Table &table) {
+    Holes holes;
+    const Table &collars = holeTables().front();
+    for (Answer rows = rowsOf(session, collars, collars.columns.size()); rows.next();) {
+        Hole &hole = holes[rows.row().front().text];
+        const Value &length = rows.row().back();
+        hole.length = length.isNull ? hole.length : length.number;
+    }
+    if (table.namesHoles) {
+        return holes;
+    }
+    for (Answer rows = rowsOf(session, table, table.hasIntervals ? 3 : 2); rows.next();) {
+        const auto hole = holes.find(rows.row().front().text);
+        if (hole != holes.end()) {
+            hole->second.depths += depthsOf(table, rows.row());
+        }
+    }
+    return holes;
+}
+
+std::size_t orphanCount(soci::session &session) {
+    std::size_t count = 0;
+    for (const Table &table : holeTables()) {
+        count += countWhere(session, table, "holename not in (select holename from collar)");
+    }
+    return count;
+}
+
+} // namespace drillhole

@@ -1,0 +1,246 @@
+// SPDX-License-Identifier: MIT
+
+#include "drillhole/rows/CsvFile.h"
+
+#include "drillhole/rows/Fault.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <limits>
+#include <utility>
+
+#include <boost/algorithm/string/replace.hpp>
+
+namespace drillhole {
+
+namespace {
+
+constexpr std::size_t headSize = 65'536;
+constexpr std::size_t longestRow = 4'194'304;
+constexpr std::size_t mostFields = 100'000;
+
+Fault unreadable(const std::string &path, int error) {
+    std::string advice = std::strerror(error) + std::string("; copy the file to another disk.");
+    if (error == ENOENT || error == ENOTDIR) {
+        advice = "There is no such file; choose another one.";
+    } else if (error == EACCES) {
+        advice = "You may not read it; ask its owner for access, or copy it to a folder of yours.";
+    } else if (error == EISDIR || error == ENOTSUP) {
+        advice = "It is no file but a folder or a device; choose a text file.";
+    }
+    return Fault("The file " + path + " can't be read. " + advice);
+}
+
+/// Throws a Fault for a file that the dialog would show as one line of broken text.
+void requireText(std::string_view head) {
+    const char *fault = nullptr;
+    if (head.find('\0') != std::string_view::npos) {
+        fault = "The file is no text, or text in UTF-16. Save it as CSV in UTF-8";
+    } else if (head.substr(0, 4) == "sep=") {
+        fault = "The first line is a spreadsheet's note of its delimiter. Delete that line";
+    } else if (head.find('\r') < head.size() - 1 && head.find('\n') == std::string_view::npos) {
+        fault =
+            "The file's lines end in carriage returns only, as those of old Macintosh programs. "
+            "Save it with another line end";
+    }
+    if (fault != nullptr) {
+        throw Fault(fault + std::string(", and import the file again."));
+    }
+}
+
+/// Whether a quoted field has a line that is as rich in delimiters as a row: a quote is missing
+/// then.
+bool holdsARow(std::string_view text, char delimiter, std::size_t width) {
+    for (std::size_t end = text.find('\n'); width > 2 && end < text.size();) {
+        text.remove_prefix(end + 1);
+        end = std::min(text.find('\n'), text.size());
+        const auto delimiters = std::count(text.data(), text.data() + end, delimiter);
+        if (static_cast<std::size_t>(delimiters) + 1 >= width) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+FileStamp stampOf(const std::string &path) {
+    try {
+        // Only what is a file has a size: a pipe could keep the reader waiting for ever.
+        return {std::filesystem::file_size(path), std::filesystem::last_write_time(path)};
+    } catch (const std::filesystem::filesystem_error &error) {
+        throw unreadable(path, error.code().value());
+    }
+}
+
+CsvFile::CsvFile(const std::string &path, char delimiter)
+    : m_path(path), m_stamp(stampOf(path)), m_file(path, std::ios::binary), m_delimiter(delimiter),
+      m_lineRead(new char[longestRow]) {
+    if (delimiter == '\n' || delimiter == '\r') {
+        throw Fault("A line end can't be the delimiter. Type another one in the dialog.");
+    }
+    if (!m_file) {
+        throw unreadable(path, errno);
+    }
+    while (m_text.size() < headSize && addLine()) {
+    }
+    m_end = m_text.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
+    requireText(std::string_view(m_text).substr(m_end));
+}
+
+bool CsvFile::next(Row &row) {
+    do {
+        // What was cut goes when it is the larger part, so that this costs little for each row.
+        if (m_end > m_text.size() / 2) {
+            m_text.erase(0, std::exchange(m_end, 0));
+        }
+        m_begin = m_end;
+        if (m_begin == m_text.size() && !addLine()) {
+            if (m_read != m_stamp.first || stampOf(m_path) != m_stamp) {
+                throw Fault("The file " + m_path +
+                            " was changed while it was read. Nothing was "
+                            "imported; import it again.");
+            }
+            return false;
+        }
+        m_isWhole = false;
+        while (!endsWithin(row)) {
+            // Twice as much each time, since the row is cut anew.
+            const std::size_t had = m_text.size() - m_begin;
+            m_isWhole = had >= longestRow;
+            while (!m_isWhole && m_text.size() < m_begin + 2 * had) {
+                m_isWhole = !addLine();
+            }
+        }
+        const char *text = m_text.data();
+        const auto lineEnds = std::count(text + m_begin, text + m_end - 1, '\n');
+        row.firstLine = m_line;
+        row.lastLine = m_line + static_cast<std::size_t>(lineEnds);
+        m_line = row.lastLine + 1;
+    } while (std::all_of(row.fields.begin(), row.fields.end(),
+                         [](std::string_view field) { return field.empty(); }));
+    m_width = m_width == 0 ? row.fields.size() : m_width;
+    return true;
+}
+
+void CsvFile::putBack(const Row &row) {
+    m_end = m_begin;
+    m_line = row.firstLine;
+}
+
+double CsvFile::share() const {
+    return m_stamp.first > 0 ? static_cast<double>(m_read) / static_cast<double>(m_stamp.first) : 1;
+}
+
+const char *CsvFile::behindBlanks(const char *at, const char *end) const {
+    // The dialog counts a carriage return among the blanks, and a line feed alone ends a line.
+    while (at != end && (*at == ' ' || *at == '\t' || *at == '\r') && *at != m_delimiter) {
+        ++at;
+    }
+    return at;
+}
+
+/// Appends the file's next line to the text; of one that is longer than a row may be, its head.
+bool CsvFile::addLine() {
+    m_file.getline(m_lineRead.get(), longestRow);
+    if (m_file.bad()) {
+        throw unreadable(m_path, errno);
+    }
+    const auto count = static_cast<std::size_t>(m_file.gcount());
+    if (count == 0) {
+        return false;
+    }
+    m_read += count;
+    m_text.append(m_lineRead.get(), m_file.good() ? count - 1 : count);
+    m_text.append(m_file.eof() ? 0 : 1, '\n');
+    if (m_file.fail()) {
+        m_file.clear();
+        m_file.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+        m_read += static_cast<std::size_t>(m_file.gcount());
+    }
+    return true;
+}
+
+/// Cuts the row, or returns false if the text has to go on for that.
+bool CsvFile::endsWithin(Row &row) {
+    m_ownTexts.clear();
+    row.fields.clear();
+    row.refusal = nullptr;
+    const char *begin = m_text.data() + m_begin;
+    const char *end = m_text.data() + m_text.size();
+    const char *at = begin;
+    do {
+        at = behindBlanks(at, end);
+        if (at == end || *at != '"' || m_delimiter == '"') {
+            takePlain(row, at, end);
+        } else if (!takeQuoted(row, at, end)) {
+            return false;
+        }
+        if (row.fields.size() > mostFields) {
+            refuse(row, "more than 100,000 fields", begin);
+        }
+        if (row.refusal != nullptr) {
+            return true;
+        }
+    } while (at != end && *at++ != '\n');
+    m_end = static_cast<std::size_t>(at - m_text.data());
+    if (m_end - m_begin >= longestRow) {
+        refuse(row, "longer than 4 MiB", at - 1);
+    }
+    return true;
+}
+
+bool CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
+    const char *opening = at++;
+    const char *begin = at;
+    while ((at = std::find(at, end, '"')) != end && at + 1 != end && at[1] == '"') {
+        at += 2;
+    }
+    const char *closing = at;
+    at = closing == end ? end : behindBlanks(closing + 1, end);
+    if (at == end && !m_isWhole) {
+        return false;
+    }
+    const std::string_view text(begin, static_cast<std::size_t>(closing - begin));
+    if (closing == end) {
+        refuse(row, "a double quote opens here and does not close", opening);
+    } else if (at != end && *at != m_delimiter && *at != '\n') {
+        refuse(row, "text follows a double quote that closes a field", opening);
+    } else if (holdsARow(text, m_delimiter, m_width)) {
+        refuse(row, "a double quote opens here and closes behind other rows", opening);
+    } else if (text.find('"') == std::string_view::npos) {
+        row.fields.push_back(text);
+    } else {
+        row.fields.emplace_back(
+            m_ownTexts.emplace_back(boost::replace_all_copy(std::string(text), "\"\"", "\"")));
+    }
+    return true;
+}
+
+void CsvFile::takePlain(Row &row, const char *&at, const char *end) const {
+    const char *begin = at;
+    while (at != end && *at != m_delimiter && *at != '\n') {
+        ++at;
+    }
+    const char *last = at;
+    while (last != begin && behindBlanks(last - 1, last) == last) {
+        --last;
+    }
+    if (last != begin) {
+        row.fields.emplace_back(begin, static_cast<std::size_t>(last - begin));
+    } else if (m_delimiter != ' ') {
+        row.fields.emplace_back();
+    }
+}
+
+/// Leaves the row with its text up to the end of the line that `from` stands in.
+void CsvFile::refuse(Row &row, const char *reason, const char *from) {
+    const auto place = static_cast<std::size_t>(from - m_text.data());
+    const std::size_t lineEnd = std::min(m_text.find('\n', place), m_text.size());
+    m_end = std::min(lineEnd + 1, m_text.size());
+    row.refusal = reason;
+    row.fields.assign(1, std::string_view(m_text).substr(m_begin, lineEnd - m_begin));
+}
+
+} // namespace drillhole

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "drillhole/rows/RowCheck.h"
+#include "drillhole/window/Settings.h"
+
+#include <gtkmm/box.h>
+#include <gtkmm/checkbutton.h>
+#include <gtkmm/comboboxtext.h>
+#include <gtkmm/entry.h>
+
+namespace drillhole {
+
+/// What the next import into a table makes of values below detection, of words for no value and of
+/// decimal commas. It is kept with the table.
+class ChoicesBar : public Gtk::Box {
+public:
+    explicit ChoicesBar(Settings &settings);
+
+    /// Shows what is kept with the table.
+    void show(const Table &table);
+
+    ValueChoices choices() const;
+
+private:
+    void keep(const char *key, const std::string &choice);
+
+    Settings &m_settings;
+    const Table *m_table = nullptr; // null while its choices are put in
+    Gtk::ComboBoxText m_belowDetection;
+    Gtk::Entry m_noValue;
+    Gtk::CheckButton m_decimalCommas;
+};
+
+} // namespace drillhole

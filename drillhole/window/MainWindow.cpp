@@ -1,0 +1,338 @@
+// SPDX-License-Identifier: MIT
+
+#include "drillhole/window/MainWindow.h"
+
+#include "drillhole/database/connection.h"
+#include "drillhole/database/sourceTables.h"
+#include "drillhole/rows/Fault.h"
+#include "drillhole/rows/text.h"
+#include "drillhole/window/MatchDialog.h"
+#include "drillhole/window/SourceDialog.h"
+
+#include <giomm/file.h>
+#include <giomm/menu.h>
+#include <glibmm/convert.h>
+#include <glibmm/main.h>
+#include <glibmm/miscutils.h>
+#include <gtkmm/filechoosernative.h>
+#include <gtkmm/frame.h>
+#include <gtkmm/menubutton.h>
+#include <gtkmm/messagedialog.h>
+#include <gtkmm/paned.h>
+#include <gtkmm/stackswitcher.h>
+
+namespace drillhole {
+
+constexpr int spacing = 8;
+constexpr unsigned int progressInterval = 50; // milliseconds
+
+MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended)
+    : m_settings(settings), m_reportFolder(reportFolder), m_isAttended(isAttended),
+      m_holes(openHoles, [this](const std::string &fault) { showFault(fault); }),
+      m_source(openSource), m_controls(Gtk::ORIENTATION_VERTICAL, spacing),
+      m_replace("_Replace the rows that are there", true), m_choices(settings),
+      m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing) {
+    set_default_size(1120, 720);
+    m_controls.pack_start(createToolbar(), Gtk::PACK_SHRINK);
+    m_controls.pack_start(m_choices, Gtk::PACK_SHRINK);
+    auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
+    all->property_margin() = 12;
+    all->pack_start(m_controls, Gtk::PACK_SHRINK);
+    all->pack_start(createFaultBar(), Gtk::PACK_SHRINK);
+    all->pack_start(createBody(), Gtk::PACK_EXPAND_WIDGET);
+    all->pack_start(createProgressLine(), Gtk::PACK_SHRINK);
+    add(*all);
+    show_all_children();
+}
+
+void MainWindow::open(const std::string &connection) {
+    set_title("Drill holes in " + placeOf(connection));
+    m_faultBar.hide();
+    m_isOpen = false;
+    m_holes.use(connection);
+    m_holes.run(collarsOf, [this](const std::vector<Collar> &collars, const std::string &fault) {
+        if (!fault.empty() && m_isAttended) {
+            chooseDatabase(fault);
+            return;
+        }
+        m_isOpen = fault.empty();
+        if (m_isOpen) {
+            m_plan.show(collars);
+            for (RowGrid *grid : m_grids) {
+                grid->refresh(false);
+            }
+        } else {
+            showFault(fault);
+        }
+        m_signalAtRest.emit(nullptr);
+    });
+}
+
+void MainWindow::chooseDatabase(const std::string &message) {
+    if (const auto chosen = chooseSource(*this, SourceKind::holes, m_holes.connection(), message)) {
+        open(chosen->connection);
+    } else if (!m_isOpen) {
+        showFault(message);
+        m_signalAtRest.emit(nullptr);
+    }
+}
+
+void MainWindow::choose(const Table &table) {
+    m_tables.set_visible_child(table.name);
+}
+
+RowGrid &MainWindow::grid() {
+    return *dynamic_cast<RowGrid *>(m_tables.get_visible_child());
+}
+
+void MainWindow::chooseFile() {
+    const auto chooser = Gtk::FileChooserNative::create("Choose a File to Import", *this,
+                                                        Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
+    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
+        importFile(chooser->get_filename());
+    }
+}
+
+void MainWindow::importFile(const std::string &path) {
+    begin({path, {}, {}});
+    match({});
+}
+
+void MainWindow::importTable(const std::string &connection, const std::string &table) {
+    begin({{}, connection, table});
+    if (table.empty()) {
+        const auto chosen = chooseSource(*this, SourceKind::table, connection,
+                                         "Choose an SQLite file, or type how to reach a database, "
+                                         "and connect to see its tables.");
+        if (!chosen) {
+            end();
+            return;
+        }
+        m_settings.keep("source", "connection", {withoutPassword(chosen->connection)});
+        m_story.source = *chosen;
+    }
+    m_progressBar.set_fraction(0);
+    m_progressBar.set_text("Asking for the columns");
+    m_progressLine.show();
+    m_source.use(m_story.source.connection);
+    m_source.run(
+        [name = m_story.source.table](soci::session &source) {
+            return columnNames(source, nameInQuery(source, name));
+        },
+        [this](const std::vector<std::string> &columns, const std::string &fault) {
+            m_progressLine.hide();
+            m_story.fault = fault;
+            match(columns);
+        });
+}
+
+void MainWindow::begin(const ImportSource &source) {
+    m_faultBar.hide();
+    m_controls.set_sensitive(false);
+    m_story = ImportStory();
+    m_story.table = &grid().table();
+    m_story.source = source;
+}
+
+void MainWindow::match(const std::vector<std::string> &columns) {
+    try {
+        if (m_story.fault.empty()) {
+            m_story.match =
+                matchColumns(*this, m_settings, *m_story.table, m_story.source, columns);
+        }
+    } catch (const Fault &fault) {
+        m_story.fault = fault.what();
+    }
+    if (m_story.match) {
+        start(m_replace.get_active() ? Replace::ifAgreed : Replace::no);
+    } else {
+        end();
+    }
+}
+
+void MainWindow::start(Replace replace) {
+    m_progress = std::make_shared<ImportProgress>();
+    m_progressLine.show();
+    const auto showProgress = [this, progress = m_progress] {
+        m_progressBar.set_fraction(progress->share);
+        m_progressBar.set_text(countOf(progress->rows, "row"));
+        return progress == m_progress; // or the import has ended
+    };
+    Glib::signal_timeout().connect(showProgress, progressInterval);
+    const std::string report =
+        Glib::build_filename(m_reportFolder, "refused_" + m_story.table->name + ".csv");
+    m_holes.run(
+        [=, story = m_story, choices = m_choices.choices(),
+         progress = m_progress](soci::session &holes) {
+            const Destination destination{holes, *story.table, report, replace, choices};
+            const ImportSource &source = story.source;
+            return source.path.empty()
+                       ? drillhole::importTable(destination, source.connection, source.table,
+                                                *story.match, *progress)
+                       : drillhole::importFile(destination, source.path, *story.match, *progress);
+        },
+        [this](const ImportOutcome &outcome, const std::string &fault) {
+            m_story.outcome = outcome;
+            m_story.fault = fault;
+            if (!outcome.question.empty() && agreesTo(outcome.question)) {
+                start(Replace::anyway);
+            } else {
+                end();
+            }
+        });
+}
+
+bool MainWindow::agreesTo(const std::string &question) {
+    Gtk::MessageDialog dialog(*this, question, false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_NONE,
+                              true);
+    dialog.add_button("_Keep What Is There", Gtk::RESPONSE_CANCEL);
+    dialog.add_button("_Replace", Gtk::RESPONSE_OK);
+    return dialog.run() == Gtk::RESPONSE_OK;
+}
+
+void MainWindow::cancel() {
+    if (m_progress) {
+        m_progress->isCancelled = true;
+    } else { // the columns are still asked for
+        m_source.drop();
+        end();
+    }
+}
+
+void MainWindow::end() {
+    m_progress.reset();
+    m_progressLine.hide();
+    m_controls.set_sensitive();
+    if (!m_story.fault.empty()) {
+        showFault(m_story.fault);
+    } else if (m_story.match) {
+        m_report.show(m_story);
+        m_export->set_enabled(!m_report.file().empty());
+        if (!m_settings.complaint().empty()) {
+            showFault(m_settings.complaint());
+        }
+    }
+    if (m_story.isDone()) {
+        m_replace.set_active(false);
+        grid().refresh(!m_story.outcome.replaces); // the new rows stand behind the others
+        m_holes.ask(collarsOf,
+                    [this](const std::vector<Collar> &collars) { m_plan.show(collars); });
+    }
+    m_signalAtRest.emit(&m_story);
+}
+
+void MainWindow::exportRefused() {
+    const auto chooser = Gtk::FileChooserNative::create("Export Refused Rows", *this,
+                                                        Gtk::FILE_CHOOSER_ACTION_SAVE, {}, {});
+    chooser->set_do_overwrite_confirmation();
+    chooser->set_current_name(Glib::path_get_basename(m_report.file()));
+    if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
+        try {
+            Gio::File::create_for_path(m_report.file())
+                ->copy(chooser->get_file(), Gio::FILE_COPY_OVERWRITE);
+        } catch (const Glib::Error &error) {
+            showFault("The refused rows can't be written there. " + error.what());
+        }
+    }
+}
+
+void MainWindow::showFault(const std::string &fault) {
+    m_fault.set_text(fault);
+    m_faultBar.show();
+}
+
+bool MainWindow::on_delete_event(GdkEventAny *) {
+    const bool isRunning = m_progress && !m_progress->isCancelled;
+    if (isRunning) {
+        showFault("An import is running. Wait for its end, or cancel it, before you close.");
+    }
+    return isRunning;
+}
+
+Gtk::Widget &MainWindow::createToolbar() {
+    for (const Table &table : holeTables()) {
+        auto *grid = Gtk::make_managed<RowGrid>(table, m_holes);
+        m_grids.push_back(grid);
+        m_tables.add(*grid, table.name, table.title);
+        grid->signalCounted().connect([this, grid](std::size_t count) {
+            m_tables.child_property_title(*grid) =
+                grid->table().title + " (" + grouped(count) + ')';
+        });
+    }
+    m_tables.property_visible_child().signal_changed().connect(
+        [this] { m_choices.show(grid().table()); });
+    auto *tables = Gtk::make_managed<Gtk::StackSwitcher>();
+    tables->set_stack(m_tables);
+    auto *file = Gtk::make_managed<Gtk::Button>("Import _File...", true);
+    file->get_style_context()->add_class("suggested-action");
+    file->signal_clicked().connect([this] { chooseFile(); });
+    auto *source = Gtk::make_managed<Gtk::Button>("Import _Table...", true);
+    source->signal_clicked().connect(
+        [this] { importTable(m_settings.text("source", "connection"), {}); });
+
+    auto *toolbar = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_HORIZONTAL, spacing);
+    toolbar->pack_start(*tables, Gtk::PACK_SHRINK);
+    toolbar->pack_end(createMenuButton(), Gtk::PACK_SHRINK);
+    toolbar->pack_end(*file, Gtk::PACK_SHRINK);
+    toolbar->pack_end(*source, Gtk::PACK_SHRINK);
+    toolbar->pack_end(m_replace, Gtk::PACK_SHRINK);
+    return *toolbar;
+}
+
+Gtk::Widget &MainWindow::createMenuButton() {
+    add_action("open", [this] {
+        chooseDatabase("Choose an SQLite file, or type how to reach a database; one that is empty "
+                       "gets the tables of drill holes.");
+    });
+    m_export = add_action("export", [this] { exportRefused(); });
+    m_export->set_enabled(false);
+    const auto menu = Gio::Menu::create();
+    menu->append("_Open Another Database...", "win.open");
+    menu->append("_Export Refused Rows...", "win.export");
+    auto *button = Gtk::make_managed<Gtk::MenuButton>();
+    button->set_image_from_icon_name("open-menu-symbolic");
+    button->set_tooltip_text("More");
+    button->set_use_popover(false);
+    button->set_menu_model(menu);
+    return *button;
+}
+
+Gtk::Widget &MainWindow::createFaultBar() {
+    m_faultBar.set_message_type(Gtk::MESSAGE_ERROR);
+    m_faultBar.set_show_close_button();
+    m_faultBar.signal_response().connect([this](int) { m_faultBar.hide(); });
+    m_fault.set_line_wrap();
+    m_fault.set_xalign(0);
+    m_fault.set_selectable();
+    m_fault.show();
+    dynamic_cast<Gtk::Container *>(m_faultBar.get_content_area())->add(m_fault);
+    m_faultBar.set_no_show_all();
+    return m_faultBar;
+}
+
+Gtk::Widget &MainWindow::createBody() {
+    auto *frame = Gtk::make_managed<Gtk::Frame>();
+    frame->add(m_plan);
+    auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
+    both->pack1(m_tables, true, false);
+    both->pack2(*frame, true, false);
+    both->set_position(660);
+    auto *body = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_VERTICAL);
+    body->pack1(*both, true, false);
+    body->pack2(m_report, false, false);
+    return *body;
+}
+
+Gtk::Widget &MainWindow::createProgressLine() {
+    auto *cancelButton = Gtk::make_managed<Gtk::Button>("_Cancel", true);
+    cancelButton->signal_clicked().connect([this] { cancel(); });
+    m_progressBar.set_show_text();
+    m_progressBar.set_valign(Gtk::ALIGN_CENTER);
+    m_progressLine.pack_start(m_progressBar, Gtk::PACK_EXPAND_WIDGET);
+    m_progressLine.pack_start(*cancelButton, Gtk::PACK_SHRINK);
+    m_progressLine.show_all_children();
+    m_progressLine.set_no_show_all();
+    return m_progressLine;
+}
+
+} // namespace drillhole

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "drillhole/window/ChoicesBar.h"
+#include "drillhole/window/DatabaseThread.h"
+#include "drillhole/window/ImportStory.h"
+#include "drillhole/window/PlanView.h"
+#include "drillhole/window/ReportPane.h"
+#include "drillhole/window/RowGrid.h"
+
+#include <giomm/simpleaction.h>
+#include <gtkmm/applicationwindow.h>
+#include <gtkmm/checkbutton.h>
+#include <gtkmm/infobar.h>
+#include <gtkmm/progressbar.h>
+#include <gtkmm/stack.h>
+
+namespace drillhole {
+
+/// The program's window: a table's rows, the collars in a plan, what came of the last import, and
+/// the ways to the next one.
+class MainWindow : public Gtk::ApplicationWindow {
+public:
+    /// @param reportFolder where the reports of refused rows go
+    /// @param isAttended   asks for another database, or for a password, where one can't be opened
+    MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended);
+
+    /// Opens the database of the drill holes, before anything else is done.
+    void open(const std::string &connection);
+
+    /// The next thing can be done: an import has ended, however it came; or a database is open or
+    /// given up, and there is no story to tell.
+    sigc::signal<void, const ImportStory *> &signalAtRest() { return m_signalAtRest; }
+
+    /// Chooses the table that is shown and imported into.
+    void choose(const Table &table);
+
+    /// Runs the dialog and then the import, which goes on after the call.
+    void importFile(const std::string &path);
+
+    /// The same for a table in another database.
+    ///
+    /// @param table  empty to let the user choose one, and another database if need be
+    void importTable(const std::string &connection, const std::string &table);
+
+private:
+    Gtk::Widget &createToolbar();
+    Gtk::Widget &createMenuButton();
+    Gtk::Widget &createBody();
+    Gtk::Widget &createFaultBar();
+    Gtk::Widget &createProgressLine();
+
+    RowGrid &grid(); ///< of the table that is shown
+    void chooseFile();
+    void chooseDatabase(const std::string &message);
+    void exportRefused();
+
+    // An import, from its begin to its end.
+    void begin(const ImportSource &source);
+    void match(const std::vector<std::string> &columns);
+    void start(Replace replace);
+    bool agreesTo(const std::string &question);
+    void cancel();
+    void end();
+
+    void showFault(const std::string &fault);
+    bool on_delete_event(GdkEventAny *event) override;
+
+    Settings &m_settings;
+    std::string m_reportFolder;
+    bool m_isAttended;
+    bool m_isOpen = false;                      ///< the database is
+    ImportStory m_story;                        ///< of the import that runs, or of the last one
+    std::shared_ptr<ImportProgress> m_progress; ///< null if no rows are being imported
+    sigc::signal<void, const ImportStory *> m_signalAtRest;
+    DatabaseThread m_holes;
+    DatabaseThread m_source; ///< is asked for the columns of a table
+
+    Gtk::Box m_controls; ///< insensitive during an import
+    Gtk::CheckButton m_replace;
+    ChoicesBar m_choices;
+    Glib::RefPtr<Gio::SimpleAction> m_export;
+    Gtk::InfoBar m_faultBar;
+    Gtk::Label m_fault;
+    Gtk::Stack m_tables;
+    std::vector<RowGrid *> m_grids; ///< in it, one for each table
+    PlanView m_plan;
+    ReportPane m_report;
+    Gtk::Box m_progressLine;
+    Gtk::ProgressBar m_progressBar;
+};
+
+} // namespace drillhole

@@ -1,0 +1,179 @@
+// SPDX-License-Identifier: MIT
+
+#include "drillhole/window/PlanView.h"
+
+#include "drillhole/window/planScale.h"
+
+#include <algorithm>
+#include <cmath>
+#include <iomanip>
+#include <utility>
+
+#include <cairomm/region.h>
+
+namespace drillhole {
+
+namespace {
+
+constexpr double margin = 70;
+constexpr double gridSpacing = 110;
+constexpr int dotSize = 8;
+constexpr double holeRadius = 3.5;
+constexpr double scaleBarHeight = 30;
+constexpr double faint = 0.6;
+constexpr double veryFaint = 0.15;
+
+std::string coordinate(double value) {
+    return Glib::ustring::format(std::setprecision(12), value + 0.0); // which makes -0 a plain one
+}
+
+/// One drawing of the plan, with the theme's ink and the font of the widget.
+class Drawing {
+public:
+    Drawing(Gtk::Widget &widget, const Cairo::RefPtr<Cairo::Context> &picture)
+        : m_widget(widget), m_picture(picture), m_width(widget.get_allocated_width()),
+          m_height(widget.get_allocated_height()),
+          m_free(Cairo::Region::create(boxAt(0, 0, m_width, m_height))) {
+        widget.get_style_context()->render_background(picture, 0, 0, m_width, m_height);
+    }
+
+    void write(double left, double top, const std::string &text, double strength = 1) {
+        useInk(strength);
+        m_picture->move_to(left, top);
+        const auto layout = m_widget.create_pango_layout(text);
+        layout->show_in_cairo_context(m_picture);
+        int width = 0;
+        int height = 0;
+        layout->get_pixel_size(width, height);
+        m_free->subtract(boxAt(left, top, width, height));
+    }
+
+    void draw(const std::vector<Collar> &collars) {
+        m_scale = planScale(collars, m_width, m_height, margin);
+        drawGrid();
+        drawCollars(collars);
+        drawScaleBar();
+    }
+
+private:
+    void useInk(double strength) {
+        const Gdk::RGBA ink = m_widget.get_style_context()->get_color(m_widget.get_state_flags());
+        m_picture->set_source_rgba(ink.get_red(), ink.get_green(), ink.get_blue(), strength);
+    }
+
+    void drawLine(double x, double y, double endX, double endY) {
+        useInk(veryFaint);
+        m_picture->set_line_width(1);
+        m_picture->move_to(x, y);
+        m_picture->line_to(endX, endY);
+        m_picture->stroke();
+    }
+
+    void drawGrid() {
+        const double step = roundStep(gridSpacing / m_scale.pixelsPerUnit);
+        // So many at most: far out, a coordinate stays what it was when a step is added.
+        const double count = std::max(m_width, m_height) / gridSpacing + 1;
+        for (int i = 0; i < count; ++i) {
+            const double easting = (std::ceil(m_scale.west / step) + i) * step;
+            const double x = std::floor(m_scale.x(easting)) + 0.5;
+            drawLine(x, 0, x, m_height);
+            write(x + 4, 2, coordinate(easting) + " E", faint);
+
+            const double northing = (std::floor(m_scale.north / step) - i) * step;
+            const double y = std::floor(m_scale.y(northing)) + 0.5;
+            drawLine(0, y, m_width, y);
+            if (y < m_height - scaleBarHeight) {
+                write(4, y + 2, coordinate(northing) + " N", faint);
+            }
+        }
+    }
+
+    static Cairo::RectangleInt boxAt(double left, double top, int width, int height) {
+        return {static_cast<int>(std::floor(left)), static_cast<int>(std::floor(top)), width,
+                height};
+    }
+
+    void drawCollars(const std::vector<Collar> &collars) {
+        m_picture->set_source_rgb(0.8, 0.3, 0.1);
+        std::vector<Cairo::RectangleInt> dots;
+        dots.reserve(collars.size());
+        for (const Collar &collar : collars) {
+            const double x = m_scale.x(collar.easting);
+            const double y = m_scale.y(collar.northing);
+            m_picture->arc(x, y, holeRadius, 0, 2 * M_PI);
+            m_picture->fill();
+            dots.push_back(boxAt(x - holeRadius, y - holeRadius, dotSize, dotSize));
+        }
+        m_free->subtract(Cairo::Region::create(dots));
+        for (const Collar &collar : collars) {
+            writeName(collar);
+        }
+    }
+
+    /// A name that would cover another text or a hole stands on another side, or is left out.
+    void writeName(const Collar &collar) {
+        int width = 0;
+        int height = 0;
+        m_widget.create_pango_layout(collar.name)->get_pixel_size(width, height);
+        const double x = m_scale.x(collar.easting);
+        const double y = m_scale.y(collar.northing);
+        const double middle = x - width / 2.0;
+        const std::pair<double, double> corners[] = {{x + 9, y - height / 2.0},
+                                                     {x - 9 - width, y - height / 2.0},
+                                                     {middle, y - 9 - height},
+                                                     {middle, y + 9}};
+        for (const auto &[left, top] : corners) {
+            const Cairo::RectangleInt box = boxAt(left, top, width, height);
+            if (m_free->contains_rectangle(box) == Cairo::REGION_OVERLAP_IN) {
+                write(left, top, collar.name);
+                return;
+            }
+        }
+    }
+
+    void drawScaleBar() {
+        const double length = roundStep(60 / m_scale.pixelsPerUnit);
+        const double left = 14;
+        const double bottom = m_height - 14;
+        const double right = left + length * m_scale.pixelsPerUnit;
+        useInk(1);
+        m_picture->set_line_width(2);
+        m_picture->move_to(left, bottom - 5);
+        m_picture->line_to(left, bottom);
+        m_picture->line_to(right, bottom);
+        m_picture->line_to(right, bottom - 5);
+        m_picture->stroke();
+        write(right + 6, bottom - 14, coordinate(length));
+    }
+
+    Gtk::Widget &m_widget;
+    Cairo::RefPtr<Cairo::Context> m_picture;
+    int m_width;
+    int m_height;
+    Cairo::RefPtr<Cairo::Region> m_free; // no text and no dot is there yet
+    PlanScale m_scale;
+};
+
+} // namespace
+
+PlanView::PlanView() {
+    set_size_request(280, 200);
+    get_style_context()->add_class("view"); // the ground of the theme
+}
+
+void PlanView::show(std::vector<Collar> collars) {
+    m_collars = std::move(collars);
+    queue_draw();
+}
+
+bool PlanView::on_draw(const Cairo::RefPtr<Cairo::Context> &picture) {
+    Drawing drawing(*this, picture);
+    if (m_collars.empty()) {
+        drawing.write(20, 20, "Imported collars show here, seen from above.", faint);
+    } else {
+        drawing.draw(m_collars);
+    }
+    return true;
+}
+
+} // namespace drillhole

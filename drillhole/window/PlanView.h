@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "drillhole/database/holeDatabase.h"
+
+#include <gtkmm/drawingarea.h>
+
+namespace drillhole {
+
+/// The collars from above: easting against northing, true to scale, with the holes' names.
+class PlanView : public Gtk::DrawingArea {
+public:
+    PlanView();
+
+    void show(std::vector<Collar> collars);
+
+private:
+    bool on_draw(const Cairo::RefPtr<Cairo::Context> &picture) override;
+
+    std::vector<Collar> m_collars;
+};
+
+} // namespace drillhole
