@@ -39,6 +39,7 @@ struct Options {
     std::string source;             ///< the connection to import a table from, or empty
     std::string sourceTable;        ///< empty to let the user choose
     bool thenQuits = false;         ///< when all that was asked for is imported
+    bool acceptsGuesses = false;    ///< of required columns, when nobody is asked
 };
 
 Glib::OptionEntry entry(const char *name, const char *description) {
@@ -84,7 +85,7 @@ Options readOptions(int &argc, char **&argv) {
          "as "
          "postgresql://host=... dbname=...",
          options.database},
-        {"table", "TABLE", "Import into collar, survey or assay", options.table},
+        {"table", "TABLE", "Import into collar, survey, assay or lithology", options.table},
         {"from", "DATABASE", "Import a table of another database", options.source},
         {"from-table", "NAME", "The table to import; without it you can choose one",
          options.sourceTable},
@@ -101,6 +102,10 @@ Options readOptions(int &argc, char **&argv) {
     }
     group.add_entry(entry("then-quit", "End when what the command line names is imported"),
                     options.thenQuits);
+    group.add_entry(entry("accept-guesses",
+                          "With --then-quit, import required columns that only similar names were "
+                          "found for"),
+                    options.acceptsGuesses);
     group.add_entry_filename(entry(G_OPTION_REMAINING, "Files to import"), options.files);
     Glib::OptionContext context("[FILE...]");
     context.set_main_group(group);
@@ -108,7 +113,7 @@ Options readOptions(int &argc, char **&argv) {
 
     if (!options.table.empty() && findTable(options.table) == nullptr) {
         throw Fault("There is no table " + options.table +
-                    "; give --table=collar, survey or assay.");
+                    "; give --table=collar, survey, assay or lithology.");
     }
     if (options.source.empty() && !options.sourceTable.empty()) {
         throw Fault("Give the database of that table too, with --from.");
@@ -121,28 +126,36 @@ Options readOptions(int &argc, char **&argv) {
     return options;
 }
 
-/// The table that the file's name tells, as in collars_2021.csv. Null if it tells none.
+/// The table that the file's name tells, as in collars_2021.csv or lith.csv. Null if it tells none.
 const Table *tableFor(const std::string &path) {
     const std::string name = Glib::ustring(Glib::filename_display_basename(path)).lowercase();
     for (const Table &table : holeTables()) {
-        if (name.find(table.name) != std::string::npos) {
+        if (name.find(table.name.substr(0, 4)) != std::string::npos) {
             return &table;
         }
     }
     return nullptr;
 }
 
+/// Words and elements of the user's own, beside those that the program comes with.
+std::string ownWords() {
+    std::ifstream file(inFolder(Glib::get_user_config_dir(), "words.txt"));
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
 int run(int argc, char **argv) {
+    holeTables(ownWords());
     const Options options = readOptions(argc, argv);
     // In front of GTK's own start: behind it, GTK warns that the toolkit comes too late to keep it
     // from setting the locale.
     const wxImportCSVDialogPeer peer;
     const auto application = Gtk::Application::create("", Gio::APPLICATION_NON_UNIQUE);
     Settings settings(inFolder(Glib::get_user_config_dir(), "settings.ini"));
-    MainWindow window(settings, inFolder(Glib::get_user_data_dir(), "reports"), !options.thenQuits);
+    MainWindow window(settings, inFolder(Glib::get_user_data_dir(), "reports"), !options.thenQuits,
+                      options.acceptsGuesses);
 
-    // What the command line asks for, one import after the other.
-    std::deque<std::function<void()>> errands;
+    // What the command line asks for, one after the other; the last may be to quit.
+    std::deque<std::function<void()>> requests;
     const auto chooseTable = [&](const Table *otherwise) {
         const Table *table = options.table.empty() ? otherwise : findTable(options.table);
         if (table != nullptr) {
@@ -150,33 +163,33 @@ int run(int argc, char **argv) {
         }
     };
     for (const std::string &path : options.files) {
-        errands.emplace_back([&, path] {
+        requests.emplace_back([&, path] {
             chooseTable(tableFor(path));
             window.importFile(path);
         });
     }
     if (!options.source.empty()) {
-        errands.emplace_back([&] {
+        requests.emplace_back([&] {
             chooseTable(findTable("collar"));
             window.importTable(options.source, options.sourceTable);
         });
     }
     if (options.thenQuits) {
-        errands.emplace_back([&] { window.hide(); });
+        requests.emplace_back([&] { window.hide(); });
     }
 
     bool areDone = true;
     sigc::connection atRest;
-    atRest = window.signalAtRest().connect([&](const ImportStory *ended) {
+    atRest = window.signalAtRest().connect([&](const ImportRecord *ended) {
         if (ended != nullptr) {
             print(ended->fault.empty() ? std::cout : std::cerr, *ended);
             areDone = areDone && ended->isDone();
         }
-        if (errands.empty()) {
+        if (requests.empty()) {
             atRest.disconnect(); // what follows is the user's own
         } else {
-            Glib::signal_idle().connect_once(errands.front());
-            errands.pop_front();
+            Glib::signal_idle().connect_once(requests.front());
+            requests.pop_front();
         }
     });
     window.open(options.database);
@@ -188,6 +201,8 @@ int run(int argc, char **argv) {
 
 int main(int argc, char **argv) {
     std::setlocale(LC_ALL, "");
+    std::setlocale(LC_MESSAGES,
+                   "C"); // the program speaks English, and so should GTK and the dialog
     Glib::init();
     try {
         // A thread that waits for a database may outlive the window, and what it uses must, too.

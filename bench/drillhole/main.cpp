@@ -62,8 +62,9 @@ int main(int argc, char **argv) {
             const Table &assays = *findTable("assay");
             Match match;
             match.delimiter = ',';
-            match.positions = {0, 1, 2, 3, 4, 5, 6, 7, 8};
-            return importFile({holes, assays, file + ".refused.csv", Replace::no, {}}, file, match,
+            match.positions = {0, 1, 2, 3, 4, 5};
+            match.positions.resize(assays.columns.size());
+            return importFile({holes, assays, file + ".refused", Replace::no, {}}, file, match,
                               progress);
         },
         [&](const ImportOutcome &result, const std::string &fault) {

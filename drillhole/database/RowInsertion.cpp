@@ -65,7 +65,7 @@ void RowInsertion::insert() {
 bool RowInsertion::isThere() {
     if (m_hashes.empty()) {
         flush();
-        for (Answer rows = rowsOf(m_session, m_table, m_table.columns.size()); rows.next();) {
+        for (QueryRows rows = rowsOf(m_session, m_table, m_table.columns.size()); rows.next();) {
             m_hashes.insert(std::hash<std::string>()(lineOf(rows.row())));
         }
     }

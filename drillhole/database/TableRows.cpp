@@ -2,7 +2,7 @@
 
 #include "drillhole/database/TableRows.h"
 
-#include "drillhole/database/Answer.h"
+#include "drillhole/database/QueryRows.h"
 #include "drillhole/database/connection.h"
 #include "drillhole/database/faultText.h"
 #include "drillhole/database/onOwnThread.h"
@@ -11,6 +11,7 @@
 #include "drillhole/rows/text.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 #include <boost/algorithm/string/join.hpp>
@@ -20,6 +21,15 @@ namespace drillhole {
 namespace {
 
 constexpr std::size_t batchSize = 1000;
+constexpr double shownDigits = 1e-13; // of what a text shows
+
+/// The text, or the number that it shows the first digits of.
+std::string inFull(const std::string &text, double number) {
+    const std::optional<double> shown = parseNumber(text);
+    return shown && *shown != number && std::abs(*shown - number) <= std::abs(number) * shownDigits
+               ? digitsOf(number)
+               : text;
+}
 
 } // namespace
 
@@ -31,9 +41,10 @@ struct TableRows::Source {
     double count = 0;
     Session session = {};
     std::vector<std::size_t> read = {}; // the positions of the columns that are
+    std::vector<Kind> kinds = {};       // of the answer's columns
     std::string query = {};
     bool isCursor = false;
-    std::optional<Answer> answer = {}; // of the open session
+    std::optional<QueryRows> answer = {}; // of the open session
 
     void open() {
         session = openSource(connection);
@@ -49,6 +60,19 @@ struct TableRows::Source {
             if (std::find(wanted.begin(), wanted.end(), i) != wanted.end()) {
                 read.push_back(i);
                 names.push_back(inQuotes(layout.columns[i], '"', '"'));
+                kinds.push_back(Kind::text);
+            }
+        }
+        // A server of PostgreSQL writes numbers in full, others cut them. So they come as numbers
+        // too.
+        if (session->get_backend_name() == "postgresql") {
+            *session << "set extra_float_digits = 3";
+        } else {
+            const std::vector<bool> areNumbers =
+                numberColumns(*session, boost::join(names, ", ") + " from " + name);
+            for (std::size_t i = 0; i < read.size(); ++i) {
+                names.push_back(areNumbers[i] ? names[i] : "0");
+                kinds.push_back(Kind::number);
             }
         }
         query = "select " + boost::join(names, ", ") + " from " + name;
@@ -68,12 +92,15 @@ struct TableRows::Source {
                 open();
             }
             if (!answer || isCursor) {
-                answer.emplace(*session, query, std::vector<Kind>(read.size(), Kind::text));
+                answer.emplace(*session, query, kinds);
             }
             while (batch.size() < batchSize && answer->next()) {
                 std::vector<std::string> &fields = batch.emplace_back(layout.columns.size());
                 for (std::size_t i = 0; i < read.size(); ++i) {
-                    fields[read[i]] = answer->row()[i].text;
+                    const std::vector<Value> &row = answer->row();
+                    fields[read[i]] = kinds.size() == read.size()
+                                          ? row[i].text
+                                          : inFull(row[i].text, row[read.size() + i].number);
                 }
             }
         });

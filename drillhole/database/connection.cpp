@@ -91,7 +91,7 @@ std::chrono::seconds timeLimitOf(const std::string &connection) {
 
 // SOCI hands no SQLSTATE on when the server does not let it in. Asked behind a refusal, the server
 // would refuse a wrong password twice, and count both.
-void requireWelcome(const std::string &settings) {
+void throwIfRefused(const std::string &settings) {
     const std::unique_ptr<PGconn, decltype(&PQfinish)> asking(PQconnectStart(settings.c_str()),
                                                               &PQfinish);
     PQsetErrorVerbosity(asking.get(), PQERRORS_SQLSTATE);
@@ -116,7 +116,7 @@ Session newSession(const std::string &connection, const std::string &more) {
         // The one who waits is to give up first, and says so.
         const auto limit = (timeLimitOf(connection) + std::chrono::seconds(1)).count();
         const std::string limited = settings + " connect_timeout=" + std::to_string(limit);
-        requireWelcome(limited);
+        throwIfRefused(limited);
         return std::make_shared<soci::session>(soci::postgresql, limited);
     }
     if (isFor(connection, odbc)) {

@@ -31,8 +31,12 @@ constexpr Advice advices[] = {
     {"SQLite 14", "See that the file and its folder exist, and that you may read and write there."},
     {"SQLite 26", "The file is no SQLite database. Choose another one."},
     {"01000", "The ODBC driver is not installed. Install it, or correct its name after DRIVER=."},
-    {"08|HYT0", "No server answers there. See that it runs, that host and port are right, and that "
-                "the network is there."},
+    {"08001|HYT0",
+     "No server answers there. See that it runs, that host and port are right, and that "
+     "the network is there."},
+    {"08|57P0[12]| ",
+     "The connection to the server was lost, as when the server is ended. Nothing was "
+     "imported. Connect again once it runs."},
     {"28", "The server wants a password, or refused the user or the password. Correct them and "
            "connect again."},
     {"3D000", "The server has no database of this name. Correct the name after dbname=."},
@@ -44,6 +48,8 @@ constexpr Advice advices[] = {
               "odbc.ini."},
 };
 
+} // namespace
+
 std::string codeOf(const soci::soci_error &error) {
     if (const auto *file = dynamic_cast<const soci::sqlite3_soci_error *>(&error)) {
         return "SQLite " + std::to_string(file->result() & 0xff);
@@ -54,8 +60,6 @@ std::string codeOf(const soci::soci_error &error) {
     const auto *source = dynamic_cast<const soci::odbc_soci_error *>(&error);
     return source ? reinterpret_cast<const char *>(source->odbc_error_code()) : std::string();
 }
-
-} // namespace
 
 std::string faultText(const soci::soci_error &error, const std::string &connection) {
     // The names of functions are for the one who wrote them, as are indents and line ends.

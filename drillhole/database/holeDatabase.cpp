@@ -25,12 +25,40 @@ std::string definitionOf(const Table &table) {
            boost::join(table.columns | boost::adaptors::transformed(defined), ", ") + key + ')';
 }
 
-bool hasColumns(soci::session &session, const Table &table) {
+/// Whether the table is there, with the columns of that list.
+bool hasColumns(soci::session &session, const Table &table, const std::string &columns) {
     try {
-        session << "select " + columnList(table) + " from " + table.name + " where 1 = 0";
+        session << "select " + columns + " from " + table.name + " where 1 = 0";
         return true;
-    } catch (const soci::soci_error &) {
+    } catch (const soci::soci_error &error) {
+        const std::string code = codeOf(error);
+        if (code != "SQLite 1" && code.compare(0, 2, "42") != 0) {
+            throw; // locked, say
+        }
         return false;
+    }
+}
+
+void makeMissing(soci::session &session, const Table &table) {
+    if (hasColumns(session, table, columnList(table))) {
+        return; // also where the account may not make a table
+    }
+    session << definitionOf(table);
+    // The elements may have become more.
+    Table fixed = table;
+    fixed.columns.erase(std::remove_if(fixed.columns.begin(), fixed.columns.end(),
+                                       [](const Column &column) { return column.isGrade; }),
+                        fixed.columns.end());
+    if (!hasColumns(session, table, columnList(fixed))) {
+        throw Fault("The table " + table.name +
+                    " there has other columns than the program's own. Choose another database for "
+                    "the drill holes.");
+    }
+    for (const Column &column : table.columns) {
+        if (!hasColumns(session, table, column.sqlName)) {
+            session << "alter table " + table.name + " add column " + column.sqlName +
+                           " double precision";
+        }
     }
 }
 
@@ -49,17 +77,11 @@ std::size_t countWhere(soci::session &session, const Table &table, const std::st
 
 Session openHoles(const std::string &connection) {
     Session session = openDatabase(connection);
-    for (const Table &table : holeTables()) {
-        if (hasColumns(*session, table)) {
-            continue; // also where the account may not make a table
+    inPlainWords(connection, [&] {
+        for (const Table &table : holeTables()) {
+            makeMissing(*session, table);
         }
-        inPlainWords(connection, [&] { *session << definitionOf(table); });
-        if (!hasColumns(*session, table)) {
-            throw Fault("The table " + table.name +
-                        " there has other columns than the program's "
-                        "own. Choose another database for the drill holes.");
-        }
-    }
+    });
     return session;
 }
 
@@ -91,7 +113,7 @@ std::vector<std::vector<std::string>> pageOf(soci::session &session, const RowVi
              std::to_string(count) + " offset " + std::to_string(place.skipped);
     std::vector<std::vector<std::string>> rows;
     const std::vector<Kind> texts(view.table->columns.size() + 1, Kind::text);
-    for (Answer answer(session, query, texts); answer.next();) {
+    for (QueryRows answer(session, query, texts); answer.next();) {
         std::vector<std::string> &row = rows.emplace_back();
         for (const Value &value : answer.row()) {
             row.push_back(value.text);
@@ -105,7 +127,7 @@ std::vector<std::vector<std::string>> pageOf(soci::session &session, const RowVi
 
 std::vector<Collar> collarsOf(soci::session &session) {
     std::vector<Collar> collars;
-    for (Answer rows = rowsOf(session, holeTables().front(), 3); rows.next();) {
+    for (QueryRows rows = rowsOf(session, holeTables().front(), 3); rows.next();) {
         collars.push_back({rows.row()[0].text, rows.row()[1].number, rows.row()[2].number});
     }
     return collars;
@@ -116,7 +138,7 @@ std::string columnList(const Table &table, const std::string &before) {
     return boost::join(table.columns | boost::adaptors::transformed(named), ", ");
 }
 
-Answer rowsOf(soci::session &session, const Table &table, std::size_t width) {
+QueryRows rowsOf(soci::session &session, const Table &table, std::size_t width) {
     std::vector<std::string> names;
     std::vector<Kind> kinds;
     for (std::size_t i = 0; i < width; ++i) {
@@ -129,21 +151,34 @@ Answer rowsOf(soci::session &session, const Table &table, std::size_t width) {
 Holes holesOf(soci::session &session, const Table &table) {
     Holes holes;
     const Table &collars = holeTables().front();
-    for (Answer rows = rowsOf(session, collars, collars.columns.size()); rows.next();) {
-        Hole &hole = holes[rows.row().front().text];
-        const Value &length = rows.row().back();
-        hole.length = length.isNull ? hole.length : length.number;
+    for (QueryRows rows = rowsOf(session, collars, collars.columns.size()); rows.next();) {
+        const std::vector<Value> &collar = rows.row();
+        Hole &hole = holes[collar.front().text];
+        hole.length = collar.back().isNull ? hole.length : collar.back().number;
+        hole.easting = collar[1].number;
+        hole.northing = collar[2].number;
     }
-    if (table.namesHoles) {
-        return holes;
+    if (!table.namesHoles) {
+        const std::string end = table.columns[table.hasIntervals ? 2 : 1].sqlName;
+        const std::string ends =
+            "select holename, max(" + end + ") from " + table.name + " group by holename";
+        for (QueryRows rows(session, ends, {Kind::text, Kind::number}); rows.next();) {
+            const auto hole = holes.find(rows.row().front().text);
+            if (hole != holes.end()) {
+                hole->second.deepest = rows.row().back().number + (table.hasIntervals ? 0 : 1e-5);
+            }
+        }
     }
-    for (Answer rows = rowsOf(session, table, table.hasIntervals ? 3 : 2); rows.next();) {
+    return holes;
+}
+
+void readDepths(soci::session &session, const Table &table, Holes &holes) {
+    for (QueryRows rows = rowsOf(session, table, table.hasIntervals ? 3 : 2); rows.next();) {
         const auto hole = holes.find(rows.row().front().text);
         if (hole != holes.end()) {
             hole->second.depths += depthsOf(table, rows.row());
         }
     }
-    return holes;
 }
 
 std::size_t orphanCount(soci::session &session) {

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "drillhole/database/Answer.h"
+#include "drillhole/database/QueryRows.h"
 #include "drillhole/database/connection.h"
 
 namespace drillhole {
@@ -48,10 +48,13 @@ std::vector<Collar> collarsOf(soci::session &session);
 std::string columnList(const Table &table, const std::string &before = {});
 
 /// The first columns of all of the table's rows.
-Answer rowsOf(soci::session &session, const Table &table, std::size_t width);
+QueryRows rowsOf(soci::session &session, const Table &table, std::size_t width);
 
-/// All holes that have a collar, and the depths that the table's rows tell of.
+/// All holes that have a collar, with where the last of the table's rows in each ends.
 Holes holesOf(soci::session &session, const Table &table);
+
+/// Gives the holes the depths that all of the table's rows tell of.
+void readDepths(soci::session &session, const Table &table, Holes &holes);
 
 /// How many rows of all tables belong to no collar.
 std::size_t orphanCount(soci::session &session);

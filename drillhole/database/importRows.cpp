@@ -18,12 +18,21 @@ namespace {
 
 constexpr long namesToTell = 1000; // characters of all of them
 
-/// The columns of both sides that the import passes over.
-std::vector<Remark> columnsLeftOut(const Table &table, const RowLayout &layout) {
+/// Which column went where, and the columns of both sides that the import passes over.
+std::vector<Remark> columnsTaken(const Table &table, const RowLayout &layout) {
+    std::vector<std::string> filled;
+    std::vector<std::string> guessed;
     std::vector<std::string> unfilled;
     std::vector<std::string> nowhere = layout.columns;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         if (const std::optional<std::size_t> position = layout.positions[i]) {
+            const std::string &title = layout.columns[*position];
+            const std::string &name = table.columns[i].name;
+            const double factor = layout.factors.empty() ? 1 : layout.factors[i];
+            const bool isGuess = !layout.areGuesses.empty() && layout.areGuesses[i];
+            std::vector<std::string> &list = isGuess ? guessed : filled;
+            list.push_back(name + (title == name ? "" : " from " + title) +
+                           (factor == 1 ? "" : ", " + conversionBy(factor)));
             nowhere[*position].clear();
         } else {
             unfilled.push_back(table.columns[i].name);
@@ -31,59 +40,43 @@ std::vector<Remark> columnsLeftOut(const Table &table, const RowLayout &layout) 
     }
     nowhere.erase(std::remove(nowhere.begin(), nowhere.end(), ""), nowhere.end());
     std::vector<Remark> remarks;
-    if (!unfilled.empty()) {
-        remarks.push_back({{}, "not filled: " + boost::join(unfilled, ", ")});
-    }
-    if (!nowhere.empty()) {
-        const std::string names = shortened(boost::join(nowhere, ", "), namesToTell);
-        remarks.push_back({{}, "not imported: " + names});
+    const std::pair<const char *, std::vector<std::string>> lists[] = {
+        {"filled by a guess, as the names are similar: ", guessed},
+        {"filled: ", filled},
+        {"not filled: ", unfilled},
+        {"not imported: ", nowhere}};
+    for (const auto &[what, names] : lists) {
+        if (!names.empty()) {
+            remarks.push_back({{}, what + shortened(boost::join(names, ", "), namesToTell)});
+        }
     }
     return remarks;
 }
 
-/// Where the rows have the columns that were matched. The dialog cuts the first line without regard
-/// to quotes, so a quoted title with delimiters in it is several columns there, and one field here.
-/// Fields of nothing between tabs or blanks are none there.
-FieldPositions fieldsOf(const Match &match, const Row &first) {
-    if (first.refusal != nullptr || first.firstLine > 1) {
+void expectRows(const Match &match, const Row &first, std::size_t preamble) {
+    if (first.refusal != nullptr || first.firstLine > preamble + 1) {
         throw Fault("The first line " +
                     (first.refusal != nullptr ? std::string("can't be cut: ") + first.refusal
                                               : std::string("of the file is blank")) +
                     ". Correct it and import the file again.");
     }
-    const bool cutsRuns = match.delimiter == ' ' || match.delimiter == '\t';
-    const auto isRun = [&](char left, char right) {
-        return cutsRuns && left == match.delimiter && right == match.delimiter;
-    };
-    std::vector<std::size_t> fields;
-    for (std::size_t i = 0; i < first.fields.size(); ++i) {
-        std::string text(first.fields[i]);
-        text.erase(std::unique(text.begin(), text.end(), isRun), text.end());
-        const auto cuts = std::count(text.begin(), text.end(), match.delimiter);
-        const bool isNone = cutsRuns && first.fields[i].data() == nullptr;
-        fields.insert(fields.end(), isNone ? 0 : static_cast<std::size_t>(cuts) + 1, i);
-    }
-    if (fields.size() < match.columns.size()) {
-        throw Fault("The rows have " + countOf(fields.size(), "column") + ", the dialog showed " +
-                    std::to_string(match.columns.size()) +
-                    ". Correct the quotes in the first line, or choose another delimiter.");
-    }
-    FieldPositions positions = match.positions;
-    for (std::optional<std::size_t> &position : positions) {
-        if (position) {
-            position = fields.at(*position);
+    for (const std::optional<std::size_t> &position : match.positions) {
+        if (position && *position >= first.fields.size()) {
+            throw Fault("The rows have " + countOf(first.fields.size(), "column") +
+                        ", and the dialog showed more. Correct the quotes in the first line, or "
+                        "choose another delimiter.");
         }
     }
-    return positions;
 }
 
 } // namespace
 
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
-                         ImportProgress &progress) {
+                         ImportProgress &progress,
+                         const std::function<std::unique_ptr<RowSource>()> &again) {
     const Table &table = destination.table;
     soci::session &session = destination.session;
-    RefusedRows refused(destination.report, layout.columns);
+    RefusedRows refused(destination.report, layout.delimiter, layout.columns);
     soci::transaction transaction(session);
     ImportOutcome outcome;
     outcome.replaces = destination.replace != Replace::no;
@@ -94,8 +87,19 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     }
     RowInsertion insertion(session, table);
     RowCheck check(table, layout, destination.choices, holesOf(session, table),
-                   [&] { return insertion.isThere(); });
+                   {[&] { return insertion.isThere(); },
+                    [&](Holes &holes) {
+                        insertion.flush();
+                        readDepths(session, table, holes);
+                    }});
     Row row;
+    if (again && check.mustLearn()) {
+        const std::unique_ptr<RowSource> rows = again();
+        while (!progress.isCancelled && rows->next(row)) {
+            check.learn(row);
+            progress.share = rows->share();
+        }
+    }
     while (!progress.isCancelled && source.next(row)) {
         const std::string reason = check.check(row, insertion.row());
         if (reason.empty()) {
@@ -109,7 +113,7 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     }
     outcome.refused = refused.count();
     outcome.firstRefused = refused.first();
-    outcome.remarks = columnsLeftOut(table, layout);
+    outcome.remarks = columnsTaken(table, layout);
     const std::vector<Remark> odd = check.remarks().byKind();
     outcome.remarks.insert(outcome.remarks.end(), odd.begin(), odd.end());
     outcome.isCancelled = progress.isCancelled;
@@ -118,7 +122,7 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     }
     insertion.flush();
     if (destination.replace == Replace::ifAgreed && before > 0 && outcome.taken > 0) {
-        outcome.question = "Replace " + countOf(before, table.name) + " by " +
+        outcome.question = "Replace " + countOf(before, table.rowName) + " by " +
                            countOf(outcome.taken, "new one") + '?';
         if (outcome.refused > 0) {
             outcome.question +=
@@ -132,32 +136,44 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
     if (outcome.question.empty()) {
         refused.finish();
         if (outcome.taken > 0) {
+            progress.isCommitting = true;
+            outcome.isCancelled = progress.isCancelled; // while the database was silent
+            if (outcome.isCancelled) {
+                return outcome;
+            }
             transaction.commit();
         }
-        refused.publish();
-        outcome.report = refused.count() > 0 ? destination.report : std::string();
+        outcome.report = refused.keep();
     }
     return outcome;
 }
 
 ImportOutcome importFile(const Destination &destination, const std::string &path,
                          const Match &match, ImportProgress &progress) {
-    CsvFile file(path, match.delimiter);
-    if (match.stamp && *match.stamp != file.stamp()) {
+    const auto open = [&] { return std::make_unique<CsvFile>(path, match.delimiter); };
+    const std::unique_ptr<CsvFile> file = open();
+    if (match.stamp && *match.stamp != file->stamp()) {
         throw Fault("The file " + path + " was changed meanwhile. Import it again.");
     }
+    const std::size_t preamble = file->preamble().lineCount;
     Row first;
-    file.next(first);
-    RowLayout layout{fieldsOf(match, first), match.delimiter, {}};
+    file->next(first);
+    expectRows(match, first, preamble);
+    RowLayout layout = match;
+    layout.columns.clear();
     for (const std::string_view field : first.fields) {
         layout.columns.push_back(match.firstLineHoldsTitles
                                      ? asUtf8(field)
                                      : "Column" + std::to_string(layout.columns.size() + 1));
     }
     if (!match.firstLineHoldsTitles) {
-        file.putBack(first);
+        file->putBack(first);
     }
-    return importRows(destination, file, layout, progress);
+    ImportOutcome outcome = importRows(destination, *file, layout, progress, open);
+    if (preamble > 0) {
+        outcome.remarks.push_back({linesOf(1, preamble), "passed over in front of the titles"});
+    }
+    return outcome;
 }
 
 ImportOutcome importTable(const Destination &destination, const std::string &connection,

@@ -14,7 +14,8 @@ namespace drillhole {
 struct ImportProgress {
     std::atomic<double> share{0}; ///< of the source, from 0 to 1
     std::atomic<std::size_t> rows{0};
-    std::atomic<bool> isCancelled{false}; ///< set to end the import
+    std::atomic<bool> isCancelled{false};  ///< set to end the import
+    std::atomic<bool> isCommitting{false}; ///< from here on nobody knows until it has ended
 };
 
 /// What becomes of the rows that the table holds.
@@ -42,7 +43,7 @@ struct ImportOutcome {
 struct Destination {
     soci::session &session;
     const Table &table;
-    std::string report;
+    std::string report; ///< the path of one but for what makes it its own
     Replace replace = Replace::no;
     ValueChoices choices;
 };
@@ -52,8 +53,11 @@ struct Destination {
 /// Refused rows go to the report.
 ///
 /// Throws a Fault, or what the database throws.
+///
+/// @param again  opens the source once more, where its numbers are to be learned from; or nothing
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
-                         ImportProgress &progress);
+                         ImportProgress &progress,
+                         const std::function<std::unique_ptr<RowSource>()> &again = {});
 
 /// How the dialog was left with OK: the columns are those of the source as the dialog cut them.
 struct Match : RowLayout {

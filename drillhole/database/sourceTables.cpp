@@ -2,7 +2,7 @@
 
 #include "drillhole/database/sourceTables.h"
 
-#include "drillhole/database/Answer.h"
+#include "drillhole/database/QueryRows.h"
 #include "drillhole/rows/Fault.h"
 #include "drillhole/rows/text.h"
 
@@ -70,7 +70,7 @@ Names sourceTables(soci::session &source) {
     }
     Names names;
     const char *query = backend == "postgresql" ? serverTables : sqliteTables;
-    for (Answer answer(source, query, {Kind::text, Kind::text}); answer.next();) {
+    for (QueryRows answer(source, query, {Kind::text, Kind::text}); answer.next();) {
         add(names, answer.row()[0].text, answer.row()[1].text);
     }
     return names;
@@ -83,6 +83,19 @@ std::string nameInQuery(soci::session &source, const std::string &shown) {
         throw Fault("There is no table " + shown + " that you may read. List the tables again.");
     }
     return found->second;
+}
+
+std::vector<bool> numberColumns(soci::session &source, const std::string &columnsAndTable) {
+    soci::row row;
+    soci::statement statement =
+        (source.prepare << "select " + columnsAndTable + " where 1 = 0", soci::into(row));
+    statement.execute();
+    std::vector<bool> areNumbers;
+    for (std::size_t i = 0; i < row.size(); ++i) {
+        areNumbers.push_back(source.get_backend_name() == "sqlite3" ||
+                             row.get_properties(i).get_data_type() == soci::dt_double);
+    }
+    return areNumbers;
 }
 
 std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery) {

@@ -17,6 +17,10 @@ std::map<std::string, std::string> sourceTables(soci::session &source);
 /// The name for a query of a table that is shown so. Throws a Fault if it is not there.
 std::string nameInQuery(soci::session &source, const std::string &shown);
 
+/// Which columns of a query hold numbers, as far as the database tells. A file of SQLite does not
+/// tell: there all may.
+std::vector<bool> numberColumns(soci::session &source, const std::string &columnsAndTable);
+
 /// The names of the table's columns, in its order.
 std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery);
 

@@ -37,8 +37,6 @@ void requireText(std::string_view head) {
     const char *fault = nullptr;
     if (head.find('\0') != std::string_view::npos) {
         fault = "The file is no text, or text in UTF-16. Save it as CSV in UTF-8";
-    } else if (head.substr(0, 4) == "sep=") {
-        fault = "The first line is a spreadsheet's note of its delimiter. Delete that line";
     } else if (head.find('\r') < head.size() - 1 && head.find('\n') == std::string_view::npos) {
         fault =
             "The file's lines end in carriage returns only, as those of old Macintosh programs. "
@@ -47,6 +45,36 @@ void requireText(std::string_view head) {
     if (fault != nullptr) {
         throw Fault(fault + std::string(", and import the file again."));
     }
+}
+
+std::string_view firstLineOf(std::string_view text) {
+    return text.substr(0, std::min(text.find('\n'), text.size()));
+}
+
+auto delimitersIn(std::string_view line) {
+    return std::count_if(line.begin(), line.end(), [](char byte) {
+        return std::string_view(",;\t|").find(byte) != std::string_view::npos;
+    });
+}
+
+/// A line behind # is a comment unless it is cut like the next one: that is one of titles.
+Preamble preambleOf(std::string_view head) {
+    Preamble preamble;
+    for (std::string_view line = firstLineOf(head); !line.empty(); line = firstLineOf(head)) {
+        const std::string_view next = head.substr(std::min(line.size() + 1, head.size()));
+        const bool isNote =
+            preamble.lineCount == 0 && line.substr(0, 4) == "sep=" && line.size() > 4;
+        const bool isTitles =
+            delimitersIn(line) > 0 && delimitersIn(line) == delimitersIn(firstLineOf(next));
+        if (!isNote && (line.front() != '#' || isTitles)) {
+            break;
+        }
+        preamble.delimiter = isNote ? std::optional(line[4]) : preamble.delimiter;
+        preamble.size += head.size() - next.size();
+        ++preamble.lineCount;
+        head = next;
+    }
+    return preamble;
 }
 
 /// Whether a quoted field has a line that is as rich in delimiters as a row: a quote is missing
@@ -86,7 +114,11 @@ CsvFile::CsvFile(const std::string &path, char delimiter)
     while (m_text.size() < headSize && addLine()) {
     }
     m_end = m_text.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
-    requireText(std::string_view(m_text).substr(m_end));
+    const std::string_view head = std::string_view(m_text).substr(m_end);
+    requireText(head);
+    m_preamble = preambleOf(head);
+    m_end += m_preamble.size;
+    m_line += m_preamble.lineCount;
 }
 
 bool CsvFile::next(Row &row) {

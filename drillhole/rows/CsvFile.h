@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace drillhole {
@@ -17,6 +18,13 @@ using FileStamp = std::pair<std::uintmax_t, std::filesystem::file_time_type>;
 
 /// Throws a Fault if there is no such file, or if it is none to be read from its head to its end.
 FileStamp stampOf(const std::string &path);
+
+/// What stands in front of the titles: a spreadsheet's note of the delimiter, and comments.
+struct Preamble {
+    std::size_t size = 0; ///< in bytes
+    std::size_t lineCount = 0;
+    std::optional<char> delimiter = {};
+};
 
 /// A delimited file, read row by row; it is never held in memory as a whole. Double quotes protect
 /// delimiters and line ends, blanks around a field go. Lines end at line feeds. Lines without a
@@ -40,6 +48,10 @@ public:
     void putBack(const Row &row);
 
     const FileStamp &stamp() const { return m_stamp; }
+    const Preamble &preamble() const { return m_preamble; }
+
+    /// The first lines behind the preamble, before the first row is read.
+    std::string head() const { return m_text.substr(m_end); }
 
 private:
     const char *behindBlanks(const char *at, const char *end) const;
@@ -58,6 +70,7 @@ private:
     std::size_t m_begin = 0;            // of the row in the text
     std::size_t m_end = 0;              // of the row, behind its line end
     std::deque<std::string> m_ownTexts; // of fields that don't stand in the text as they are
+    Preamble m_preamble;
     std::size_t m_line = 1;
     std::size_t m_width = 0; // fields of the first row
     std::uintmax_t m_read = 0;

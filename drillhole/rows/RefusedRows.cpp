@@ -5,6 +5,9 @@
 #include "drillhole/rows/Fault.h"
 #include "drillhole/rows/text.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <system_error>
 
@@ -14,36 +17,59 @@ namespace {
 
 constexpr std::size_t countInMemory = 1000;
 
-std::string asCsv(std::string_view field) {
-    return ',' + inQuotes(field, '"', '"');
+/// Makes an empty file whose name begins so, and that nobody else has.
+std::string newFile(const std::string &begin) {
+    std::error_code ignored; // making the file says what is wrong there
+    std::filesystem::create_directories(std::filesystem::path(begin).parent_path(), ignored);
+    const std::time_t now = std::time(nullptr);
+    char day[16];
+    std::strftime(day, sizeof day, "_%Y-%m-%d_", std::localtime(&now));
+    for (std::size_t number = 1;; ++number) {
+        const std::string path = begin + day + std::to_string(number) + ".csv";
+        std::FILE *made = std::fopen(path.c_str(), "wxe");
+        if (made != nullptr) {
+            std::fclose(made);
+        }
+        if (made != nullptr || errno != EEXIST) {
+            return path;
+        }
+    }
 }
 
 } // namespace
 
-RefusedRows::RefusedRows(const std::string &path, const std::vector<std::string> &titles)
-    : m_path(path), m_unfinished(path + ".part") {
-    std::error_code ignored;
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
-    m_file.open(m_unfinished, std::ios::binary | std::ios::trunc);
-    m_file << "line,reason";
+RefusedRows::RefusedRows(const std::string &path, char delimiter,
+                         const std::vector<std::string> &titles)
+    : m_path(newFile(path)), m_delimiter(delimiter), m_file(m_path, std::ios::binary) {
+    if (std::string_view(",;\t|").find(delimiter) == std::string_view::npos) {
+        m_delimiter = delimiter == '\0' ? ',' : ';';
+    }
+    m_file << "line" << m_delimiter << "reason";
     for (const std::string &title : titles) {
-        m_file << asCsv(title);
+        addField(title);
     }
     m_file << '\n';
     finish();
 }
 
 RefusedRows::~RefusedRows() {
-    std::error_code ignored;
-    std::filesystem::remove(m_unfinished, ignored);
+    if (!m_isKept) {
+        std::error_code ignored;
+        std::filesystem::remove(m_path, ignored);
+    }
+}
+
+void RefusedRows::addField(std::string_view field) {
+    m_file << m_delimiter << inQuotes(asUtf8(field), '"', '"');
 }
 
 void RefusedRows::add(const Row &row, const std::string &reason) {
     ++m_count;
-    const Remark remark{linesOf(row.firstLine, row.lastLine), shortened(reason, 60)};
-    m_file << remark.lines << asCsv(remark.text);
+    const Remark remark{linesOf(row.firstLine, row.lastLine), shortened(reason, 80)};
+    m_file << remark.lines;
+    addField(remark.text);
     for (const std::string_view field : row.fields) {
-        m_file << asCsv(field);
+        addField(field);
     }
     m_file << '\n';
     if (m_first.size() < countInMemory) {
@@ -61,14 +87,9 @@ void RefusedRows::finish() {
     }
 }
 
-void RefusedRows::publish() {
-    m_file.close();
-    std::error_code ignored;
-    if (m_count > 0) {
-        std::filesystem::rename(m_unfinished, m_path, ignored);
-    } else {
-        std::filesystem::remove(m_path, ignored);
-    }
+std::string RefusedRows::keep() {
+    m_isKept = m_count > 0;
+    return m_isKept ? m_path : std::string();
 }
 
 } // namespace drillhole

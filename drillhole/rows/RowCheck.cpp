@@ -9,6 +9,7 @@
 #include <cmath>
 #include <utility>
 
+#include <boost/algorithm/string/case_conv.hpp>
 #include <boost/algorithm/string/predicate.hpp>
 
 namespace drillhole {
@@ -20,15 +21,12 @@ constexpr double noValues[] = {-999, -9999, -99999};
 constexpr const char *taken[] = {"", "half of the limit taken", "the limit taken as negative",
                                  "left empty"};
 
-bool isWhole(std::string_view text) {
-    return !text.empty() && text.find_first_not_of("+-0123456789") == std::string_view::npos;
+bool areDigits(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
 }
 
-/// Whether the row may have been cut within a number with a decimal comma.
-bool mayBeCutInANumber(const Row &row) {
-    return std::adjacent_find(row.fields.begin(), row.fields.end(), [](auto left, auto right) {
-               return isWhole(left) && isWhole(right);
-           }) != row.fields.end();
+std::string inSmallLetters(const std::string &name) {
+    return boost::to_lower_copy(name, std::locale::classic());
 }
 
 /// What is odd about a number, or nothing.
@@ -53,11 +51,13 @@ Depths::interval_type depthsOf(const Table &table, const std::vector<Value> &val
 }
 
 RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, Holes holes,
-                   std::function<bool()> isThere)
+                   RowQuestions questions)
     : m_table(table), m_layout(std::move(layout)), m_choices(std::move(choices)),
+      m_marks(m_choices.decimalMark, m_layout.delimiter, table.columns.size()),
       m_fieldCount(m_layout.columns.size()), m_holes(std::move(holes)), m_lastHole(m_holes.end()),
-      m_isThere(std::move(isThere)) {
+      m_questions(std::move(questions)) {
     m_layout.positions.resize(table.columns.size());
+    m_layout.factors.resize(table.columns.size(), 1);
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
         const std::optional<std::size_t> &position = m_layout.positions[i];
         if (table.columns[i].isRequired && !position) {
@@ -68,6 +68,18 @@ RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, H
     }
     // A field left out between blanks moves those behind it.
     m_fieldsNeeded = m_layout.delimiter == ' ' ? m_fieldCount : m_fieldsNeeded;
+    for (const auto &[name, hole] : m_holes) {
+        m_places[inSmallLetters(name)] = {hole.easting, hole.northing};
+    }
+}
+
+void RowCheck::learn(const Row &row) {
+    for (std::size_t i = 0; i < m_table.columns.size(); ++i) {
+        const std::optional<std::size_t> &position = m_layout.positions[i];
+        if (position && *position < row.fields.size() && m_table.columns[i].kind == Kind::number) {
+            m_marks.learn(i, numberPart(row.fields[*position]));
+        }
+    }
 }
 
 std::string RowCheck::check(const Row &row, std::vector<Value> &values) {
@@ -77,7 +89,7 @@ std::string RowCheck::check(const Row &row, std::vector<Value> &values) {
     for (std::size_t i = 0; i < values.size() && reason.empty(); ++i) {
         const std::optional<std::size_t> &position = m_layout.positions[i];
         if (position) {
-            reason = takeValue(m_table.columns[i], trimmed(row.fields[*position]), values[i]);
+            reason = takeValue(i, trimmed(row.fields[*position]), values[i]);
         }
     }
     if (reason.empty()) {
@@ -92,8 +104,16 @@ std::string RowCheck::check(const Row &row, std::vector<Value> &values) {
 std::string RowCheck::checkLayout(const Row &row) {
     const std::size_t count = row.fields.size();
     const bool isFirst = !std::exchange(m_hasRows, true);
-    if (count < m_fieldsNeeded) {
-        return "too few fields: " + std::to_string(count) + " of " + std::to_string(m_fieldsNeeded);
+    const bool mayBeCut =
+        m_layout.delimiter == ',' && count != m_fieldCount && mayBeCutInANumber(row);
+    if (count < m_fieldsNeeded || (count < m_fieldCount && mayBeCut)) {
+        return "too few fields: " + std::to_string(count) + " of " +
+               std::to_string(count < m_fieldsNeeded ? m_fieldsNeeded : m_fieldCount) +
+               (count < m_fieldsNeeded ? "" : ", and perhaps a decimal comma");
+    }
+    m_hadWhole.resize(std::max(m_hadWhole.size(), count));
+    for (std::size_t i = 0; i < count && count == m_fieldCount; ++i) {
+        m_hadWhole[i] = m_hadWhole[i] || areDigits(row.fields[i]);
     }
     if (count <= m_fieldCount) {
         return {};
@@ -104,17 +124,39 @@ std::string RowCheck::checkLayout(const Row &row) {
                     row.fields.end(), [](std::string_view field) { return field.empty(); });
     if (onlyEmptyMore && isFirst) {
         m_fieldCount = count;
-    } else if (!onlyEmptyMore || (m_layout.delimiter == ',' && mayBeCutInANumber(row))) {
+    } else if (!onlyEmptyMore || mayBeCut) {
         return "too many fields: " + std::to_string(count) + " where a row has " +
                std::to_string(m_fieldCount);
     }
     return {};
 }
 
-std::string RowCheck::takeValue(const Column &column, std::string_view text, Value &value) {
-    const bool isNumber = column.kind == Kind::number;
-    std::optional<double> number = isNumber ? numberIn(text) : std::nullopt;
-    const bool isWord = &column != &m_table.columns.front() && isNoValue(text, number);
+/// Whether a number with a decimal comma may have been cut in two, and the row have its required
+/// values all the same. Whole numbers are nothing new where full rows had them, but in a short row
+/// they are no proof for a value.
+bool RowCheck::mayBeCutInANumber(const Row &row) const {
+    const std::vector<std::string_view> &fields = row.fields;
+    for (std::size_t cut = 0; cut + 1 < fields.size(); ++cut) {
+        bool isPlausible = areDigits(fields[cut]) && areDigits(fields[cut + 1]);
+        bool isNew = cut >= m_hadWhole.size() || !m_hadWhole[cut] || fields.size() < m_fieldCount;
+        for (std::size_t i = 0; i < m_table.columns.size() && isPlausible; ++i) {
+            const std::size_t place = m_layout.positions[i].value_or(0);
+            if (m_table.columns[i].isRequired && place == cut) {
+                isNew = cut >= m_hadWhole.size() || !m_hadWhole[cut];
+            } else if (m_table.columns[i].isRequired && place > cut) {
+                isPlausible = place + 1 < fields.size() && !fields[place + 1].empty();
+            }
+        }
+        if (isPlausible && isNew) {
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string RowCheck::takeValue(std::size_t number, std::string_view text, Value &value) {
+    const Column &column = m_table.columns[number];
+    const bool isWord = number > 0 && isNoValue(number, text);
     value.isNull = text.empty() || isWord;
     if (isWord) {
         m_found.push_back(column.name + " has a word for no value, left empty");
@@ -122,47 +164,54 @@ std::string RowCheck::takeValue(const Column &column, std::string_view text, Val
     if (value.isNull) {
         return column.isRequired ? column.name + " is empty" : std::string();
     }
-    if (!isNumber) {
-        value.text = asUtf8(text);
-        return value.text.find('\0') == std::string::npos ? std::string()
-                                                          : column.name + " holds a zero byte";
+    if (column.kind == Kind::number) {
+        return takeNumber(number, text, value);
     }
+    value.text = asUtf8(text);
+    return value.text.find('\0') == std::string::npos ? std::string()
+                                                      : column.name + " holds a zero byte";
+}
+
+std::string RowCheck::takeNumber(std::size_t place, std::string_view whole, Value &value) {
+    const Column &column = m_table.columns[place];
+    const std::string_view text = numberPart(whole);
     const BelowDetection choice = m_choices.belowDetection;
-    if (!number && text.front() == '<' && choice != BelowDetection::refused && !column.isRequired &&
-        (number = numberIn(trimmed(text.substr(1))))) {
-        number = choice == BelowDetection::half ? *number / 2 : -*number;
+    const bool isBelow = text.size() > 1 && text.front() == '<' && !column.isRequired &&
+                         choice != BelowDetection::refused;
+    const std::optional<double> read =
+        m_marks.numberIn(place, isBelow ? trimmed(text.substr(1)) : text);
+    if (!read) {
+        return column.name + ' ' + quoted(whole) +
+               (DecimalMarks::mayHaveThousands(text) ? " may have a thousands separator or decimals"
+                                                     : " is no number");
+    }
+    double number = *read;
+    if (text.find(',') != std::string_view::npos) {
+        m_found.push_back(column.name + " has a decimal comma");
+    }
+    if (isBelow) {
+        number = choice == BelowDetection::half ? number / 2 : -number;
         value.isNull = choice == BelowDetection::empty;
         m_found.push_back(column.name + " is below detection, " + taken[static_cast<int>(choice)]);
-    } else if (number) {
-        std::string oddity = oddityOf(column, *number);
-        if (!oddity.empty()) {
-            m_found.push_back(std::move(oddity));
-        }
-        if (text.find(',') != std::string_view::npos) {
-            m_found.push_back(column.name + " has a decimal comma");
-        }
     }
-    value.number = number.value_or(0);
-    return number ? std::string() : column.name + ' ' + quoted(text) + " is no number";
+    value.number = converted(number, m_layout.factors[place]);
+    std::string oddity = isBelow ? std::string() : oddityOf(column, value.number);
+    if (!oddity.empty()) {
+        m_found.push_back(std::move(oddity));
+    }
+    if (text.size() != whole.size()) {
+        m_found.push_back(column.name + " has a degree sign, left out");
+    }
+    return {};
 }
 
-bool RowCheck::isNoValue(std::string_view text, std::optional<double> number) const {
+bool RowCheck::isNoValue(std::size_t column, std::string_view text) const {
     const auto &words = m_choices.noValue;
+    const bool isNumber = !words.empty() && m_table.columns[column].kind == Kind::number;
+    const double number = isNumber ? m_marks.numberIn(column, numberPart(text)).value_or(NAN) : NAN;
     return std::any_of(words.begin(), words.end(), [&](const std::string &word) {
-        return boost::iequals(word, text, std::locale::classic()) ||
-               (number && parseNumber(word) == number);
+        return boost::iequals(word, text, std::locale::classic()) || parseNumber(word) == number;
     });
-}
-
-std::optional<double> RowCheck::numberIn(std::string_view text) const {
-    const std::size_t comma = text.find(',');
-    if (comma == std::string_view::npos || m_layout.delimiter != ';' ||
-        !m_choices.hasDecimalCommas || text.find('.') != std::string_view::npos) {
-        return parseNumber(text);
-    }
-    std::string withPoint(text);
-    withPoint[comma] = '.';
-    return parseNumber(withPoint);
 }
 
 std::string RowCheck::checkHole(const std::vector<Value> &values) {
@@ -170,24 +219,42 @@ std::string RowCheck::checkHole(const std::vector<Value> &values) {
         return m_table.columns[1].name + ' ' + digitsOf(values[1].number) + " is not below " +
                m_table.columns[2].name + ' ' + digitsOf(values[2].number);
     }
-    const std::string &name = values.front().text;
     if (m_table.namesHoles) {
-        return m_holes.try_emplace(name).second ? std::string()
-                                                : "there is a collar " + quoted(name) + " already";
+        return checkCollar(values);
     }
+    const std::string &name = values.front().text;
     if (m_lastHole == m_holes.end() || m_lastHole->first != name) {
         m_lastHole = m_holes.find(name);
     }
-    if (m_lastHole == m_holes.end()) {
-        return "no collar is called " + quoted(name);
+    return m_lastHole == m_holes.end() ? "no collar is called " + quoted(name)
+                                       : checkDepths(m_lastHole->second, values);
+}
+
+std::string RowCheck::checkCollar(const std::vector<Value> &values) {
+    const std::string &name = values.front().text;
+    if (!m_holes.try_emplace(name).second) {
+        return "there is a collar " + quoted(name) + " already";
     }
-    Hole &hole = m_lastHole->second;
+    const std::pair place(values[1].number, values[2].number);
+    const auto [other, isNew] = m_places.try_emplace(inSmallLetters(name), place);
+    if (!isNew && other->second == place) {
+        m_found.emplace_back("stands where one of the same name stands, but for capitals");
+    }
+    return {};
+}
+
+std::string RowCheck::checkDepths(Hole &hole, const std::vector<Value> &values) {
     const auto depths = depthsOf(m_table, values);
     const double margin = std::min(tolerance, (depths.upper() - depths.lower()) / 3);
     const auto within =
         Depths::interval_type::open(depths.lower() + margin, depths.upper() - margin);
-    if (boost::icl::intersects(hole.depths, within)) {
-        if (m_isThere()) {
+    // Of rows that follow one another down the hole nothing more is to be kept than the last.
+    if (!m_hasDepths && within.lower() < hole.deepest) {
+        m_questions.readDepths(m_holes);
+        m_hasDepths = true;
+    }
+    if (m_hasDepths && boost::icl::intersects(hole.depths, within)) {
+        if (m_questions.isThere()) {
             return "there already";
         }
         m_found.emplace_back(m_table.hasIntervals ? "overlaps another interval of its hole"
@@ -196,7 +263,16 @@ std::string RowCheck::checkHole(const std::vector<Value> &values) {
     if ((m_table.hasIntervals ? depths.upper() : depths.lower()) > hole.length + tolerance) {
         m_found.emplace_back("goes deeper than its hole is long");
     }
-    hole.depths += depths;
+    if (!m_table.hasIntervals) {
+        const double dip = values.back().number;
+        if (dip * std::exchange(hole.lastDip, dip) < 0) {
+            m_found.emplace_back("dip has another sign than before in its hole");
+        }
+    }
+    hole.deepest = std::max(hole.deepest, depths.upper());
+    if (m_hasDepths) {
+        hole.depths += depths;
+    }
     return {};
 }
 

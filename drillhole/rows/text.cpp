@@ -2,10 +2,12 @@
 
 #include "drillhole/rows/text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <memory>
+#include <sstream>
 
 #include <glib.h>
 
@@ -39,10 +41,26 @@ std::string quoted(std::string_view text) {
 }
 
 std::string_view trimmed(std::string_view text) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    return first == std::string_view::npos
-               ? std::string_view()
-               : text.substr(first, text.find_last_not_of(" \t") - first + 1);
+    for (const std::string_view blank : {" ", "\t", "\u00a0"}) {
+        if (text.size() >= blank.size() && text.substr(0, blank.size()) == blank) {
+            return trimmed(text.substr(blank.size()));
+        }
+        if (text.size() >= blank.size() && text.substr(text.size() - blank.size()) == blank) {
+            return trimmed(text.substr(0, text.size() - blank.size()));
+        }
+    }
+    return text;
+}
+
+std::vector<std::string> listOf(const std::string &text) {
+    std::vector<std::string> words;
+    std::istringstream parts(text);
+    for (std::string word; std::getline(parts, word, ',');) {
+        if (!trimmed(word).empty()) {
+            words.emplace_back(trimmed(word));
+        }
+    }
+    return words;
 }
 
 std::string inQuotes(std::string_view text, char quote, char escape) {
@@ -52,6 +70,12 @@ std::string inQuotes(std::string_view text, char quote, char escape) {
         quoted += byte;
     }
     return quoted += quote;
+}
+
+std::string_view numberPart(std::string_view text) {
+    constexpr const char *others = " \t\xC2\xA0\xB0";
+    const std::size_t first = std::min(text.find_first_not_of(others), text.size());
+    return text.substr(first, text.find_last_not_of(others) + 1 - first);
 }
 
 std::optional<double> parseNumber(std::string_view text) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace drillhole {
 
@@ -18,10 +19,17 @@ std::string shortened(std::string_view bytes, long length);
 /// The head of a value, between quotes.
 std::string quoted(std::string_view text);
 
+/// The text without blanks around it, also those that do not break a line.
 std::string_view trimmed(std::string_view text);
+
+/// The words between commas.
+std::vector<std::string> listOf(const std::string &text);
 
 /// The text between quotes, with the escaping character before each quote and itself within it.
 std::string inQuotes(std::string_view text, char quote, char escape);
+
+/// The text without a degree sign behind it, and without blanks in any encoding.
+std::string_view numberPart(std::string_view text);
 
 /// The number that the whole text is, with a decimal point, or nothing.
 std::optional<double> parseNumber(std::string_view text);

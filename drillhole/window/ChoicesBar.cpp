@@ -4,20 +4,21 @@
 
 #include "drillhole/rows/text.h"
 
-#include <sstream>
-
 #include <gtkmm/label.h>
 
 namespace drillhole {
 
 ChoicesBar::ChoicesBar(Settings &settings)
-    : Gtk::Box(Gtk::ORIENTATION_HORIZONTAL, 8), m_settings(settings),
-      m_decimalCommas("_1,5 is a number between semicolons", true) {
+    : Gtk::Box(Gtk::ORIENTATION_HORIZONTAL, 8), m_settings(settings) {
     // In the order of BelowDetection.
     m_belowDetection.append("refused", "is refused");
     m_belowDetection.append("half", "is half of the limit");
     m_belowDetection.append("negative", "is the limit as a negative");
     m_belowDetection.append("empty", "is left empty");
+    // In the order of DecimalMark.
+    m_decimalMark.append("shown", "as the file shows");
+    m_decimalMark.append("point", "point");
+    m_decimalMark.append("comma", "comma");
     m_noValue.set_placeholder_text("words, such as NA, n/a, -, -9999");
     m_noValue.set_hexpand();
     const auto add = [this](const char *text, Gtk::Widget &control) {
@@ -28,12 +29,12 @@ ChoicesBar::ChoicesBar(Settings &settings)
     };
     add("_Below detection (<0.01)", m_belowDetection);
     add("_No value", m_noValue);
-    pack_start(m_decimalCommas, Gtk::PACK_SHRINK);
+    add("_Decimal mark", m_decimalMark);
     m_belowDetection.signal_changed().connect(
         [this] { keep("below detection", m_belowDetection.get_active_id()); });
     m_noValue.signal_changed().connect([this] { keep("no value", m_noValue.get_text()); });
-    m_decimalCommas.signal_toggled().connect(
-        [this] { keep("decimal commas", m_decimalCommas.get_active() ? "yes" : "no"); });
+    m_decimalMark.signal_changed().connect(
+        [this] { keep("decimal mark", m_decimalMark.get_active_id()); });
 }
 
 void ChoicesBar::show(const Table &table) {
@@ -41,21 +42,15 @@ void ChoicesBar::show(const Table &table) {
     m_belowDetection.set_active(0);
     m_belowDetection.set_active_id(m_settings.text(table.name, "below detection"));
     m_noValue.set_text(m_settings.text(table.name, "no value"));
-    m_decimalCommas.set_active(m_settings.text(table.name, "decimal commas") != "no");
+    m_decimalMark.set_active(0);
+    m_decimalMark.set_active_id(m_settings.text(table.name, "decimal mark"));
     m_table = &table;
 }
 
 ValueChoices ChoicesBar::choices() const {
-    ValueChoices choices{static_cast<BelowDetection>(m_belowDetection.get_active_row_number()),
-                         {},
-                         m_decimalCommas.get_active()};
-    std::istringstream words(m_noValue.get_text());
-    for (std::string word; std::getline(words, word, ',');) {
-        if (!trimmed(word).empty()) {
-            choices.noValue.emplace_back(trimmed(word));
-        }
-    }
-    return choices;
+    return {static_cast<BelowDetection>(m_belowDetection.get_active_row_number()),
+            listOf(m_noValue.get_text()),
+            static_cast<DecimalMark>(m_decimalMark.get_active_row_number())};
 }
 
 void ChoicesBar::keep(const char *key, const std::string &choice) {

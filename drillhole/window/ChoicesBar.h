@@ -6,14 +6,13 @@
 #include "drillhole/window/Settings.h"
 
 #include <gtkmm/box.h>
-#include <gtkmm/checkbutton.h>
 #include <gtkmm/comboboxtext.h>
 #include <gtkmm/entry.h>
 
 namespace drillhole {
 
 /// What the next import into a table makes of values below detection, of words for no value and of
-/// decimal commas. It is kept with the table.
+/// commas and points. It is kept with the table.
 class ChoicesBar : public Gtk::Box {
 public:
     explicit ChoicesBar(Settings &settings);
@@ -30,7 +29,7 @@ private:
     const Table *m_table = nullptr; // null while its choices are put in
     Gtk::ComboBoxText m_belowDetection;
     Gtk::Entry m_noValue;
-    Gtk::CheckButton m_decimalCommas;
+    Gtk::ComboBoxText m_decimalMark;
 };
 
 } // namespace drillhole

@@ -4,37 +4,39 @@
 
 #include "drillhole/database/faultText.h"
 
+#include <utility>
+
 namespace drillhole {
+
+using Work = std::function<void()>;
 
 void DatabaseThread::use(const std::string &connection) {
     drop();
+    m_connection = connection;
     m_database = std::make_shared<Database>();
-    m_database->connection = connection;
-    m_last = {};
+    const auto perform = [](void *work, void *) {
+        (*std::unique_ptr<Work>(static_cast<Work *>(work)))();
+    };
+    m_pool = g_thread_pool_new(perform, nullptr, 1, FALSE, nullptr);
 }
 
 void DatabaseThread::drop() {
-    if (m_database) {
+    if (m_pool != nullptr) {
         m_database->isDropped = true;
+        g_thread_pool_free(std::exchange(m_pool, nullptr), FALSE, FALSE);
     }
 }
 
-std::shared_future<std::string>
-DatabaseThread::start(std::function<void(soci::session &)> work) const {
-    const auto afterTheLast = [&open = m_open, database = m_database, last = m_last,
-                               work = std::move(work)]() -> std::string {
-        if (last.valid()) {
-            last.wait();
-        }
-        if (database->isDropped) {
-            return {};
-        }
+void DatabaseThread::start(
+    std::function<void(const std::function<std::string(Task)> &)> work) const {
+    const auto perform = [&open = m_open, connection = m_connection,
+                          database = m_database](const Task &task) -> std::string {
         try {
-            inPlainWords(database->connection, [&] {
+            inPlainWords(connection, [&] {
                 if (!database->session) {
-                    database->session = open(database->connection);
+                    database->session = open(connection);
                 }
-                work(*database->session);
+                task(*database->session);
             });
             return {};
         } catch (const std::exception &error) {
@@ -42,7 +44,12 @@ DatabaseThread::start(std::function<void(soci::session &)> work) const {
             return error.what();
         }
     };
-    return onOwnThread(afterTheLast).share();
+    const auto unlessDropped = [database = m_database, perform, work = std::move(work)] {
+        if (!database->isDropped) {
+            work(perform);
+        }
+    };
+    g_thread_pool_push(m_pool, new Work(unlessDropped), nullptr);
 }
 
 } // namespace drillhole

@@ -3,22 +3,20 @@
 #pragma once
 
 #include "drillhole/database/connection.h"
-#include "drillhole/database/onOwnThread.h"
 
 #include <atomic>
 #include <functional>
-#include <future>
 
 #include <glibmm/main.h>
 
 namespace drillhole {
 
-/// The threads that a database lives on, so that the window stays alive however long it takes. Work
+/// The thread that a database lives on, so that the window stays alive however long it takes. Work
 /// is done in the order in which it was given; the database is opened when there is some, and
 /// again after work that failed.
 ///
 /// When this ends or turns to another database, work that waits is dropped, and of work that runs
-/// nobody hears any more.
+/// nobody hears any more, nor waits for it.
 class DatabaseThread {
 public:
     using Open = Session(const std::string &connection);
@@ -31,10 +29,10 @@ public:
     DatabaseThread(const DatabaseThread &) = delete;
     DatabaseThread &operator=(const DatabaseThread &) = delete;
 
-    /// Turns to a database.
+    /// Turns to a database, also to the one of before on a thread and a connection that are new.
     void use(const std::string &connection);
 
-    const std::string &connection() const { return m_database->connection; }
+    const std::string &connection() const { return m_connection; }
 
     /// Turns to none.
     void drop();
@@ -44,17 +42,17 @@ public:
     /// all went well. The work owns, or shares, all that it uses.
     template <typename Work, typename Done>
     void run(Work work, Done done) {
-        const auto result = std::make_shared<std::invoke_result_t<Work, soci::session &>>();
-        m_last = start([result, work](soci::session &session) { *result = work(session); });
-        const auto tellEnd = [database = m_database, fault = m_last, result, done] {
-            const bool isOver =
-                fault.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
-            if (isOver && !database->isDropped) {
-                done(*result, fault.get());
-            }
-            return !isOver;
-        };
-        Glib::signal_timeout().connect(tellEnd, interval);
+        using Result = std::invoke_result_t<Work, soci::session &>;
+        start([=, database = m_database](const std::function<std::string(Task)> &perform) {
+            Result result;
+            const std::string fault =
+                perform([&](soci::session &session) { result = work(session); });
+            Glib::signal_idle().connect_once([=] {
+                if (!database->isDropped) {
+                    done(result, fault);
+                }
+            });
+        });
     }
 
     /// The same with `done(result)` for what went well; a fault is told the user.
@@ -66,19 +64,20 @@ public:
     }
 
 private:
-    static constexpr unsigned int interval = 5; // milliseconds
+    using Task = std::function<void(soci::session &)>;
     struct Database {
-        std::string connection;
-        Session session;
+        Session session = {};
         std::atomic<bool> isDropped{false};
     };
 
-    std::shared_future<std::string> start(std::function<void(soci::session &)> work) const;
+    /// @param work  gets what performs a task on the open database, and gives the fault
+    void start(std::function<void(const std::function<std::string(Task)> &)> work) const;
 
     Open &m_open;
     Tell m_tellFault;
+    std::string m_connection;
     std::shared_ptr<Database> m_database;
-    std::shared_future<std::string> m_last; // fault of the last work
+    GThreadPool *m_pool = nullptr; ///< of one thread
 };
 
 } // namespace drillhole

@@ -25,9 +25,12 @@ namespace drillhole {
 
 constexpr int spacing = 8;
 constexpr unsigned int progressInterval = 50; // milliseconds
+constexpr unsigned int patience = 1000;       // milliseconds: for a cancelled import to end
 
-MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended)
+MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended,
+                       bool acceptsGuesses)
     : m_settings(settings), m_reportFolder(reportFolder), m_isAttended(isAttended),
+      m_acceptsGuesses(acceptsGuesses),
       m_holes(openHoles, [this](const std::string &fault) { showFault(fault); }),
       m_source(openSource), m_controls(Gtk::ORIENTATION_VERTICAL, spacing),
       m_replace("_Replace the rows that are there", true), m_choices(settings),
@@ -109,19 +112,19 @@ void MainWindow::importTable(const std::string &connection, const std::string &t
             return;
         }
         m_settings.keep("source", "connection", {withoutPassword(chosen->connection)});
-        m_story.source = *chosen;
+        m_record.source = *chosen;
     }
     m_progressBar.set_fraction(0);
     m_progressBar.set_text("Asking for the columns");
     m_progressLine.show();
-    m_source.use(m_story.source.connection);
+    m_source.use(m_record.source.connection);
     m_source.run(
-        [name = m_story.source.table](soci::session &source) {
+        [name = m_record.source.table](soci::session &source) {
             return columnNames(source, nameInQuery(source, name));
         },
         [this](const std::vector<std::string> &columns, const std::string &fault) {
             m_progressLine.hide();
-            m_story.fault = fault;
+            m_record.fault = fault;
             match(columns);
         });
 }
@@ -129,24 +132,45 @@ void MainWindow::importTable(const std::string &connection, const std::string &t
 void MainWindow::begin(const ImportSource &source) {
     m_faultBar.hide();
     m_controls.set_sensitive(false);
-    m_story = ImportStory();
-    m_story.table = &grid().table();
-    m_story.source = source;
+    m_record = ImportRecord();
+    m_record.table = &grid().table();
+    m_record.source = source;
 }
 
 void MainWindow::match(const std::vector<std::string> &columns) {
     try {
-        if (m_story.fault.empty()) {
-            m_story.match =
-                matchColumns(*this, m_settings, *m_story.table, m_story.source, columns);
+        if (m_record.fault.empty()) {
+            m_record.match =
+                matchColumns(*this, m_settings, *m_record.table, m_record.source, columns);
+            settleDoubts();
         }
     } catch (const Fault &fault) {
-        m_story.fault = fault.what();
+        m_record.fault = fault.what();
     }
-    if (m_story.match) {
+    if (m_record.match && m_record.fault.empty()) {
+        keepMatch(m_settings, *m_record.table, m_record.source, *m_record.match);
         start(m_replace.get_active() ? Replace::ifAgreed : Replace::no);
     } else {
         end();
+    }
+}
+
+void MainWindow::settleDoubts() {
+    if (!m_record.match) {
+        return;
+    }
+    const std::string guesses = requiredGuesses(*m_record.table, *m_record.match);
+    if (!m_isAttended && !m_acceptsGuesses && !guesses.empty()) {
+        throw Fault("Only similar names were found: " + guesses +
+                    ". Give --accept-guesses to import it so.");
+    }
+    const std::string doubts = doubtsAbout(*m_record.table, *m_record.match);
+    if (!m_isAttended && !doubts.empty()) {
+        throw Fault(doubts + "Import it without --then-quit to be asked.");
+    }
+    m_record.match->factors = unitFactors(*m_record.table, *m_record.match);
+    if (!doubts.empty() && !agreesTo(doubts + "Import it so?", "_Don't Import", "_Import")) {
+        m_record.match.reset();
     }
 }
 
@@ -160,21 +184,22 @@ void MainWindow::start(Replace replace) {
     };
     Glib::signal_timeout().connect(showProgress, progressInterval);
     const std::string report =
-        Glib::build_filename(m_reportFolder, "refused_" + m_story.table->name + ".csv");
+        Glib::build_filename(m_reportFolder, "refused_" + m_record.table->name);
     m_holes.run(
-        [=, story = m_story, choices = m_choices.choices(),
+        [=, record = m_record, choices = m_choices.choices(),
          progress = m_progress](soci::session &holes) {
-            const Destination destination{holes, *story.table, report, replace, choices};
-            const ImportSource &source = story.source;
+            const Destination destination{holes, *record.table, report, replace, choices};
+            const ImportSource &source = record.source;
             return source.path.empty()
                        ? drillhole::importTable(destination, source.connection, source.table,
-                                                *story.match, *progress)
-                       : drillhole::importFile(destination, source.path, *story.match, *progress);
+                                                *record.match, *progress)
+                       : drillhole::importFile(destination, source.path, *record.match, *progress);
         },
         [this](const ImportOutcome &outcome, const std::string &fault) {
-            m_story.outcome = outcome;
-            m_story.fault = fault;
-            if (!outcome.question.empty() && agreesTo(outcome.question)) {
+            m_record.outcome = outcome;
+            m_record.fault = fault;
+            if (!outcome.question.empty() &&
+                agreesTo(outcome.question, "_Keep What Is There", "_Replace")) {
                 start(Replace::anyway);
             } else {
                 end();
@@ -182,43 +207,62 @@ void MainWindow::start(Replace replace) {
         });
 }
 
-bool MainWindow::agreesTo(const std::string &question) {
+bool MainWindow::agreesTo(const std::string &question, const char *no, const char *yes) {
     Gtk::MessageDialog dialog(*this, question, false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_NONE,
                               true);
-    dialog.add_button("_Keep What Is There", Gtk::RESPONSE_CANCEL);
-    dialog.add_button("_Replace", Gtk::RESPONSE_OK);
+    dialog.add_button(no, Gtk::RESPONSE_CANCEL);
+    dialog.add_button(yes, Gtk::RESPONSE_OK);
     return dialog.run() == Gtk::RESPONSE_OK;
 }
 
 void MainWindow::cancel() {
     if (m_progress) {
         m_progress->isCancelled = true;
+        Glib::signal_timeout().connect_once(
+            [this, progress = m_progress] {
+                if (progress == m_progress) {
+                    giveUp();
+                }
+            },
+            patience);
     } else { // the columns are still asked for
         m_source.drop();
         end();
     }
 }
 
+/// Leaves a database that is silent to itself: the next thing that is asked connects anew.
+void MainWindow::giveUp() {
+    m_record.fault =
+        m_progress->isCommitting
+            ? "The database was silent when its rows were to be kept. Whether they are is seen "
+              "once "
+              "it answers: look there before you import them again."
+            : "The database is silent, and the connection was given up. Nothing was imported.";
+    m_holes.use(m_holes.connection());
+    end();
+}
+
 void MainWindow::end() {
     m_progress.reset();
     m_progressLine.hide();
     m_controls.set_sensitive();
-    if (!m_story.fault.empty()) {
-        showFault(m_story.fault);
-    } else if (m_story.match) {
-        m_report.show(m_story);
+    if (!m_record.fault.empty()) {
+        showFault(m_record.fault);
+    } else if (m_record.match) {
+        m_report.show(m_record);
         m_export->set_enabled(!m_report.file().empty());
         if (!m_settings.complaint().empty()) {
             showFault(m_settings.complaint());
         }
     }
-    if (m_story.isDone()) {
+    if (m_record.isDone()) {
         m_replace.set_active(false);
-        grid().refresh(!m_story.outcome.replaces); // the new rows stand behind the others
+        grid().refresh(!m_record.outcome.replaces); // the new rows stand behind the others
         m_holes.ask(collarsOf,
                     [this](const std::vector<Collar> &collars) { m_plan.show(collars); });
     }
-    m_signalAtRest.emit(&m_story);
+    m_signalAtRest.emit(&m_record);
 }
 
 void MainWindow::exportRefused() {
@@ -317,9 +361,9 @@ Gtk::Widget &MainWindow::createBody() {
     both->pack1(m_tables, true, false);
     both->pack2(*frame, true, false);
     both->set_position(660);
-    auto *body = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_VERTICAL);
-    body->pack1(*both, true, false);
-    body->pack2(m_report, false, false);
+    auto *body = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
+    body->pack_start(*both, Gtk::PACK_EXPAND_WIDGET);
+    body->pack_start(m_report, Gtk::PACK_SHRINK);
     return *body;
 }
 

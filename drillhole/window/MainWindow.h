@@ -4,7 +4,7 @@
 
 #include "drillhole/window/ChoicesBar.h"
 #include "drillhole/window/DatabaseThread.h"
-#include "drillhole/window/ImportStory.h"
+#include "drillhole/window/ImportRecord.h"
 #include "drillhole/window/PlanView.h"
 #include "drillhole/window/ReportPane.h"
 #include "drillhole/window/RowGrid.h"
@@ -23,15 +23,19 @@ namespace drillhole {
 class MainWindow : public Gtk::ApplicationWindow {
 public:
     /// @param reportFolder where the reports of refused rows go
-    /// @param isAttended   asks for another database, or for a password, where one can't be opened
-    MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended);
+    /// @param isAttended      asks for another database, or for a password, where one can't be
+    ///                        opened, and about matches that are in doubt; otherwise those are
+    ///                        faults
+    /// @param acceptsGuesses  of required columns, where nobody is asked
+    MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended,
+               bool acceptsGuesses);
 
     /// Opens the database of the drill holes, before anything else is done.
     void open(const std::string &connection);
 
     /// The next thing can be done: an import has ended, however it came; or a database is open or
-    /// given up, and there is no story to tell.
-    sigc::signal<void, const ImportStory *> &signalAtRest() { return m_signalAtRest; }
+    /// given up, and there is none to tell of.
+    sigc::signal<void, const ImportRecord *> &signalAtRest() { return m_signalAtRest; }
 
     /// Chooses the table that is shown and imported into.
     void choose(const Table &table);
@@ -60,8 +64,10 @@ private:
     void begin(const ImportSource &source);
     void match(const std::vector<std::string> &columns);
     void start(Replace replace);
-    bool agreesTo(const std::string &question);
+    bool agreesTo(const std::string &question, const char *no, const char *yes);
+    void settleDoubts();
     void cancel();
+    void giveUp();
     void end();
 
     void showFault(const std::string &fault);
@@ -70,10 +76,11 @@ private:
     Settings &m_settings;
     std::string m_reportFolder;
     bool m_isAttended;
+    bool m_acceptsGuesses;
     bool m_isOpen = false;                      ///< the database is
-    ImportStory m_story;                        ///< of the import that runs, or of the last one
+    ImportRecord m_record;                      ///< of the import that runs, or of the last one
     std::shared_ptr<ImportProgress> m_progress; ///< null if no rows are being imported
-    sigc::signal<void, const ImportStory *> m_signalAtRest;
+    sigc::signal<void, const ImportRecord *> m_signalAtRest;
     DatabaseThread m_holes;
     DatabaseThread m_source; ///< is asked for the columns of a table
 

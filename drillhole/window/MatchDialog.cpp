@@ -2,61 +2,69 @@
 
 #include "drillhole/window/MatchDialog.h"
 
+#include "drillhole/rows/CsvFile.h"
 #include "drillhole/rows/Fault.h"
-#include "drillhole/rows/startDelimiter.h"
 
 #include <algorithm>
-#include <functional>
+#include <cstdio>
 
 #include <columnimport.h>
 #include <glibmm/convert.h>
+#include <glibmm/fileutils.h>
 #include <glibmm/miscutils.h>
+#include <unistd.h>
 
 namespace drillhole {
 
 namespace {
 
-using Door = std::unique_ptr<columnimport_import, decltype(&columnimport_free)>;
+using OwnedImport = std::unique_ptr<columnimport_import, decltype(&columnimport_free)>;
 
-Door doorTo(const Table &table, const std::string &source) {
-    Door door(columnimport_new(), &columnimport_free);
+OwnedImport importInto(const Table &table, const std::string &source) {
+    OwnedImport import(columnimport_new(), &columnimport_free);
     const Glib::ustring into = Glib::ustring(table.title).lowercase();
-    columnimport_set_title(door.get(), ("Import " + into + " from " + source).c_str());
+    columnimport_set_title(import.get(), ("Import " + into + " from " + source).c_str());
     for (const Column &column : table.columns) {
-        columnimport_add_column(door.get(), column.name.c_str());
-        const std::int32_t number = columnimport_column_count(door.get()) - 1;
-        columnimport_set_required(door.get(), number, column.isRequired ? 1 : 0);
-        for (const char *alternative : column.alternatives) {
-            columnimport_add_alternative(door.get(), number, alternative);
+        columnimport_add_column(import.get(), column.name.c_str());
+        const std::int32_t number = columnimport_column_count(import.get()) - 1;
+        columnimport_set_required(import.get(), number, column.isRequired ? 1 : 0);
+        columnimport_set_similar(import.get(), number, column.isGrade ? 0 : 1);
+        for (const std::string &word : column.words) {
+            columnimport_add_alternative(import.get(), number, word.c_str());
         }
     }
-    return door;
+    return import;
 }
 
 using NameOf = const char *(columnimport_import *, std::int32_t, std::int64_t *);
 
-std::vector<std::string> names(columnimport_import *door, std::int32_t count, NameOf nameOf) {
+std::vector<std::string> names(columnimport_import *import, std::int32_t count, NameOf nameOf) {
     std::vector<std::string> names;
     for (std::int32_t i = 0; i < count; ++i) {
         std::int64_t length = 0;
-        const char *bytes = nameOf(door, i, &length);
+        const char *bytes = nameOf(import, i, &length);
         names.emplace_back(bytes == nullptr ? "" : bytes, static_cast<std::size_t>(length));
     }
     return names;
 }
 
-Match matchOf(columnimport_import *door) {
+Match matchOf(columnimport_import *import) {
     Match match;
-    const std::int32_t count = columnimport_column_count(door);
-    match.names = names(door, count, columnimport_match_name);
-    match.columns = names(door, columnimport_source_column_count(door), columnimport_source_column);
+    const std::int32_t count = columnimport_column_count(import);
+    match.names = names(import, count, columnimport_match_name);
+    match.columns =
+        names(import, columnimport_source_column_count(import), columnimport_source_column);
+    match.delimiter = static_cast<char>(columnimport_delimiter(import));
+    // Between blanks nothing is no field, neither in the dialog nor in the rows.
+    const auto fieldOf =
+        match.delimiter == ' ' ? columnimport_match_position : columnimport_match_field;
     for (std::int32_t i = 0; i < count; ++i) {
-        const std::int32_t position = columnimport_match_position(door, i);
-        match.positions.push_back(position < 0 ? std::nullopt
-                                               : std::optional<std::size_t>(position));
+        const std::int32_t field = fieldOf(import, i);
+        match.positions.push_back(field < 0 ? std::nullopt : std::optional<std::size_t>(field));
+        match.areGuesses.push_back(columnimport_match_origin(import, i) ==
+                                   columnimport_origin_similar);
     }
-    match.delimiter = static_cast<char>(columnimport_delimiter(door));
-    match.firstLineHoldsTitles = columnimport_first_line_holds_titles(door) == 1;
+    match.firstLineHoldsTitles = columnimport_first_line_holds_titles(import) == 1;
     return match;
 }
 
@@ -64,79 +72,141 @@ bool has(const std::vector<std::string> &names, const std::string &name) {
     return !name.empty() && std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Opens the dialog with the kept matches that the source has, and a proposal for the rest.
-void openWith(std::vector<std::string> kept, columnimport_import *door) {
-    if (columnimport_propose(door) != columnimport_ok) {
-        return;
+/// Opens the dialog as it was left for a source with the same titles; or else with the kept matches
+/// that the source has, and a proposal for the rest. Gives the guesses in that.
+std::vector<bool> openAsKept(const Settings &settings, const std::string &group,
+                             columnimport_import *import) {
+    if (columnimport_propose(import) != columnimport_ok) {
+        return {};
     }
-    const Match proposal = matchOf(door);
+    const Match proposal = matchOf(import);
+    std::vector<std::string> kept = settings.texts(group, "matches");
     kept.resize(proposal.names.size());
-    std::replace_if(
-        kept.begin(), kept.end(),
-        [&](const std::string &name) { return !has(proposal.columns, name); }, std::string());
-    if (std::all_of(kept.begin(), kept.end(), std::mem_fn(&std::string::empty))) {
-        return;
-    }
+    const bool isSameSource = settings.texts(group, "titles of the source") == proposal.columns;
+    std::vector<bool> areGuesses(kept.size());
+    bool isProposal = true;
     for (std::size_t i = 0; i < kept.size(); ++i) {
-        if (kept[i].empty() && !has(kept, proposal.names[i])) {
+        kept[i] = has(proposal.columns, kept[i]) ? kept[i] : std::string();
+        isProposal = isProposal && (kept[i].empty() ? !isSameSource : kept[i] == proposal.names[i]);
+    }
+    for (std::size_t i = 0; i < kept.size() && !isProposal; ++i) {
+        if (!isSameSource && kept[i].empty() && !has(kept, proposal.names[i])) {
             kept[i] = proposal.names[i];
+            areGuesses[i] = proposal.areGuesses[i];
         }
-        columnimport_set_saved_match(door, static_cast<std::int32_t>(i), kept[i].data(),
+        columnimport_set_saved_match(import, static_cast<std::int32_t>(i), kept[i].data(),
                                      static_cast<std::int64_t>(kept[i].size()));
     }
+    return areGuesses;
 }
+
+std::string groupFor(const Table &table, const ImportSource &source) {
+    return table.name + (source.path.empty() ? " from table" : " from file");
+}
+
+/// The file, or a copy of its head if something stands in front of the titles, as the dialog reads
+/// those from the first line.
+class DialogFile {
+public:
+    explicit DialogFile(const std::string &path) : m_path(path) {
+        const CsvFile file(path, ',');
+        delimiter = file.preamble().delimiter;
+        if (file.preamble().lineCount > 0) {
+            close(Glib::file_open_tmp(m_copy, "drillhole"));
+            Glib::file_set_contents(m_copy, file.head());
+            m_path = m_copy;
+        }
+    }
+    ~DialogFile() {
+        if (!m_copy.empty()) {
+            std::remove(m_copy.c_str());
+        }
+    }
+    DialogFile(const DialogFile &) = delete;
+    DialogFile &operator=(const DialogFile &) = delete;
+
+    std::string path() const { return Glib::filename_to_utf8(m_path); }
+
+    std::optional<char> delimiter; ///< that the file names
+
+private:
+    std::string m_path;
+    std::string m_copy;
+};
 
 } // namespace
 
-std::optional<Match> matchColumns(Gtk::Window &owner, Settings &settings, const Table &table,
+std::optional<Match> matchColumns(Gtk::Window &owner, const Settings &settings, const Table &table,
                                   const ImportSource &source,
                                   const std::vector<std::string> &columns) {
     const bool isFile = !source.path.empty();
-    const std::string group = table.name + (isFile ? " from file" : " from table");
-    const Door owned =
-        doorTo(table, isFile ? std::string(Glib::filename_display_basename(source.path))
-                             : "table " + source.table);
-    columnimport_import *door = owned.get();
+    const std::string group = groupFor(table, source);
+    const OwnedImport owned =
+        importInto(table, isFile ? std::string(Glib::filename_display_basename(source.path))
+                                 : "table " + source.table);
+    columnimport_import *import = owned.get();
+    std::optional<DialogFile> file;
     std::optional<FileStamp> stamp;
     if (isFile) {
         stamp = stampOf(source.path);
         const std::string kept = settings.text(group, "delimiter");
-        columnimport_set_file(door, Glib::filename_to_utf8(source.path).c_str());
-        columnimport_set_delimiter(
-            door,
-            startDelimiter(source.path, kept.empty() ? std::nullopt : std::optional(kept[0])));
-        columnimport_set_first_line_holds_titles(door, settings.text(group, "titles") != "no");
+        file.emplace(source.path);
+        columnimport_set_file(import, file->path().c_str());
+        const std::int32_t likely = columnimport_likely_delimiter(import);
+        const char delimiter = likely >= 0    ? static_cast<char>(likely)
+                               : kept.empty() ? ','
+                                              : kept[0];
+        columnimport_set_delimiter(import, file->delimiter.value_or(delimiter));
+        columnimport_set_first_line_holds_titles(import, settings.text(group, "titles") != "no");
     } else {
         std::vector<const char *> names;
         names.reserve(columns.size());
         for (const std::string &column : columns) {
             names.push_back(column.c_str());
         }
-        columnimport_set_table(door, names.data(), nullptr,
+        columnimport_set_table(import, names.data(), nullptr,
                                static_cast<std::int32_t>(names.size()));
     }
-    openWith(settings.texts(group, "matches"), door);
-    switch (columnimport_show(door, owner.gobj())) {
+    const std::vector<bool> guesses = openAsKept(settings, group, import);
+    switch (columnimport_show(import, owner.gobj())) {
     case columnimport_ok:
         break;
     case columnimport_cancelled:
         return std::nullopt;
     default:
-        throw Fault(std::string("The dialog can't be shown. ") + columnimport_message(door));
+        throw Fault(std::string("The dialog can't be shown. ") + columnimport_message(import));
     }
-    Match match = matchOf(door);
+    Match match = matchOf(import);
     match.stamp = stamp;
-    if (isFile) {
+    for (std::size_t i = 0; i < match.positions.size(); ++i) {
+        const bool isMatched =
+            columnimport_match_position(import, static_cast<std::int32_t>(i)) >= 0;
+        if (isMatched && !match.positions[i]) {
+            throw Fault("The first line has quotes by which nobody can tell the field of " +
+                        match.names[i] + ". Correct them and import the file again.");
+        }
+    }
+    for (std::size_t i = 0; i < guesses.size(); ++i) {
+        const bool isAsOpened = columnimport_match_origin(import, static_cast<std::int32_t>(i)) ==
+                                columnimport_origin_saved;
+        match.areGuesses[i] = match.areGuesses[i] || (isAsOpened && guesses[i]);
+    }
+    match.delimiter = isFile ? match.delimiter : '\0';
+    return match;
+}
+
+void keepMatch(Settings &settings, const Table &table, const ImportSource &source,
+               const Match &match) {
+    const std::string group = groupFor(table, source);
+    if (!source.path.empty()) {
         settings.keep(group, "delimiter", {std::string(1, match.delimiter)});
         settings.keep(group, "titles", {match.firstLineHoldsTitles ? "yes" : "no"});
-    } else {
-        match.delimiter = '\0';
     }
     // Without titles the matches are numbers, which say nothing about the next file.
     if (match.firstLineHoldsTitles) {
         settings.keep(group, "matches", match.names);
+        settings.keep(group, "titles of the source", match.columns);
     }
-    return match;
 }
 
 } // namespace drillhole

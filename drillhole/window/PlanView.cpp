@@ -10,6 +10,7 @@
 #include <utility>
 
 #include <cairomm/region.h>
+#include <gtkmm/tooltip.h>
 
 namespace drillhole {
 
@@ -18,6 +19,10 @@ namespace {
 constexpr double margin = 70;
 constexpr double gridSpacing = 110;
 constexpr int dotSize = 8;
+constexpr int gap = 5; // beside a text
+constexpr double ringRadius = 6.5;
+constexpr double reach = 8; // of the pointer
+constexpr std::size_t namesInTip = 12;
 constexpr double holeRadius = 3.5;
 constexpr double scaleBarHeight = 30;
 constexpr double faint = 0.6;
@@ -45,7 +50,7 @@ public:
         int width = 0;
         int height = 0;
         layout->get_pixel_size(width, height);
-        m_free->subtract(boxAt(left, top, width, height));
+        m_free->subtract(boxAt(left - gap, top, width + 2 * gap, height));
     }
 
     void draw(const std::vector<Collar> &collars) {
@@ -94,27 +99,35 @@ private:
     }
 
     void drawCollars(const std::vector<Collar> &collars) {
+        const std::vector<Dot> dots = dotsOf(collars, m_scale);
+        std::vector<Cairo::RectangleInt> boxes;
+        boxes.reserve(dots.size());
         m_picture->set_source_rgb(0.8, 0.3, 0.1);
-        std::vector<Cairo::RectangleInt> dots;
-        dots.reserve(collars.size());
-        for (const Collar &collar : collars) {
-            const double x = m_scale.x(collar.easting);
-            const double y = m_scale.y(collar.northing);
+        m_picture->set_line_width(1.5);
+        for (const Dot &dot : dots) {
+            const double x = m_scale.x(dot.front()->easting);
+            const double y = m_scale.y(dot.front()->northing);
             m_picture->arc(x, y, holeRadius, 0, 2 * M_PI);
             m_picture->fill();
-            dots.push_back(boxAt(x - holeRadius, y - holeRadius, dotSize, dotSize));
+            if (dot.size() > 1) {
+                m_picture->arc(x, y, ringRadius, 0, 2 * M_PI);
+                m_picture->stroke();
+            }
+            boxes.push_back(boxAt(x - holeRadius, y - holeRadius, dotSize, dotSize));
         }
-        m_free->subtract(Cairo::Region::create(dots));
-        for (const Collar &collar : collars) {
-            writeName(collar);
+        m_free->subtract(Cairo::Region::create(boxes));
+        for (const Dot &dot : dots) {
+            const std::size_t more = dot.size() - 1;
+            writeName(*dot.front(), more == 0 ? "" : " and " + std::to_string(more) + " more");
         }
     }
 
     /// A name that would cover another text or a hole stands on another side, or is left out.
-    void writeName(const Collar &collar) {
+    void writeName(const Collar &collar, const std::string &more) {
+        const std::string name = collar.name + more;
         int width = 0;
         int height = 0;
-        m_widget.create_pango_layout(collar.name)->get_pixel_size(width, height);
+        m_widget.create_pango_layout(name)->get_pixel_size(width, height);
         const double x = m_scale.x(collar.easting);
         const double y = m_scale.y(collar.northing);
         const double middle = x - width / 2.0;
@@ -125,7 +138,7 @@ private:
         for (const auto &[left, top] : corners) {
             const Cairo::RectangleInt box = boxAt(left, top, width, height);
             if (m_free->contains_rectangle(box) == Cairo::REGION_OVERLAP_IN) {
-                write(left, top, collar.name);
+                write(left, top, name);
                 return;
             }
         }
@@ -143,7 +156,7 @@ private:
         m_picture->line_to(right, bottom);
         m_picture->line_to(right, bottom - 5);
         m_picture->stroke();
-        write(right + 6, bottom - 14, coordinate(length));
+        write(right + 6, bottom - 14, coordinate(length) + " m");
     }
 
     Gtk::Widget &m_widget;
@@ -158,6 +171,11 @@ private:
 
 PlanView::PlanView() {
     set_size_request(280, 200);
+    set_has_tooltip();
+    signal_query_tooltip().connect(
+        [this](int x, int y, bool, const Glib::RefPtr<Gtk::Tooltip> &tooltip) {
+            return tellHoles(x, y, tooltip);
+        });
     get_style_context()->add_class("view"); // the ground of the theme
 }
 
@@ -174,6 +192,28 @@ bool PlanView::on_draw(const Cairo::RefPtr<Cairo::Context> &picture) {
         drawing.draw(m_collars);
     }
     return true;
+}
+
+bool PlanView::tellHoles(int x, int y, const Glib::RefPtr<Gtk::Tooltip> &tooltip) const {
+    if (m_collars.empty()) {
+        return false;
+    }
+    const PlanScale scale =
+        planScale(m_collars, get_allocated_width(), get_allocated_height(), margin);
+    std::string tip;
+    std::size_t count = 0;
+    for (const Collar &collar : m_collars) {
+        const double away = std::hypot(scale.x(collar.easting) - x, scale.y(collar.northing) - y);
+        if (away <= reach && count++ < namesInTip) {
+            tip += (tip.empty() ? "" : "\n") + collar.name + "   " + coordinate(collar.easting) +
+                   " E   " + coordinate(collar.northing) + " N";
+        }
+    }
+    if (count > namesInTip) {
+        tip += "\nand " + std::to_string(count - namesInTip) + " more";
+    }
+    tooltip->set_text(tip);
+    return count > 0;
 }
 
 } // namespace drillhole

@@ -9,6 +9,7 @@
 namespace drillhole {
 
 /// The collars from above: easting against northing, true to scale, with the holes' names.
+/// Under the pointer it tells the names and coordinates of the holes there.
 class PlanView : public Gtk::DrawingArea {
 public:
     PlanView();
@@ -17,6 +18,7 @@ public:
 
 private:
     bool on_draw(const Cairo::RefPtr<Cairo::Context> &picture) override;
+    bool tellHoles(int x, int y, const Glib::RefPtr<Gtk::Tooltip> &tooltip) const;
 
     std::vector<Collar> m_collars;
 };

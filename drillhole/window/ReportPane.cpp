@@ -30,13 +30,13 @@ ReportPane::ReportPane()
     m_scrolled.set_no_show_all();
 }
 
-void ReportPane::show(const ImportStory &story) {
-    m_heading.set_text(summaryOf(story));
+void ReportPane::show(const ImportRecord &record) {
+    m_heading.set_text(summaryOf(record));
     m_rows.clear_items();
-    for (const Remark &remark : remarksOf(story.outcome, story.outcome.firstRefused.size())) {
+    for (const Remark &remark : remarksOf(record.outcome, record.outcome.firstRefused.size())) {
         m_rows.set_text(m_rows.append(remark.lines), 1, remark.text);
     }
-    m_report = story.outcome.report;
+    m_report = record.outcome.report;
     m_open.set_visible(!m_report.empty());
     m_scrolled.set_visible(m_rows.size() > 0);
 }

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "drillhole/window/ImportStory.h"
+#include "drillhole/window/ImportRecord.h"
 
 #include <gtkmm/box.h>
 #include <gtkmm/button.h>
@@ -18,7 +18,7 @@ class ReportPane : public Gtk::Box {
 public:
     ReportPane();
 
-    void show(const ImportStory &story);
+    void show(const ImportRecord &record);
 
     /// The report of refused rows; empty if there is none.
     const std::string &file() const { return m_report; }

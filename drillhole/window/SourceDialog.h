@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "drillhole/window/ImportStory.h"
+#include "drillhole/window/ImportRecord.h"
 
 #include <gtkmm/window.h>
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <utility>
 
 namespace drillhole {
 
@@ -30,6 +32,21 @@ PlanScale planScale(const std::vector<Collar> &collars, double width, double hei
     scale.west = (west->easting + east->easting) / 2 - width / 2 / scale.pixelsPerUnit;
     scale.north = (south->northing + north->northing) / 2 + height / 2 / scale.pixelsPerUnit;
     return scale;
+}
+
+std::vector<Dot> dotsOf(const std::vector<Collar> &collars, const PlanScale &scale) {
+    std::map<std::pair<double, double>, std::size_t> numbers;
+    std::vector<Dot> dots;
+    for (const Collar &collar : collars) {
+        const std::pair pixel(std::round(scale.x(collar.easting)),
+                              std::round(scale.y(collar.northing)));
+        const auto [number, isNew] = numbers.try_emplace(pixel, dots.size());
+        if (isNew) {
+            dots.emplace_back();
+        }
+        dots[number->second].push_back(&collar);
+    }
+    return dots;
 }
 
 double roundStep(double units) {

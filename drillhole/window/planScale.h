@@ -21,6 +21,12 @@ struct PlanScale {
 /// units.
 PlanScale planScale(const std::vector<Collar> &collars, double width, double height, double margin);
 
+/// The collars that share a dot of a picture, in their order.
+using Dot = std::vector<const Collar *>;
+
+/// The dots of all collars; those whose middles are less than a pixel apart share one.
+std::vector<Dot> dotsOf(const std::vector<Collar> &collars, const PlanScale &scale);
+
 /// The smallest of 1, 2, 5, 10, 20, 50 and so on, down to 0.001 and up, that is at least `units`.
 double roundStep(double units);
 

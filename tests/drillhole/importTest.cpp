@@ -6,12 +6,15 @@
 #include "drillhole/database/faultText.h"
 #include "drillhole/database/importRows.h"
 #include "drillhole/rows/Fault.h"
+#include "drillhole/window/ImportRecord.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace drillhole;
 
@@ -39,19 +42,22 @@ protected:
     }
 
     std::string read(const std::string &name) const {
-        std::ifstream file(path(name));
+        std::ifstream file(name.front() == '/' ? name : path(name));
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
     Destination into(const char *table, Replace replace = Replace::no) {
-        return {*m_holes, *findTable(table), path("refused.csv"), replace, {}};
+        return {*m_holes, *findTable(table), path("refused"), replace, {}};
     }
 
-    ImportOutcome importText(const char *table, const std::string &text, const Match &match,
+    ImportOutcome importText(const char *table, const std::string &text, Match match,
                              Replace replace = Replace::no) {
+        match.positions.resize(findTable(table)->columns.size());
         write("rows.csv", text);
         ImportProgress progress;
-        return importFile(into(table, replace), path("rows.csv"), match, progress);
+        ImportOutcome outcome = importFile(into(table, replace), path("rows.csv"), match, progress);
+        m_report = outcome.report;
+        return outcome;
     }
 
     /// What the shell of SQLite answers.
@@ -65,6 +71,7 @@ protected:
     const Match m_collarMatch = matchOf({0, 1, 2, {}, {}});
     const Match m_surveyMatch = matchOf({0, 1, 2, 3});
     std::string m_folder;
+    std::string m_report; ///< of the last import
     Session m_holes;
 };
 
@@ -74,18 +81,20 @@ TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
                "Dip,Hole,At,Az\n-60,LR-1,0,90\n-60,LR-3,0,90\n-59,LR-2,10,n\n-58,LR-2,10,91\n",
                dipFirst);
     EXPECT_EQ(ask("select * from survey"), "LR-1|0.0|90.0|-60.0\nLR-2|10.0|91.0|-58.0");
-    EXPECT_EQ(read("refused.csv"),
-              "line,reason,\"Dip\",\"Hole\",\"At\",\"Az\"\n"
-              "3,\"no collar is called \"\"LR-3\"\"\",\"-60\",\"LR-3\",\"0\",\"90\"\n"
-              "4,\"azimuth \"\"n\"\" is no number\",\"-59\",\"LR-2\",\"10\",\"n\"\n");
+    const std::string report = m_report;
+    EXPECT_EQ(read(report), "line,reason,\"Dip\",\"Hole\",\"At\",\"Az\"\n"
+                            "3,\"no collar is called \"\"LR-3\"\"\",\"-60\",\"LR-3\",\"0\",\"90\"\n"
+                            "4,\"azimuth \"\"n\"\" is no number\",\"-59\",\"LR-2\",\"10\",\"n\"\n");
     importText("survey", "Dip,Hole,At,Az\n-50,LR-2,0,90\n", dipFirst, Replace::anyway);
     EXPECT_EQ(ask("select * from survey"), "LR-2|0.0|90.0|-50.0") << "in place of the others";
-    EXPECT_FALSE(std::filesystem::exists(path("refused.csv"))) << "nothing was refused this time";
+    EXPECT_EQ(m_report, "") << "nothing was refused this time";
+    importText("survey", "Dip,Hole,At,Az\nx,LR-2,0,90\n", dipFirst);
+    EXPECT_NE(m_report, report);
+    EXPECT_EQ(read(report).size(), 143U) << "which another import wrote";
 }
 
 TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
-    Match quotedTitles = matchOf({2, 4, 5, 6}); // among those that the dialog cut the titles into
-    quotedTitles.columns = {"Remark", "and more", "Hole", "", "At", "Az", "Dip"};
+    const Match quotedTitles = matchOf({1, 3, 4, 5});
     const struct {
         const char *text;
         Match match;
@@ -94,7 +103,7 @@ TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
         {"LR-1S0S90S-60\nLR-2S5S91S-61", matchOf({0, 1, 2, 3}, 'S', false), "0.0 -60.0, 5.0 -61.0"},
         {"Hole   At  Az Dip\nLR-1    7  92 -62\nLR-1    8  93\n", matchOf({0, 1, 2, 3}, ' '),
          "7.0 -62.0"},
-        {"Hole\tAt\t\tAz\tDip\r\nLR-2\t9\t\t94\t-63\r\n", matchOf({0, 1, 2, 3}, '\t'), "9.0 -63.0"},
+        {"Hole\tAt\t\tAz\tDip\r\nLR-2\t9\t\t94\t-63\r\n", matchOf({0, 1, 3, 4}, '\t'), "9.0 -63.0"},
         {"Hole,At,Az,Dip\nLR-2,11,95,-64,\nLR-2,1,5,95,-64,\n,,,,\n", m_surveyMatch, "11.0 -64.0"},
         {"Hole,At,Az,Dip\nLR-2,11,95,-64,,7\nLR-2,12,95,-64\n", m_surveyMatch, "12.0 -64.0"},
         {"\"Remark, and more\",Hole,,At,Az,Dip\nx,LR-2,,13,96,-65\n", quotedTitles, "13.0 -65.0"},
@@ -111,7 +120,6 @@ TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
 }
 
 TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
-    write("refused.csv", "of an earlier import");
     *m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
     const std::string surveys = "Hole,At,Az,Dip\nLR-1,0,90,-60\nLR-9,0,90,-60\n";
     {
@@ -131,12 +139,13 @@ TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
             .isCancelled);
     EXPECT_EQ(cancelled.rows, 0U) << "it ends at once";
     Match match = m_surveyMatch;
-    match.stamp = stampOf(path("refused.csv"));
+    match.stamp = stampOf(path("holes.sqlite"));
     EXPECT_THROW(importText("survey", surveys, match), Fault) << "not what was matched";
     EXPECT_EQ(ask("select * from survey"), "LR-1|5.0|5.0|5.0");
     EXPECT_EQ(ask("select count(*) from collar"), "2");
-    EXPECT_EQ(read("refused.csv"), "of an earlier import");
-    EXPECT_FALSE(std::filesystem::exists(path("refused.csv.part")));
+    for (const auto &file : std::filesystem::directory_iterator(m_folder)) {
+        EXPECT_EQ(file.path().filename().string().rfind("refused", 0), std::string::npos);
+    }
 }
 
 TEST_F(ImportTest, ReplacesNothingUnasked) {
@@ -176,17 +185,84 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
     const ImportOutcome first = importText("assay", text, match);
     EXPECT_EQ(first.taken, 1002U);
     ASSERT_EQ(first.firstRefused.size(), 3U) << "two rows that stand twice in the file";
-    EXPECT_EQ(first.firstRefused[2].text.size(), 60U) << "as long as a reason may be";
     EXPECT_EQ(first.firstRefused[0].lines + first.firstRefused[0].text, "1003there already");
-    ASSERT_EQ(first.remarks.size(), 3U);
-    EXPECT_EQ(first.remarks[0].text, "not filled: Cu %, Zn %, duplicate, blank, standard");
-    EXPECT_EQ(first.remarks[1].text, "not imported: Cu");
-    EXPECT_EQ(first.remarks[2].lines + first.remarks[2].text,
+    ASSERT_EQ(first.remarks.size(), 4U);
+    EXPECT_EQ(first.remarks[0].text,
+              "filled: holename from Hole, fromdepth from From, todepth from To, Au g/t from Au");
+    EXPECT_EQ(first.remarks[2].text, "not imported: Cu");
+    EXPECT_EQ(first.remarks[3].lines + first.remarks[3].text,
               "1004overlaps another interval of its hole: 1 row");
     const ImportOutcome second = importText("assay", text, match);
     EXPECT_EQ(second.refused, 1005U);
     EXPECT_FALSE(second.isDone());
     EXPECT_EQ(ask("select count(*) from assay"), "1002");
+    *m_holes << "insert into assay (holename, fromdepth, todepth, duplicate) values "
+                "('LR-2', 0, 1, '')";
+    EXPECT_EQ(importText("assay", "Hole,From,To,Au\nLR-2,0,1,\n", match).taken, 1U)
+        << "nothing is not the same as an empty text";
+}
+
+TEST_F(ImportTest, GuessesNoNumber) {
+    const Match match = matchOf({0, 1, 2, 3, 4});
+    Match semicolons = matchOf({0, 1, 2, 3}, ';');
+    Match converts = matchOf({0, 1, 2, {}, 3});
+    converts.factors = {1, 1, 1, 1, 0.0001};
+    const struct {
+        const char *text;
+        Match match;
+        const char *grades;
+    } cases[] = {
+        {"Hole,From,To,Au,Cu,Zn\nLR-1,4,5,0,0.2,3\nLR-1,5,6,0.5,1\nLR-1,7,8,0,5\n", match,
+         "0.0 0.2, 0.5 1.0"},
+        {"Hole,From,To,Au,Cu\nLR-1,4,5,0.1,0.2\nLR-1,5,6,0.5,0.2,\nLR-1,7,8,1,92,\n", match,
+         "0.1 0.2, 0.5 0.2"},
+        {"Hole,From,To,Au,Cu\nLR-1,4,5,1,2\nLR-1,5,6,3,4,\n", match, "1.0 2.0, 3.0 4.0"},
+        {"Hole;From;To;Au\nLR-1;4;5;634.210\nLR-1;5;6;1,234\nLR-1;6;7;0,5\n", semicolons,
+         "1.234 , 0.5 "},
+        {"Hole,From,To,Cu_ppm\nLR-1,4,5,12345\n", converts, " 1.2345"},
+    };
+    for (const auto &each : cases) {
+        *m_holes << "delete from assay";
+        importText("assay", each.text, each.match);
+        EXPECT_EQ(ask("select group_concat(coalesce(au_gt, '') || ' ' || coalesce(cu_pct, ''), "
+                      "', ') from assay"),
+                  each.grades);
+    }
+}
+
+TEST_F(ImportTest, TakesItsReportBackAsItReadTheFile) {
+    importText("assay", "Hole;From;To;Au\nLR-1;0,5;1,5;\xE9\n", matchOf({0, 1, 2, 3}, ';'));
+    std::string report = read(m_report);
+    EXPECT_EQ(report,
+              "line;reason;\"Hole\";\"From\";\"To\";\"Au\"\n"
+              "2;\"Au g/t \"\"\u00e9\"\" is no number\";\"LR-1\";\"0,5\";\"1,5\";\"\u00e9\"\n");
+    report.replace(report.rfind("\u00e9"), 2, "0,7");
+    importText("assay", report, matchOf({2, 3, 4, 5}, ';'));
+    EXPECT_EQ(ask("select fromdepth, todepth, au_gt from assay"), "0.5|1.5|0.7");
+}
+
+TEST_F(ImportTest, ImportsNothingWhereTheReportHasNoRoom) {
+    std::string surveys = "Hole,At,Az,Dip\nLR-1,0,90,-60\n";
+    for (int i = 0; i < 5000; ++i) {
+        surveys += "LR-9,0,90,-60\n";
+    }
+    write("rows.csv", surveys);
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit small{100'000, RLIM_INFINITY};
+    const rlimit large{RLIM_INFINITY, RLIM_INFINITY};
+    setrlimit(RLIMIT_FSIZE, &small);
+    ImportProgress progress;
+    EXPECT_THROW(importFile(into("survey"), path("rows.csv"), m_surveyMatch, progress), Fault);
+    setrlimit(RLIMIT_FSIZE, &large);
+    EXPECT_EQ(ask("select count(*) from survey"), "0");
+}
+
+TEST_F(ImportTest, MakesColumnsForElementsThatCameLater) {
+    *m_holes << "alter table assay drop column as_ppm";
+    openHoles(connectionFor(path("holes.sqlite")));
+    EXPECT_EQ(ask("select count(as_ppm) from assay"), "0");
+    *m_holes << "alter table assay drop column standard";
+    EXPECT_THROW(openHoles(connectionFor(path("holes.sqlite"))), Fault) << "another's table";
 }
 
 TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {
@@ -196,20 +272,23 @@ TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {
     EXPECT_THROW(inPlainWords("", [&] { importText("collar", "hole,x,y\n", m_collarMatch); }),
                  Fault);
     EXPECT_GT(std::chrono::steady_clock::now() - start, std::chrono::seconds(4)) << "it waits";
+    EXPECT_THROW(openHoles(connectionFor(path("holes.sqlite"))), Fault);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(14)) << "but once";
 }
 
 TEST_F(ImportTest, ReadsATableAsItStands) {
     const std::string lab = connectionFor(path("lab's work.sqlite"));
     const Session source = openDatabase(lab);
     *source << "create table \"the holes\" (\"Hole:Id\" text, x real, y, note)";
-    *source << "insert into \"the holes\" values ('LR-7', 634210.84, '12.5', null), "
+    *source << "insert into \"the holes\" values ('LR-7', 0.1 + 0.2, '12.5', null), "
                "('LR-8', null, 1, 'x'), ('LR-1', 1, 1, 'x')";
 
     ImportProgress progress;
     Match match = matchOf({0, 1, 2, 3, {}}, '\0');
     match.columns = {"Hole:Id", "x", "y", "note"};
     const ImportOutcome outcome = importTable(into("collar"), lab, "the holes", match, progress);
-    EXPECT_EQ(ask("select * from collar where holename = 'LR-7'"), "LR-7|634210.84|12.5||");
+    EXPECT_EQ(ask("select easting = 0.1 + 0.2, northing from collar where holename = 'LR-7'"),
+              "1|12.5");
     ASSERT_EQ(outcome.refused, 2U);
     EXPECT_EQ(outcome.firstRefused[0].lines + outcome.firstRefused[0].text, "2easting is empty");
 
@@ -253,6 +332,20 @@ TEST_F(ImportTest, ShowsAViewPageByPageInBothDirections) {
         EXPECT_EQ(pageOf(*m_holes, view, {{}, false, 1}, 9).size() + 1,
                   rowCount(*m_holes, *view.table, each.hole));
     }
+}
+
+TEST(Doubts, AreAskedBeforeTheRowsAreImported) {
+    const Table &assays = *findTable("assay");
+    Match match = matchOf({0, 1, 2, {}, 3});
+    match.positions.resize(assays.columns.size());
+    match.names = {"Hole", "From", "To", "", "Cu_ppm"};
+    match.areGuesses = {false, true, false, false, true};
+    EXPECT_EQ(doubtsAbout(assays, match),
+              "Cu_ppm is in another unit than Cu %: its values would be divided by 10,000. ");
+    EXPECT_EQ(unitFactors(assays, match)[4], 0.0001);
+    EXPECT_EQ(requiredGuesses(assays, match), "fromdepth from From");
+    match.positions[4].reset();
+    EXPECT_EQ(doubtsAbout(assays, match).rfind("No column fills a value", 0), 0U);
 }
 
 } // namespace

@@ -23,6 +23,13 @@ TEST(PlanScale, ShowsOneCollarAndARowOfThemToo) {
     EXPECT_GT(planScale({{"a", 0, 0}, {"b", 9, 9}}, 5, 5, 10).pixelsPerUnit, 0);
 }
 
+TEST(Dots, AreSharedByHolesAtOnePlace) {
+    const std::vector<Collar> collars = {{"a", 0, 0}, {"b", 100, 0}, {"c", 0.1, 0}};
+    const std::vector<Dot> dots = dotsOf(collars, planScale(collars, 120, 120, 10));
+    ASSERT_EQ(dots.size(), 2U);
+    EXPECT_EQ(dots[0].back()->name + dots[1].front()->name, "cb");
+}
+
 TEST(RoundStep, GoesUpToTheNextRoundNumber) {
     const double cases[][2] = {{0.9, 1}, {1.1, 2}, {37, 50}, {1000, 1000}, {0.03, 0.05}};
     for (const auto &each : cases) {

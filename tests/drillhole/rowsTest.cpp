@@ -5,7 +5,6 @@
 #include "drillhole/rows/CsvFile.h"
 #include "drillhole/rows/Fault.h"
 #include "drillhole/rows/RowCheck.h"
-#include "drillhole/rows/startDelimiter.h"
 #include "drillhole/rows/text.h"
 
 #include <sys/stat.h>
@@ -52,6 +51,9 @@ TEST(CsvFile, CutsRowsAndCountsLines) {
         {"1,\"5 core\n2,x\n3,6\" y\n", "1:[1,\"5 core]! 2:[2][x] 3:[3][6\" y] "},
         {"a,b,c\n1,2,\"3\n4,5,6\n7,8,\"\n", "1:[a][b][c] 2:[1,2,\"3]! 3:[4][5][6] 4:[7,8,\"]! "},
         {"\"a\nb\",\"c\n1,2\n", "1-2:[\"a\nb\",\"c]! 3:[1][2] "},
+        {"a\t,b \t\n", "1:[a][b] "},
+        {"sep=;\n# made by hand\na,b\n1,2\n", "3:[a][b] 4:[1][2] "},
+        {"#,b\n1,2\n", "1:[#][b] 2:[1][2] "},
         {endless + "\nb,2", "1:[xxxxxxxxx]! 2:[b][2] "},
         {"a,\"" + endless + "\nb,2", "1:[a,\"xxxxxx]! 2:[b][2] "},
         {std::string(200'000, ',') + "\nb,2", "1:[,,,,,,,,,]! 2:[b][2] "},
@@ -67,7 +69,6 @@ TEST(CsvFile, NamesAFileForWhatItIs) {
     const std::pair<std::string_view, const char *> cases[] = {
         {"a,b\r1,2\r", "carriage returns only"},
         {{"\xFF\xFE\n\0\x61\0", 6}, "UTF-16"},
-        {"sep=;\na;b\n", "note of its delimiter"},
     };
     for (const auto &[text, part] : cases) {
         try {
@@ -95,19 +96,28 @@ TEST(CsvFile, NoticesThatItWasCutShortOrWentOn) {
     }
 }
 
-/// A check of rows of a file whose fields are in order; they are given with bars between them. The
-/// holes LR-1, 100 long, and Ré have collars.
+/// A check of rows of a file whose fields are in order; they are given with bars between them. Of
+/// the elements there are Au, Cu and Zn. The holes LR-1, 100 long, and R\u00e9 have collars.
 struct Check {
-    explicit Check(const char *table, char delimiter = ',', ValueChoices choices = {})
-        : check(*findTable(table), layout(*findTable(table), delimiter), std::move(choices),
-                {{"LR-1", {100, {}}}, {"R\u00e9", {}}}, [this] { return isThere; }) {
+    explicit Check(const char *name, char delimiter = ',', ValueChoices choices = {})
+        : table(*findTable(name)), check(table, layout(table, delimiter), std::move(choices),
+                                         {{"LR-1", {100}}, {"R\u00e9", {}}},
+                                         {[this] { return isThere; },
+                                          [this](Holes &holes) {
+                                              for (const std::vector<Value> &row : taken) {
+                                                  holes[row[0].text].depths += depthsOf(table, row);
+                                              }
+                                          }}) {
         (*this)("a row that shows how long the rows are");
     }
 
     static RowLayout layout(const Table &table, char delimiter) {
         RowLayout layout{{}, delimiter, std::vector<std::string>(10)};
-        for (std::size_t i = 0; i < table.columns.size(); ++i) {
-            layout.positions.emplace_back(i);
+        std::size_t count = 0;
+        for (const Column &column : table.columns) {
+            const bool isThere = !column.isGrade || column.name == "Au g/t" ||
+                                 column.name == "Cu %" || column.name == "Zn %";
+            layout.positions.push_back(isThere ? std::optional(count++) : std::nullopt);
         }
         return layout;
     }
@@ -119,7 +129,11 @@ struct Check {
             end = fields.find('|', begin);
             row.fields.push_back(fields.substr(begin, end - begin));
         }
+        check.learn(row);
         const std::string reason = check.check(row, values);
+        if (reason.empty()) {
+            taken.push_back(values);
+        }
         const std::vector<Remark> remarks = check.remarks().byKind();
         return !reason.empty() || remarks.empty()
                    ? reason
@@ -127,6 +141,8 @@ struct Check {
     }
 
     bool isThere = false;
+    const Table &table;
+    std::vector<std::vector<Value>> taken;
     std::vector<Value> values;
     RowCheck check;
 };
@@ -143,7 +159,8 @@ TEST(RowCheck, SaysWhyARowIsRefused) {
         {"assay", "R\xE9|0|1e1||||||", ""},
         {"assay", "a name that has no end to it|0|1||||||",
          "no collar is called \"a name that has no en...\""},
-        {"assay", "LR-1|0|1|1,5|||||", "Au g/t \"1,5\" is no number"},
+        {"assay", "LR-1|0|1|1,5||||||", "Au g/t \"1,5\" is no number"},
+        {"assay", "LR-1\t\u00a0|0|1||||||", ""},
         {"assay", "LR-1|0.0|1|92|||||||", "too many fields: 11 where a row has 10"},
         {"assay", "LR-1|0.0|1|0.5||||||||7", "too many fields: 12 where a row has 10"},
         {"assay", "LR-1|0.0|1|0.5||||||||", ""},
@@ -152,19 +169,31 @@ TEST(RowCheck, SaysWhyARowIsRefused) {
         {"assay", "LR-1|0|1||||\0||"sv, "duplicate holds a zero byte"},
         {"survey", "LR-1|0|400|-60", "azimuth is not from 0 to 360: 1 row (1)"},
         {"survey", "LR-1|0|360|95", "dip is not from -90 to 90: 1 row (1)"},
+        {"survey", "R\u00e9|16000|0|0", "depth is not from 0 to 15000: 1 row (1)"},
+        {"survey", "LR-1|0|90\u00b0|-60\xB0", "dip has a degree sign, left out: 1 row (1)"},
         {"survey", "LR-1|100.5|0|0", "goes deeper than its hole is long: 1 row (1)"},
         {"collar", "LR-2|-9999|0||", "easting is -9999, perhaps a word for no value: 1 row (1)"},
-        {"collar", "LR-2|1|0||-1", "length is below 0: 1 row (1)"},
+        {"collar", "LR-2|1|0||-1", "length is not from 0 to 15000: 1 row (1)"},
         {"assay", "LR-1|99|101||||||", "goes deeper than its hole is long: 1 row (1)"},
     };
     for (const auto &each : cases) {
         EXPECT_EQ(Check(each.table, each.delimiter)(each.fields), each.reason);
     }
     Check collars("collar");
-    EXPECT_EQ(collars("LR-2|0|0||") + collars("LR-2|1|1||"), "there is a collar \"LR-2\" already");
+    EXPECT_EQ(collars("LR-2|0|0||"), "");
+    EXPECT_EQ(collars("LR-2|1|1||"), "there is a collar \"LR-2\" already");
+    EXPECT_EQ(collars("lr-2|1|1||"), "") << "at another place";
+    EXPECT_EQ(collars("lR-2|0|0||", 7),
+              "stands where one of the same name stands, but for capitals: 1 row (7)");
+    Check surveys("survey");
+    EXPECT_EQ(surveys("LR-1|0|0|-60"), "");
+    EXPECT_EQ(surveys("LR-1|9|0|-61"), "");
+    EXPECT_EQ(surveys("LR-1|19|0|61", 3),
+              "dip has another sign than before in its hole: 1 row (3)");
     RowLayout layout = Check::layout(*findTable("survey"), ',');
     layout.positions[2].reset();
-    EXPECT_THROW(RowCheck(*findTable("survey"), layout, {}, {}, {}), Fault) << "azimuth is needed";
+    EXPECT_THROW(RowCheck(*findTable("survey"), layout, {}, {}, RowQuestions()), Fault)
+        << "azimuth is needed";
 }
 
 TEST(RowCheck, SeesIntervalsThatMeet) {
@@ -193,21 +222,75 @@ TEST(RowCheck, TakesValuesAsTheUserChose) {
         {BelowDetection::refused, "<0.01", "0.000000", "Au g/t \"<0.01\" is no number"},
         {BelowDetection::half, "<x", "0.000000", "Au g/t \"<x\" is no number"},
         {BelowDetection::half, "na", "", "Au g/t has a word for no value"},
+        {BelowDetection::half, "-", "", "Au g/t has a word for no value"},
         {BelowDetection::half, "-9999.0", "", "Au g/t has a word for no value"},
         {BelowDetection::half, "1,5", "1.500000", "Au g/t has a decimal comma"},
         {BelowDetection::half, "1,000.5", "0.000000", "Au g/t \"1,000.5\" is no number"},
     };
     const std::vector<std::string> words = {"NA", "-", "-9999"};
     for (const auto &each : cases) {
-        Check assays("assay", ';', {each.belowDetection, words, true});
+        Check assays("assay", ';', {each.belowDetection, words});
         const std::string said = assays(std::string("LR-1|0|1|") + each.text + "|||||");
         EXPECT_EQ(said.find(each.remark), 0U) << said;
         const Value &gold = assays.values[3];
         EXPECT_EQ(gold.isNull ? "" : std::to_string(gold.number), each.gold) << each.text;
     }
-    EXPECT_EQ(Check("assay", ';', {{}, words, true})("LR-1|NA|1||||||"), "fromdepth is empty");
-    EXPECT_EQ(Check("assay", ';', {{}, {}, false})("LR-1|0,5|1||||||"),
+    EXPECT_EQ(Check("assay", ';', {{}, words})("LR-1|NA|1||||||"), "fromdepth is empty");
+    EXPECT_EQ(Check("assay", ';', {{}, {}, DecimalMark::point})("LR-1|0,5|1||||||"),
               "fromdepth \"0,5\" is no number");
+}
+
+TEST(DecimalMarks, AreToldFromThousandsByTheOtherNumbers) {
+    const struct {
+        std::vector<const char *> others; ///< two of the same column, then one of another
+        const char *text;
+        std::optional<double> number;
+        DecimalMark choice = DecimalMark::asShown;
+        char delimiter = ';';
+    } cases[] = {
+        {{}, "1,234", {}},
+        {{}, "-634.210", {}},
+        {{}, "634", 634},
+        {{}, "0,234", 0.234},
+        {{}, "1234,567", 1234.567},
+        {{"0,5"}, "1,234", 1.234},
+        {{"0,5"}, "634.210", {}},
+        {{"12.5"}, "634.210", 634.21},
+        {{"12.5"}, "1,234", {}},
+        {{"0,5", "12.5"}, "1,234", {}},
+        {{"0,5", "12.5"}, "1,5", 1.5},
+        {{"7", "634.210", "0,5"}, "634.210", {}},
+        {{"7", "634.210", "5.5"}, "634.210", 634.21},
+        {{"12.5"}, "1.234,5", {}},
+        {{}, "1,234", 1.234, DecimalMark::comma},
+        {{}, "634.210", {}, DecimalMark::comma},
+        {{}, "634.210", 634.21, DecimalMark::point},
+        {{"0,5"}, "1,5", {}, DecimalMark::point},
+        {{}, "634.210", 634.21, DecimalMark::asShown, ','},
+        {{}, "1,5", {}, DecimalMark::asShown, ','},
+        {{}, "1,5", 1.5, DecimalMark::asShown, '\t'},
+    };
+    for (const auto &each : cases) {
+        DecimalMarks marks(each.choice, each.delimiter, 2);
+        for (std::size_t i = 0; i < each.others.size(); ++i) {
+            marks.learn(i / 2, each.others[i]);
+        }
+        EXPECT_EQ(marks.numberIn(0, each.text), each.number) << each.text;
+    }
+}
+
+TEST(HoleTables, TellOneUnitFromAnother) {
+    const struct {
+        const char *title;
+        const char *grade;
+        std::optional<double> factor;
+    } cases[] = {
+        {"Cu_ppm", "Cu %", 0.0001},  {"Au_ppb", "Au g/t", 0.001}, {"Au ppm", "Au g/t", 1},
+        {"Mo (%)", "Mo ppm", 10000}, {"Cu", "Cu %", {}},          {"length", "Cu %", {}},
+    };
+    for (const auto &each : cases) {
+        EXPECT_EQ(unitFactor(each.title, each.grade), each.factor) << each.title;
+    }
 }
 
 TEST(AsUtf8, TakesOtherBytesForThoseOfWindows) {
@@ -218,26 +301,6 @@ TEST(ParseNumber, TakesWholeNumbersInPlainForm) {
     EXPECT_EQ(parseNumber("-12.50"), -12.5);
     for (const char *text : {"", "+", "+-1", "1,5", "nan", "inf", "0x10", "1e999"}) {
         EXPECT_EQ(parseNumber(text), std::nullopt) << text;
-    }
-}
-
-TEST(StartDelimiter, CutsTheFirstRowsMostEvenly) {
-    const struct {
-        const char *text;
-        std::optional<char> lastUsed;
-        char delimiter;
-    } cases[] = {
-        {"a;b;c\n1,5;2,5;3\n", {}, ';'},
-        {"Hole ID\tFrom (m)\nLR 1\t2\n", {}, '\t'},
-        {"a b   c\n1   2 3\n4 5\n", {}, ' '},
-        {"a|b,x\n1|2\n3|4", {}, '|'},
-        {"a,b\n\"1;2;3\",\"x, y\"\n", ';', ','},
-        {"a,b;c\n1,2;3\n", ';', ';'},
-        {"hole\nLR-1\n", {}, ','},
-        {"", '|', '|'},
-    };
-    for (const auto &each : cases) {
-        EXPECT_EQ(startDelimiter(fileOf(each.text), each.lastUsed), each.delimiter) << each.text;
     }
 }
 

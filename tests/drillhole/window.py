@@ -139,6 +139,15 @@ try:
         import_file("corrected_assays.csv", refused.read().replace(',"x"', ",0.7"))
     expect("the grades", lambda: ask("select sum(au_gt) from assay"), 1.2)
 
+    # The window does not close over an import, which ends when it is cancelled.
+    import_file("assays_more.csv", "BHID,FROM,TO,Au g/t\n" + "".join(f"LR-1,{i},{i + 1},1\n" for i in range(9, 2000000)))
+    shows("push button", "Cancel")
+    hand("key", "alt+F4")
+    shows("label", "An import is running.")
+    click("push button", "Cancel")
+    shows("label", "assays_more.csv was cancelled.")
+    expect("the assays", lambda: ask("select count(*) from assay"), 2)
+
     click("toggle button", "Menu")
     click("menu item", "Open Another Database")
     fill("Open a Database", path("other.sqlite"), "Connect")

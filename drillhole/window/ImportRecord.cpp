@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "drillhole/window/ImportStory.h"
+#include "drillhole/window/ImportRecord.h"
 
 #include "drillhole/rows/text.h"
 
@@ -27,14 +27,14 @@ std::string delimiterName(char delimiter) {
                : "byte " + std::to_string(static_cast<unsigned char>(delimiter));
 }
 
-const char *resultOf(const ImportStory &story) {
-    if (!story.fault.empty()) {
+const char *resultOf(const ImportRecord &record) {
+    if (!record.fault.empty()) {
         return "fault";
     }
-    if (!story.match || story.outcome.isCancelled) {
+    if (!record.match || record.outcome.isCancelled) {
         return "cancel";
     }
-    return story.isDone() ? "ok" : "nothing imported";
+    return record.isDone() ? "ok" : "nothing imported";
 }
 
 std::string nameOf(const ImportSource &source) {
@@ -46,10 +46,48 @@ std::string nameOf(const ImportSource &source) {
 
 } // namespace
 
-std::string summaryOf(const ImportStory &story) {
-    const ImportOutcome &outcome = story.outcome;
-    const std::string source = nameOf(story.source);
-    const std::string before = ". The " + story.table->name + "s are as they were.";
+std::vector<double> unitFactors(const Table &table, const Match &match) {
+    std::vector<double> factors(table.columns.size(), 1);
+    for (std::size_t i = 0; i < factors.size(); ++i) {
+        const Column &column = table.columns[i];
+        if (column.isGrade && match.firstLineHoldsTitles && match.positions[i]) {
+            factors[i] = unitFactor(match.names[i], column.name).value_or(1);
+        }
+    }
+    return factors;
+}
+
+std::string doubtsAbout(const Table &table, const Match &match) {
+    std::string doubts;
+    const std::vector<double> factors = unitFactors(table, match);
+    bool hasValues = !table.hasIntervals;
+    for (std::size_t i = 0; i < factors.size(); ++i) {
+        hasValues = hasValues || (i > 2 && match.positions[i]);
+        if (factors[i] != 1) {
+            doubts += match.names[i] + " is in another unit than " + table.columns[i].name +
+                      ": its values would be " + conversionBy(factors[i]) + ". ";
+        }
+    }
+    return doubts + (hasValues ? ""
+                               : "No column fills a value: each " + table.rowName +
+                                     " would have nothing but a hole and depths. ");
+}
+
+std::string requiredGuesses(const Table &table, const Match &match) {
+    std::string guesses;
+    for (std::size_t i = 0; i < match.areGuesses.size(); ++i) {
+        if (match.areGuesses[i] && table.columns[i].isRequired) {
+            guesses +=
+                (guesses.empty() ? "" : ", ") + table.columns[i].name + " from " + match.names[i];
+        }
+    }
+    return guesses;
+}
+
+std::string summaryOf(const ImportRecord &record) {
+    const ImportOutcome &outcome = record.outcome;
+    const std::string source = nameOf(record.source);
+    const std::string before = ". The table is as it was.";
     if (outcome.isCancelled) {
         return source + " was cancelled" + before;
     }
@@ -76,23 +114,25 @@ std::vector<Remark> remarksOf(const ImportOutcome &outcome, std::size_t mostRefu
     return remarks;
 }
 
-void print(std::ostream &out, const ImportStory &story) {
-    const Match match = story.match.value_or(Match());
-    const ImportOutcome &outcome = story.outcome;
-    out << "import: " << nameOf(story.source) << " into " << story.table->name << '\n'
-        << "result: " << resultOf(story) << '\n';
+void print(std::ostream &out, const ImportRecord &record) {
+    const Match match = record.match.value_or(Match());
+    const ImportOutcome &outcome = record.outcome;
+    out << "import: " << nameOf(record.source) << " into " << record.table->name << '\n'
+        << "result: " << resultOf(record) << '\n';
     if (match.delimiter != '\0') {
         out << "delimiter: " << delimiterName(match.delimiter) << '\n'
             << "first line holds titles: " << (match.firstLineHoldsTitles ? "yes" : "no") << '\n';
     }
     for (std::size_t i = 0; i < match.names.size(); ++i) {
-        out << story.table->columns[i].name << '\t' << match.names[i] << '\n';
+        const bool isGuess = !match.areGuesses.empty() && match.areGuesses[i];
+        out << record.table->columns[i].name << '\t' << match.names[i]
+            << (isGuess ? "\ta guess: similar names" : "") << '\n';
     }
-    if (!story.fault.empty()) {
-        out << story.fault << '\n';
-    } else if (story.match && !outcome.isCancelled) {
+    if (!record.fault.empty()) {
+        out << record.fault << '\n';
+    } else if (record.match && !outcome.isCancelled) {
         out << outcome.question << (outcome.question.empty() ? "" : "\n")
-            << "rows taken: " << (story.isDone() ? outcome.taken : 0) << '\n'
+            << "rows taken: " << (record.isDone() ? outcome.taken : 0) << '\n'
             << "rows refused: " << outcome.refused << '\n';
         for (const Remark &remark : remarksOf(outcome, refusedToPrint)) {
             out << (remark.lines.empty() ? "" : "line " + remark.lines + ": ") << remark.text

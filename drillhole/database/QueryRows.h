@@ -9,12 +9,12 @@
 namespace drillhole {
 
 /// The rows that a database answers a query with, one after the other.
-class Answer {
+class QueryRows {
 public:
     /// @param kinds  what the columns of the answer are read as
-    Answer(soci::session &session, const std::string &query, const std::vector<Kind> &kinds);
-    Answer(const Answer &) = delete;
-    Answer &operator=(const Answer &) = delete;
+    QueryRows(soci::session &session, const std::string &query, const std::vector<Kind> &kinds);
+    QueryRows(const QueryRows &) = delete;
+    QueryRows &operator=(const QueryRows &) = delete;
 
     /// Reads the next row, or returns false if there is none.
     bool next();

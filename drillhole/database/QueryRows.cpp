@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-#include "drillhole/database/Answer.h"
+#include "drillhole/database/QueryRows.h"
 
 namespace drillhole {
 
-Answer::Answer(soci::session &session, const std::string &query, const std::vector<Kind> &kinds)
+QueryRows::QueryRows(soci::session &session, const std::string &query,
+                     const std::vector<Kind> &kinds)
     : m_row(kinds.size()), m_indicators(kinds.size()), m_statement(session) {
     for (std::size_t i = 0; i < kinds.size(); ++i) {
         if (kinds[i] == Kind::number) {
@@ -19,7 +20,7 @@ Answer::Answer(soci::session &session, const std::string &query, const std::vect
     m_statement.execute();
 }
 
-bool Answer::next() {
+bool QueryRows::next() {
     const bool isRead = m_statement.fetch();
     for (std::size_t i = 0; i < m_row.size() && isRead; ++i) {
         m_row[i].isNull = m_indicators[i] == soci::i_null;
