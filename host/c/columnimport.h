@@ -285,7 +285,7 @@ columnimport_exported int32_t columnimport_set_table(columnimport_import *import
  *     columnimport_set_delimiter(import, likely == columnimport_none ? ',' : (char)likely);
  *
  * @param import  the import, for which a file was set
- * @return '\t', ';', '|', ',' or ' '; columnimport_none if none is likely or the file can't be
+ * @return the tab, ';', '|', ',' or ' '; columnimport_none if none is likely or the file can't be
  * read; columnimport_invalid after wrong use, as where no file was set, or if there was no memory
  */
 columnimport_exported int32_t columnimport_likely_delimiter(columnimport_import *import);
