@@ -12,6 +12,7 @@ namespace columnimport {
 
 MatchListKeys::MatchListKeys(ListCtrlSource &list) : m_list(list), m_paste(list.changes()) {
     list.Bind(wxEVT_KEY_DOWN, &MatchListKeys::onKeyDown, this);
+    list.Bind(wxEVT_CHAR_HOOK, &MatchListKeys::onReturn, this);
     list.Bind(wxEVT_CHAR, &MatchListKeys::onCharacter, this);
 }
 
@@ -90,15 +91,6 @@ bool MatchListKeys::edit(const wxKeyEvent &key) {
     case WXK_NUMPAD_DELETE:
         m_list.clearMatches(rows);
         return true;
-    case WXK_RETURN:
-    case WXK_NUMPAD_ENTER: // the control would keep Return for itself
-        if (key.ControlDown()) {
-            m_list.confirm(rows);
-            m_list.changes().run([this] { m_list.goToNextGuess(m_list.currentRow()); });
-        } else {
-            pressOkSoon(m_list);
-        }
-        return true;
     case 'C':
         if (key.ControlDown()) {
             m_list.changes().run([this, row = m_list.currentRow()] { copy(row); });
@@ -127,6 +119,18 @@ void MatchListKeys::onKeyDown(wxKeyEvent &event) {
         markCurrentRow(!event.ControlDown());
     } else {
         event.Skip();
+    }
+}
+
+// The control or the dialog would take Return before it is a key of the list.
+void MatchListKeys::onReturn(wxKeyEvent &event) {
+    if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
+        event.Skip();
+    } else if (event.ControlDown()) {
+        m_list.confirm(m_list.chosenRows());
+        m_list.changes().run([this] { m_list.goToNextGuess(m_list.currentRow()); });
+    } else {
+        pressOkSoon(m_list);
     }
 }
 

@@ -21,6 +21,7 @@ public:
 
 private:
     void onKeyDown(wxKeyEvent &event);
+    void onReturn(wxKeyEvent &event);
     void onCharacter(wxKeyEvent &event);
 
     /// Does what `key` does to the texts of rows; false if it does nothing to them.
