@@ -116,8 +116,10 @@ void ImportLists::offerDelimiter() {
 
 void ImportLists::showStatus() {
     const std::vector<RowMatch> rows = m_matches.rowMatches();
-    m_status.show(StatusLine::source, headerSentence(m_shown->header));
-    m_status.show(StatusLine::guesses, guessSentence(rows));
+    const wxString problem = headerSentence(m_shown->header);
+    m_status.show(StatusLine::source, problem);
+    // There is room for three lines, and names that are cut wrongly are nothing to check.
+    m_status.show(StatusLine::guesses, problem.empty() ? guessSentence(rows) : wxString());
     if (m_hasAskedBack) {
         m_status.show(StatusLine::required,
                       requiredSentence(m_dialog.m_appColumns, m_dialog.m_options->required, rows));

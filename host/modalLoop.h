@@ -17,8 +17,8 @@ void resize(wxDialog &dialog, const wxSize &size);
 /// exception comes out of the dialog.
 int showModal(wxDialog &dialog);
 
-/// Whether `dialog` has still its window. On some platforms it goes with its owner, which the host
-/// may have destroyed during the run.
+/// Whether `dialog` still has its window. On some platforms it is destroyed with its owner, which the
+/// host may have done during the run.
 bool hasWindow(const wxDialog &dialog);
 
 } // namespace columnimport

@@ -6,6 +6,7 @@
 
 #include "person/DialogRun.h"
 #include "person/Screen.h"
+#include "tests/ScratchFile.h"
 
 #include <clocale>
 #include <cstdlib>
@@ -118,6 +119,19 @@ void takeMarks() {
     });
 }
 
+void takeGuesses() {
+    const ScratchFile file("HOLE_ID,From,To,Au g/t,ni_pct\nLR-20-001,0,1.5,0.42,0.11\n"
+                           "LR-20-001,1.5,3,1.07,0.08\n");
+    DialogRun run =
+        runOf("Import assays", {"holename", "fromdepth", "todepth", "Au g/t", "Zn %"}, "");
+    run.fileName = file.path();
+    run.show([](Person &person) {
+        poll("two rows are guesses", [] { return italicRows().size() == 2; });
+        takePicture("guesses");
+        pressCancel(person);
+    });
+}
+
 void takeDelimiter() {
     runOf("Import surveys", surveyColumns, "surveys_fr.csv").show([](Person &person) {
         takePicture("delimiter");
@@ -183,6 +197,7 @@ int main(int argumentCount, char **arguments) {
         takeDrag();
         takeAssignments();
         takeMarks();
+        takeGuesses();
         takeDelimiter();
         takeDelimiterMenu();
         takePositions();
