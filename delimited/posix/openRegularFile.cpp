@@ -11,14 +11,17 @@
 namespace columnimport {
 
 std::FILE *openRegularFile(const std::string &path, std::error_code &fault) {
-    // Some files count as regular and have nothing to read for the time being; a read of one is
-    // not waited for either.
+    // Some files count as regular and have nothing to read for the time being. A read of one must not
+    // wait either.
     const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     struct stat status = {};
     if (descriptor < 0 || fstat(descriptor, &status) != 0) {
         fault = {errno, std::generic_category()};
     } else if (S_ISREG(status.st_mode)) {
-        return fdopen(descriptor, "rb");
+        if (std::FILE *file = fdopen(descriptor, "rb")) {
+            return file;
+        }
+        fault = {errno, std::generic_category()};
     } else if (S_ISDIR(status.st_mode)) {
         fault = std::make_error_code(std::errc::is_a_directory);
     }

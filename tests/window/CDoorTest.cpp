@@ -10,6 +10,7 @@
 
 #include <columnimport.h>
 #include <gtest/gtest.h>
+#include <wx/clipbrd.h>
 
 namespace {
 
@@ -20,6 +21,13 @@ protected:
         for (const char *name : {"hole", "gold"}) {
             columnimport_add_column(import.get(), name);
         }
+    }
+
+    static std::string clipboardText() {
+        const wxClipboardLocker clipboard;
+        wxTextDataObject text;
+        wxTheClipboard->GetData(text);
+        return text.GetText().utf8_string();
     }
 
     std::int32_t show(const Steps &steps) {
@@ -38,14 +46,19 @@ protected:
 
 } // namespace
 
-TEST_F(CDoor, TellsWhichOfEqualTitlesWasDragged) {
+TEST_F(CDoor, TellsWhichOfEqualTitlesWasPasted) {
     EXPECT_EQ(columnimport_show(nullptr, nullptr), columnimport_wrong_use);
     EXPECT_EQ(show([this](Person &person) {
                   EXPECT_EQ(read([this] { return columnimport_show(import.get(), nullptr); }),
                             columnimport_already_open);
                   EXPECT_EQ(read([this] { return columnimport_propose(import.get()); }),
                             columnimport_wrong_use);
-                  person.drag(Person::fileRow(3), Person::matchRow(1));
+                  person.click(Person::fileRow(3));
+                  person.strikeWith(WXK_CONTROL, 'c');
+                  person.click(Person::matchRow(1));
+                  person.strikeWith(WXK_CONTROL, 'v');
+                  poll("it is pasted", [] { return matchTexts()[1] == fileTexts()[3]; });
+                  EXPECT_EQ(read(clipboardText), "Au") << "as other programs get it";
                   person.drag(Person::fileRow(4), Person::matchRow(0));
                   std::filesystem::remove(std::filesystem::u8path(file.path()));
                   person.typeDelimiter(';');

@@ -240,6 +240,7 @@ TEST_F(DragDrop, AssignsByADoubleClickAndNotByADragBesideAClick) {
         };
         person.click(Person::fileRow(0));
         person.drag(Person::fileRow(0), Person::matchRow(3));
+        person.click(Person::fileRow(0));
         texts[3] = "HOLE";
         expectTexts();
         person.drag(Person::fileRow(1), Person::matchRow(4));

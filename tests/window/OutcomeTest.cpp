@@ -84,6 +84,15 @@ TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
         run.show(expectFrame);
         run.showTable({"BHID"}, expectFrame);
     }
+    run.width = -1;
+    run.height = -1;
+    run.show([](Person &person) {
+        waitUntil("the frame fits the controls", [] {
+            const wxSize size = frameOfDialog().GetSize();
+            return size.x > 800 && size.y > 750 && size.y < 900;
+        });
+        person.strike(WXK_ESCAPE);
+    });
 }
 
 TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpenAndItsPeerReplacesNothing) {

@@ -117,6 +117,9 @@ void expectToTake(const Route &route, const std::string &path) {
             step.action(person);
             expectShown(step.shown, route.name);
         }
+        if (isTable) {
+            EXPECT_EQ(sentence(), "") << route.name;
+        }
         if (!isTable) {
             delimiter = read(
                 [] { return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue(); });

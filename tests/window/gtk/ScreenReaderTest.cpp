@@ -11,7 +11,7 @@
 #include <gtest/gtest.h>
 
 TEST(ScreenReader, ReadsAndOperatesTheDialogWithoutAPointerOrKeys) {
-    const ScratchFile file("HOLE,AU,CU\n");
+    const ScratchFile file("HOLE,AU,CU,COPER\n");
     DialogRun run;
     run.fileName = file.path();
     run.appColumns = {"hole", "gold", "copper"};
@@ -21,5 +21,5 @@ TEST(ScreenReader, ReadsAndOperatesTheDialogWithoutAPointerOrKeys) {
     run.matches.resize(100, "HOLE");
     EXPECT_TRUE(run.show([](Person &) { EXPECT_EQ(std::system(SCREEN_READER), 0); }));
     run.matches.resize(3);
-    EXPECT_EQ(run.matches, (Names{"HOLE", "CU", "CU"}));
+    EXPECT_EQ(run.matches, (Names{"HOLE", "", "COPER"}));
 }

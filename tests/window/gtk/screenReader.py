@@ -133,4 +133,7 @@ expect("the current row without the keys", lambda: states(row(2)), ofRow | {"sho
 wanted = {("focused", "list", 1), ("focused", "list", 0), ("focused", 0, 1), ("focused", 0, 0),
           ("selected", 0, 1), ("selected", 2, 0), ("accessible-name", 2, 0)}
 expect("what is noted", lambda: wanted - noted, set())
+act(find("push button", "Reset to Default"), "click")
+expect("a guess", lambda: names(rows)[:3],
+       ["hole: HOLE", "gold: Not used", "copper: COPER, a guess"])
 act(find("push button", "OK"), "click")
