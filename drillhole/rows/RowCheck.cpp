@@ -154,9 +154,9 @@ bool RowCheck::mayBeCutInANumber(const Row &row) const {
     return false;
 }
 
-std::string RowCheck::takeValue(std::size_t number, std::string_view text, Value &value) {
-    const Column &column = m_table.columns[number];
-    const bool isWord = number > 0 && isNoValue(number, text);
+std::string RowCheck::takeValue(std::size_t place, std::string_view text, Value &value) {
+    const Column &column = m_table.columns[place];
+    const bool isWord = place > 0 && isNoValue(place, text);
     value.isNull = text.empty() || isWord;
     if (isWord) {
         m_found.push_back(column.name + " has a word for no value, left empty");
@@ -165,7 +165,7 @@ std::string RowCheck::takeValue(std::size_t number, std::string_view text, Value
         return column.isRequired ? column.name + " is empty" : std::string();
     }
     if (column.kind == Kind::number) {
-        return takeNumber(number, text, value);
+        return takeNumber(place, text, value);
     }
     value.text = asUtf8(text);
     return value.text.find('\0') == std::string::npos ? std::string()

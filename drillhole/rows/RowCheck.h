@@ -92,8 +92,8 @@ public:
 private:
     std::string checkLayout(const Row &row);
     bool mayBeCutInANumber(const Row &row) const;
-    std::string takeValue(std::size_t column, std::string_view text, Value &value);
-    std::string takeNumber(std::size_t column, std::string_view text, Value &value);
+    std::string takeValue(std::size_t place, std::string_view text, Value &value);
+    std::string takeNumber(std::size_t place, std::string_view whole, Value &value);
     bool isNoValue(std::size_t column, std::string_view text) const;
     std::string checkHole(const std::vector<Value> &values);
     std::string checkCollar(const std::vector<Value> &values);
