@@ -6,14 +6,14 @@
 
 namespace columnimport {
 
-/// What becomes of the mark that some programs put in front of a file in UTF-8.
+/// How a byte-order mark at the start of a UTF-8 file is treated.
 enum class ByteOrderMark : unsigned char {
     kept,   ///< it is a part of the first line
     dropped ///< it is no part of anything
 };
 
-/// Takes the mark off the first line of a file, if it has one and is to lose it.
-inline void treatMark(std::string &firstLine, ByteOrderMark mark) {
+/// Removes a byte-order mark from the first line of a file if `mark` asks for it.
+inline void removeUnwantedMark(std::string &firstLine, ByteOrderMark mark) {
     constexpr const char *bytes = "\xEF\xBB\xBF";
     if (mark == ByteOrderMark::dropped && firstLine.compare(0, 3, bytes) == 0) {
         firstLine.erase(0, 3);

@@ -22,7 +22,7 @@ std::string SourceFile::readLine(std::size_t most) {
         endedByLineFeed = end < m_unread.size();
         m_unread.remove_prefix(endedByLineFeed ? end + 1 : end);
     }
-    // Dropped here, as only one platform's text mode would.
+    // Only one platform's text mode would drop it.
     if (endedByLineFeed && length == line.size() && !line.empty() && line.back() == '\r') {
         line.pop_back();
     }

@@ -14,9 +14,9 @@ namespace columnimport {
 
 /// A delimited file, open for reading only and shared with other programs, read line by line.
 ///
-/// `path` is UTF-8. Anything but a regular file (a folder, a device, a pipe) counts as a file that
-/// can't be opened. What has nothing to read for the time being fails instead of being waited for;
-/// a disk or a network that does not answer is waited for. Lines are read alike on every platform.
+/// `path` is UTF-8. A folder, a device or a pipe counts as a file that can't be opened. A read
+/// fails if there is nothing to read yet, instead of waiting; only a slow disk or network makes it
+/// wait. Lines are read alike on every platform.
 class SourceFile {
 public:
     explicit SourceFile(const std::string &path);
@@ -27,15 +27,14 @@ public:
     /// The system's reason why the file is not readable, if it has one.
     std::error_code fault() const { return m_fault; }
 
-    /// Whether a read has met the end of the file. Never so before the first read, and never for a
-    /// file that can't be opened.
+    /// Whether a read has met the end of the file. False before the first read, and for a file that
+    /// can't be opened.
     bool isAtEnd() const { return m_isAtEnd; }
 
-    /// All bytes up to the next line feed, which is consumed and not returned, nor is one carriage
-    /// return directly before it. At the end of the file, or if reading fails, an empty line.
+    /// All bytes up to the next line feed, without the line feed itself and without one carriage
+    /// return directly before it. An empty line at the end of the file, or if reading fails.
     ///
-    /// Of a longer line only the first `most` bytes are returned, and no more of it is kept in
-    /// memory.
+    /// Only the first `most` bytes of a longer line are returned and kept in memory.
     std::string readLine(std::size_t most = std::string::npos);
 
 private:

@@ -11,9 +11,9 @@ namespace columnimport {
 /// Opens the file `path` (UTF-8) for reading, byte for byte and shared with other programs. The
 /// caller closes it.
 ///
-/// Does not wait for what stands behind the path, and looks at what it has opened: anything but a
-/// regular file (a folder, a device, a pipe) is closed again. Then, and if nothing could be opened,
-/// gives null, and in `fault` the system's reason if it has one.
+/// Does not wait for the file's content. Anything but a regular file (a folder, a device, a pipe)
+/// is closed again. Returns null then, and if the file can't be opened, with the system's reason in
+/// `fault` if it has one.
 std::FILE *openRegularFile(const std::string &path, std::error_code &fault);
 
 } // namespace columnimport

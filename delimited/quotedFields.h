@@ -8,12 +8,12 @@
 
 namespace columnimport {
 
-/// For each field that splitLine cuts off `line`, in order: the number of the field in which a
-/// reader that honours double quotes has it; -1 where such readers would not agree.
+/// The number of the field, for a reader that honours double quotes, of each field that splitLine
+/// cuts off `line`, in order; -1 where such readers disagree.
 ///
-/// To these readers a field that begins with a double quote goes on to the next one that is not
-/// doubled, and delimiters in it are text; elsewhere in a field a double quote is a byte like any
-/// other. They take a run of tabs for as many delimiters. They don't agree behind
+/// These readers take a field that begins with a double quote up to the next one that is not
+/// doubled, and delimiters in it as text; elsewhere in a field a double quote is an ordinary byte.
+/// They take a run of tabs for as many delimiters. They disagree after
 /// - a delimiter between quotes that follow blanks, `a, "b,c"`,
 /// - a delimiter between quotes of which the second one is missing, `a,"b,c`,
 /// - a field with text behind its closing quote, `"a"b,c`,

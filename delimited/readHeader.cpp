@@ -16,7 +16,7 @@ Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     Header header;
     SourceFile file(path);
     std::string line = file.readLine();
-    treatMark(line, mark);
+    removeUnwantedMark(line, mark);
     header.reason = file.fault();
     if (!file.isReadable()) {
         return header;
@@ -39,7 +39,7 @@ Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     return header;
 }
 
-// The system speaks the person's language in the locale's encoding, which may be another one.
+// The system's message is in the locale's encoding, which may not be UTF-8.
 std::string problemOf(const Header &header) {
     if (header.firstLine != FirstLine::unreadable) {
         return {};

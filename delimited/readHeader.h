@@ -22,7 +22,7 @@ enum class FirstLine : unsigned char {
     unreadable,  ///< the file can't be opened or read
 };
 
-/// The columns that the first line of a file names, and why there are none, or one alone.
+/// The columns in the first line of a file, and why there are none, or only one.
 struct Header {
     std::vector<std::string> columns;
     std::vector<std::int32_t> fields; ///< by column, as quotedFields has them

@@ -12,7 +12,7 @@ std::string readPreview(const std::string &path, std::size_t most, ByteOrderMark
     for (int line = 0; line < previewLines && !file.isAtEnd(); ++line) {
         preview += file.readLine(most);
         if (line == 0) {
-            treatMark(preview, mark);
+            removeUnwantedMark(preview, mark);
         }
         preview += '\n';
     }

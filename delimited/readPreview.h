@@ -9,11 +9,11 @@
 
 namespace columnimport {
 
-/// The number of lines that a preview holds at most.
+/// The greatest number of lines in a preview.
 inline constexpr int previewLines = 10;
 
-/// The first ten lines of the file `path` (UTF-8) as raw bytes, each followed by one line feed. Of
-/// a longer line, the first `most` bytes.
+/// The first ten lines of the file `path` (UTF-8) as raw bytes, each followed by one line feed. A
+/// longer line is cut after `most` bytes.
 ///
 /// A file that ends with a line feed before its tenth line gives one more, empty line; a file that
 /// can't be opened gives ten empty ones.

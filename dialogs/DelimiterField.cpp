@@ -47,7 +47,7 @@ DelimiterField::DelimiterField(wxWindow *parent, wxWindowID id, char delimiter, 
     Bind(wxEVT_CONTEXT_MENU, &DelimiterField::onContextMenu, this);
 }
 
-// Behind the control's own answer, which puts the cursor somewhere.
+// After the control's own response, which moves the cursor.
 void DelimiterField::selectSoon() {
     CallAfter([this] { SelectAll(); });
 }

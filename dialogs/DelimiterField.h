@@ -6,11 +6,10 @@
 
 namespace columnimport {
 
-/// The field for the delimiter: one character, taken as it stands.
+/// The field for the delimiter: one character, taken literally.
 ///
-/// Whoever comes into it, by a click or by Tab, has selected what is there, so that the next
-/// character replaces it. Its menu offers the usual delimiters by name: by the right button, the
-/// menu key or the arrow down.
+/// A click into it or Tab selects its character, so that the next one replaces it. Its menu offers
+/// the usual delimiters by name: press the right button, the menu key or the arrow down.
 class DelimiterField : public wxTextCtrl {
 public:
     DelimiterField(wxWindow *parent, wxWindowID id, char delimiter, const wxSize &size);
@@ -20,7 +19,7 @@ private:
     void onKeyDown(wxKeyEvent &event);
     void onContextMenu(wxContextMenuEvent &event);
 
-    /// Shows the menu at `position` in the field, and takes what is chosen as if it were typed.
+    /// Shows the menu at `position` in the field, and takes the choice as if it were typed.
     void offer(const wxPoint &position);
 };
 

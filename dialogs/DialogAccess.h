@@ -22,10 +22,10 @@ struct DialogAccess {
     /// The matches as the match list shows them, one for each row.
     static std::vector<SourceMatch> matches(wxImportCSVDialog &dialog);
 
-    /// Takes the columns of the source out of a dialog that has ended, as they were cut last.
+    /// Moves the columns of the source, as they were cut last, out of a dialog that has ended.
     static std::vector<std::string> takeSourceColumns(wxImportCSVDialog &dialog);
 
-    /// What came of the file's first line, but for its columns.
+    /// The report on the file's first line, without its columns.
     static const Header &header(const wxImportCSVDialog &dialog);
 };
 

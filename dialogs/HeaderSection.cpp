@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The half of the dialog that only a delimited file needs: the preview of the file, and the options
-// that say how it is cut.
+// The half of the dialog that only a delimited file needs: the preview and the options.
 
 #include "dialogs/wxImportCSVDialog.h"
 
@@ -52,7 +51,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     auto *options = new wxStaticBoxSizer(wxVERTICAL, this, translated("Options"));
     auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
     auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("File Preview"));
-    // A second time, the toolkit would complain of each handler that it has already.
+    // The toolkit would warn about each handler that it has already.
     static std::once_flag imageHandlers;
     std::call_once(imageHandlers, wxInitAllImageHandlers);
     sizer->Add(preview, wxSizerFlags().Border(wxALL, scale(10)));

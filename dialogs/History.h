@@ -8,12 +8,12 @@
 
 namespace columnimport {
 
-/// What Ctrl+Z takes back and Ctrl+Y does again.
+/// The changes that Ctrl+Z undoes and Ctrl+Y redoes.
 ///
-/// A step is an exchange: it puts the state that it keeps in the place of the present one and keeps
-/// that instead. Carried out once it undoes, and once more it does again. What is written into
-/// rows is a step that keeps these rows' texts. A refresh, which fills both lists anew, begins the
-/// history anew, with itself as the first step; that one keeps all that the refresh replaced:
+/// A step is an exchange: it swaps the state that it keeps with the present one. Run once it
+/// undoes, run again it redoes. A write into rows is a step that keeps the rows' matches. A refresh
+/// starts the history afresh, with itself as the first step, which keeps all that the refresh
+/// replaced:
 ///
 ///     a person                  steps                              Ctrl+Z then gives
 ///     drops Au on gold          [gold]                             gold as it was
@@ -25,13 +25,13 @@ class History {
 public:
     using Exchange = std::function<void()>;
 
-    /// Appends a step that has just been done. What was undone before it can't be done again.
+    /// Appends a step that has just been done. Steps undone before it are lost.
     void add(Exchange step);
 
     /// Forgets all steps.
     void clear();
 
-    /// Undoes the last step that is not undone, or does the next one again, if there is one.
+    /// Undoes the last step, or redoes the next one, if there is one.
     void undo();
     void redo();
 

@@ -50,7 +50,7 @@ void ImportLists::makeRoom() {
 }
 
 void ImportLists::refresh(const std::vector<ColumnMatch> &opening) {
-    // A text on its way was meant for the rows that are about to go.
+    // A text that is still on its way was meant for the old rows.
     m_matches.changes().clear();
     m_history.clear();
     makeRoom();
@@ -107,7 +107,7 @@ void ImportLists::show() {
 void ImportLists::offerDelimiter() {
     const std::optional<LikelyDelimiter> &likely = m_shown->header.likely;
     m_status.offer(likely ? offerOf(likely->delimiter) : wxString(), [this, likely] {
-        // As if it were typed into the field, which keeps the keys when the button goes.
+        // As if it were typed. The field takes the focus, since the button disappears.
         auto &field = *findControl<wxTextCtrl>(m_dialog, wxImportCSVDialog::TXT_DELIMITER);
         field.SetFocus();
         field.SetValue(wxString(likely->delimiter));
@@ -118,7 +118,7 @@ void ImportLists::showStatus() {
     const std::vector<RowMatch> rows = m_matches.rowMatches();
     const wxString problem = headerSentence(m_shown->header);
     m_status.show(StatusLine::source, problem);
-    // There is room for three lines, and names that are cut wrongly are nothing to check.
+    // The line has room for three lines, and guesses from wrongly cut names need no check.
     m_status.show(StatusLine::guesses, problem.empty() ? guessSentence(rows) : wxString());
     if (m_hasAskedBack) {
         m_status.show(StatusLine::required,

@@ -33,8 +33,8 @@ public:
                 StatusLine &status);
     ~ImportLists() override;
 
-    /// Empties both lists if they show names as large as a file, so that a refresh does not hold
-    /// them once more.
+    /// Empties both lists if they show names as large as a file, so that a refresh does not keep
+    /// two copies.
     void makeRoom();
 
     /// Fills both lists from the dialog's members and with the matches `opening`. The history
@@ -46,10 +46,11 @@ private:
     void show();
     void showStatus();
 
-    /// Offers the delimiter that the first line contains in the place of the one that it does not.
+    /// Offers the delimiter that the first line contains, if it lacks the present one.
     void offerDelimiter();
 
-    /// Puts `other` in the place of what is shown, in the dialog's members too, and keeps what was.
+    /// Shows `other` instead of the present import, restores the dialog's members from it, and
+    /// keeps the present one in it.
     void exchange(std::shared_ptr<ShownImport> &other);
 
     void onRowsChanged(const std::vector<long> &rows);

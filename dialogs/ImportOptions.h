@@ -9,8 +9,8 @@
 
 namespace columnimport {
 
-/// What a host may ask of a dialog beyond the arguments of its constructor. The lists are by
-/// application column and may be shorter.
+/// The host's options beyond the arguments of the constructor. The lists are by application column
+/// and may be shorter.
 struct ImportOptions {
     std::vector<std::vector<std::string>> alternatives;
     std::vector<bool> required;

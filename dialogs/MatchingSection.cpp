@@ -87,7 +87,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
 
     columnimport::fitToScreen(*this, *sizer);
     SetSizerAndFit(sizer);
-    // In a smaller frame the controls keep their sizes too, and are cut off by it.
+    // In a smaller frame the controls keep their sizes and are cut off.
     SetVirtualSize(sizer->GetMinSize());
     wxCommandEvent refresh;
     onCheckHeader(refresh);

@@ -11,8 +11,8 @@
 
 namespace columnimport {
 
-/// What both lists of a dialog show and all that they were filled from. A refresh replaces it as a
-/// whole; undo puts the one before in its place.
+/// What both lists show, and all that they were filled from. A refresh replaces it as a whole; undo
+/// restores the one before.
 ///
 ///     delimiter   comma, in the place of the semicolon that the dialog has now
 ///     names       BHID and Depth, in the place of "BHID,Depth"
@@ -25,7 +25,7 @@ struct ShownImport {
     ShownNames names;
     std::vector<RowMatch> rows; ///< while the lists show another import; else the lists have them
 
-    /// Whether undo may keep it. Names as large as a file would stand in memory once more.
+    /// Whether undo may keep it. Names as large as a file would stay in memory.
     bool isSmallEnoughToKeep() const {
         constexpr std::size_t most = 16U << 20U;
         std::size_t bytes = 0;

@@ -14,7 +14,7 @@ namespace columnimport {
 
 namespace {
 
-// Behind the last of the dialog's own.
+// After the last of the dialog's own identifiers.
 constexpr int textId = 11;
 constexpr int buttonId = 12;
 
@@ -50,7 +50,7 @@ void StatusLine::offer(const wxString &label, std::function<void()> take) {
         return;
     }
     if (m_button != nullptr) {
-        // It may be in the middle of its own click.
+        // The button may be handling its own click.
         Detach(m_button);
         m_button->Hide();
         m_button->CallAfter([button = m_button] { button->Destroy(); });

@@ -12,10 +12,9 @@ class wxStaticText;
 
 namespace columnimport {
 
-/// The line in which a dialog tells what a person should know, in the room that the controls leave
-/// free. It has one sentence per topic, in the order of the topics, and a button for what a
-/// sentence offers. It asks for no room, so that nothing moves when a sentence comes or goes. A
-/// screen reader announces what is new.
+/// The status line of a dialog, in the space that the controls leave free. It has one sentence per
+/// topic, in the order of the topics, and a button for an offer. It requests no space, so that
+/// nothing moves when a sentence comes or goes. A screen reader announces each change.
 ///
 ///     status.show(StatusLine::source, "The file is empty.");
 ///     status.show(StatusLine::source, {}); // takes the sentence back
@@ -27,7 +26,7 @@ public:
 
     void show(Topic topic, const wxString &sentence);
 
-    /// Shows a button that calls `take`; an empty label takes it away.
+    /// Shows a button that calls `take`; an empty label removes it.
     void offer(const wxString &label, std::function<void()> take);
 
     wxSize CalcMin() override;
@@ -41,8 +40,7 @@ private:
     std::function<void()> m_take; // what the button does
 };
 
-/// How the line is added to a row of controls: in the room that they leave, `gap` pixels beside
-/// them.
+/// The flags with which the line is added to a row of controls, `gap` pixels beside them.
 wxSizerFlags besideControls(int gap);
 
 } // namespace columnimport

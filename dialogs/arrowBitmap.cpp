@@ -10,8 +10,8 @@
 
 namespace columnimport {
 
-// With an alpha channel for its mask: of a bitmap that has a mask, the toolkit keeps one more
-// picture for each control that ever showed it.
+// Uses an alpha channel, since the toolkit leaks one picture of a masked bitmap for each control
+// that shows it.
 wxBitmap arrowBitmap(const wxWindow &window, const wxSize &size) {
     wxImage arrow(arrow_xpm);
     arrow.InitAlpha();

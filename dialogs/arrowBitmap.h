@@ -8,8 +8,7 @@ class wxWindow;
 
 namespace columnimport {
 
-/// The picture of the arrow that stands between the two lists, in the size `size` and the colour
-/// that text has in `window`.
+/// The arrow between the two lists, of this `size` and in the text colour of `window`.
 wxBitmap arrowBitmap(const wxWindow &window, const wxSize &size);
 
 } // namespace columnimport

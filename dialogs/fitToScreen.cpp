@@ -17,8 +17,7 @@ namespace columnimport {
 
 namespace {
 
-/// Takes from the height of both lists what is missing, as far as it leaves five rows and the
-/// headings, and returns the rest.
+/// Lowers both lists by `missing`, but leaves five rows and the headings; returns the rest.
 int lowerLists(wxWindow &files, wxWindow &matches, int missing) {
     const int least = Scale(matches)(150);
     const int lower = std::min(missing, matches.GetMinSize().y - least);
@@ -28,7 +27,7 @@ int lowerLists(wxWindow &files, wxWindow &matches, int missing) {
     return missing - lower;
 }
 
-/// Takes as many lines from the preview as are missing; one stays.
+/// Removes as many lines from the preview as are missing; one stays.
 void lowerPreview(wxStaticText &preview, int missing) {
     const int lineHeight = preview.GetCharHeight();
     const int lines = std::max((preview.GetMinSize().y - missing) / lineHeight, 1);
@@ -38,8 +37,8 @@ void lowerPreview(wxStaticText &preview, int missing) {
     preview.SetMinSize(wxSize(preview.GetMinSize().x, lines * lineHeight));
 }
 
-/// Takes from the width of the match list what is missing, as far as it leaves a third, and from
-/// both columns half of it.
+/// Narrows the match list by `missing`, but leaves a third, and each of its columns by half of
+/// that.
 void narrowMatches(wxListCtrl &matches, int missing) {
     const wxSize size = matches.GetMinSize();
     const int narrower = std::min(missing, size.x * 2 / 3);
@@ -49,7 +48,7 @@ void narrowMatches(wxListCtrl &matches, int missing) {
     }
 }
 
-/// Of a row that asks for a width, takes what is missing.
+/// Narrows each row that requests a width.
 void letRowsBeNarrower(wxSizer &sizer, int missing) {
     for (const wxSizerItem *item : sizer.GetChildren()) {
         if (wxSizer *row = item->GetSizer()) {

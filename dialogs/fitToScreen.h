@@ -7,7 +7,7 @@
 namespace columnimport {
 
 /// The content of a dialog, from top to bottom. If the frame is wider than the screen, the items at
-/// the right are in view all the same.
+/// the right edge stay in view.
 class ScreenColumn : public wxBoxSizer {
 public:
     explicit ScreenColumn(const wxWindow &dialog);
@@ -18,10 +18,9 @@ private:
     int m_room;
 };
 
-/// Makes the items of `sizer` lower and narrower if the screen has no room for them below and
-/// beside the place of `dialog`, so that the options and the buttons are in view: both lists lose
-/// height down to five rows, then the preview loses lines; the match list and the preview lose
-/// width.
+/// Shrinks the items of `sizer` if the screen has no room for them below and beside the place of
+/// `dialog`, so that the options and buttons are in view: both lists lose height down to five rows,
+/// then the preview loses lines; the match list and the preview lose width.
 void fitToScreen(wxWindow &dialog, wxSizer &sizer);
 
 } // namespace columnimport

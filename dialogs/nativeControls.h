@@ -7,12 +7,12 @@ class wxTextCtrl;
 
 namespace columnimport {
 
-// What the toolkit leaves to the platform's own controls. Each platform has a file of its own.
+// Settings of native controls that the toolkit lacks. Each platform has a file of its own.
 
-/// Makes the one character readable in a text control that is lower than the platform's own.
+/// Makes the character readable in a text control that is lower than usual.
 void fitOneCharacter(wxTextCtrl &control);
 
-/// Cuts the lines of a static text at its right edge instead of wrapping them or drawing beyond it.
+/// Cuts the lines of a static text at its right edge, so that they neither wrap nor overflow.
 void cutLongLines(wxStaticText &text);
 
 } // namespace columnimport

@@ -10,9 +10,8 @@ class wxWindow;
 
 namespace columnimport {
 
-/// The scale of the layout. All its figures are pixels where fonts are laid out at 96 dots an inch,
-/// and are used as they are there. Where a person has larger or smaller fonts the whole layout
-/// follows.
+/// The scale of the layout. All its figures are pixels at 96 dots an inch, the usual resolution of
+/// fonts. If a person has larger or smaller fonts, the whole layout follows.
 ///
 ///     Scale scale(*this); // fonts at 144 dots an inch
 ///     scale(10) == 15

@@ -17,7 +17,7 @@ namespace columnimport {
 
 namespace {
 
-/// What is offered in the place of a delimiter that the first line does not contain.
+/// An offer for a delimiter that the first line contains.
 struct Offer {
     char delimiter;
     Plural count;

@@ -13,9 +13,9 @@ namespace columnimport {
 
 struct Header;
 
-// The sentences of the status line. Each is empty if there is nothing to say.
+// The sentences of the status line. Each is empty if there is nothing to report.
 
-/// Why the first line of a file gives no columns, or one alone, and the delimiter that it contains
+/// Why the first line of a file gives no columns or only one, and which delimiter it contains
 /// instead.
 wxString headerSentence(const Header &header);
 
@@ -25,8 +25,8 @@ wxString offerOf(char delimiter);
 /// How many of `rows` are guesses, and how they look.
 wxString guessSentence(const std::vector<RowMatch> &rows);
 
-/// What OK asks about columns that the host requires: the first of them that has no match, or else
-/// the first source column that is matched to two application columns. Always empty if no column is
+/// The question that OK asks about required columns: the first one without a match, or else the
+/// first source column that is matched to two application columns. Always empty if no column is
 /// required.
 ///
 /// @param appColumns the application columns

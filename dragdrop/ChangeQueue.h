@@ -8,8 +8,8 @@
 
 namespace columnimport {
 
-/// The order of a person's changes to the matching. While a text is on its way from the clipboard
-/// the queue is held, and later changes wait behind it:
+/// Keeps a person's changes to the matching in order. While a text is on its way from the clipboard
+/// the queue is held, and later changes wait:
 ///
 ///     a person       the queue                        row 0 reads
 ///     Control, V     held for the text                HOLE
@@ -21,17 +21,17 @@ public:
     using Change = std::function<void()>;
     using Hold = std::weak_ptr<void>;
 
-    /// Makes `change` at once, or after those that wait already.
+    /// Runs `change` at once, or after those that are waiting.
     void run(Change change);
 
     /// Makes later changes wait. The result expires with `release`, `clear` or the queue's end.
     Hold hold();
     bool isHeld() const { return m_hold != nullptr; }
 
-    /// Ends the hold: makes `first`, then the changes that wait.
+    /// Ends the hold: runs `first`, then the waiting changes.
     void release(const Change &first);
 
-    /// Ends the hold and drops the changes that wait.
+    /// Ends the hold and drops the waiting changes.
     void clear();
 
 private:

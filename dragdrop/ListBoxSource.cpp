@@ -59,7 +59,7 @@ wxString ListBoxSource::GetString(unsigned row) const {
     return m_names[row];
 }
 
-// The control is not told of the press, so it does not take the focus by itself.
+// The control does not see the press, so it does not take the focus by itself.
 void ListBoxSource::onLeftDown(wxMouseEvent &event) {
     SetFocus();
     const int row = HitTest(event.GetPosition());

@@ -17,10 +17,10 @@ namespace columnimport {
 
 /// The list of file columns, from which names are dragged onto rows of the match list.
 ///
-/// It handles the left button itself: a press selects the entry under it, and the first move with
-/// the button down over an entry drags that entry's text. A double click picks the entry. Nothing
-/// of this changes the list. A check mark stands before each name that the match list holds; it is
-/// no part of the entry's text.
+/// It handles the left button itself: a press selects an entry, and the first move with the button
+/// down over an entry drags its text. A double click picks an entry. None of this changes the list.
+/// A check mark stands before each name that the match list holds; it is not part of the entry's
+/// text.
 class ListBoxSource : public wxListBox {
 public:
     ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);

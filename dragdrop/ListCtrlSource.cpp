@@ -90,7 +90,7 @@ bool ListCtrlSource::isGuess(long row) const {
 }
 
 void ListCtrlSource::applyMatchFont(long row) {
-    // A row that never had a font of its own gives an invalid one in some list controls.
+    // Some list controls return an invalid font for a row that was never given one.
     wxFont font = GetItemFont(row);
     if (!font.IsOk()) {
         font = GetFont();
@@ -150,7 +150,7 @@ void ListCtrlSource::exchange(const Rows &rows, std::vector<RowMatch> &matches) 
 }
 
 void ListCtrlSource::assign(const wxString &text) {
-    // The marks are the person's choice now; the rest is settled when the turn comes.
+    // The marks count as they are now; the current row counts when the change is made.
     m_changes.run([this, text, marked = markedRows()] {
         const auto unused = [this](long row) { return isUnused(row); };
         Rows rows = marked.empty() ? chosenRows() : marked;
@@ -280,8 +280,8 @@ ListCtrlSource::Rows ListCtrlSource::chosenRows() const {
     return rows;
 }
 
-// The press is kept from the control, whose own selection would mix with the marks; so it does not
-// take the focus by itself.
+// The control does not see the press, since its own selection would mix with the marks; so it does
+// not take the focus by itself.
 void ListCtrlSource::onLeftDown(wxMouseEvent &) {
     SetFocus();
 }
@@ -345,7 +345,7 @@ void ListCtrlSource::showTip(const wxPoint &position, long row) {
     while (position.x >= right && column + 1 < GetColumnCount()) {
         right += GetColumnWidth(++column);
     }
-    // The list keeps some pixels free at both ends of a text.
+    // The list leaves some pixels free at both ends of a text.
     tipWhereCut(*this, GetItemText(row, column), GetColumnWidth(column) - GetCharWidth());
 }
 

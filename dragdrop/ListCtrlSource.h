@@ -22,10 +22,11 @@ namespace columnimport {
 
 /// The match list: one row per application column, with the matched file column's name in its first
 /// column. The rows are the only record of the current matching. They hold shown texts; `names`
-/// knows the bytes that these stand for. A row in bold reads "Not used", one in italics is a guess.
+/// maps them to bytes. A row in bold reads "Not used", a row in italics is a guess.
 ///
-/// `write` is the only way in which a person's change reaches a row, whether by drop, key, double
-/// click or paste. The list tells its listeners of every change, and knows none of them.
+/// A person's changes reach the rows only through `write`, `assign` and `confirm`, whether by drop,
+/// key, double click or paste. The list reports every change to its listeners, and knows none of
+/// them.
 ///
 /// A row has three states, independent of each other:
 ///  - marked: it belongs to the user's multiple selection. A click marks one row, Control adds a
@@ -72,16 +73,16 @@ public:
 
     // ---- Changing them ----
 
-    /// Writes a text into `rows` in its turn, as chosen by the person. Rows that hold it already
-    /// and rows that are no longer there are left out; if none is left, nothing has happened.
+    /// Writes a text into `rows` as the person's choice, in its turn. Skips rows that hold it
+    /// already and rows that are gone; if none is left, nothing changes.
     void write(const Rows &rows, const wxString &text);
 
     /// The same with the text of "Not used".
     void clearMatches(const Rows &rows) { write(rows, m_names->textOf(ShownNames::noColumn)); }
 
     /// Writes a text into the marked rows or else the current one; before any row was chosen, into
-    /// the first that reads "Not used". Then the next such row is the current one and no row is
-    /// marked, so that a person goes on with the next name.
+    /// the first that reads "Not used". Then makes the next such row the current one and clears the
+    /// marks, ready for the next name.
     void assign(const wxString &text);
 
     /// Makes the guesses in `rows` the person's choice.
@@ -90,11 +91,11 @@ public:
     /// The queue in which all these changes are made.
     ChangeQueue &changes() { return m_changes; }
 
-    /// Calls `changed` whenever rows have been written, also by undo.
+    /// Calls `changed` after rows have been written, by undo too.
     void onChange(std::function<void(const Rows &)> changed) { m_changed = std::move(changed); }
 
-    /// Calls `written` whenever a person's change has been made. The step exchanges what the rows
-    /// held before with what they hold: run once it undoes the change, run again it does it again.
+    /// Calls `written` after a change by the person. The step swaps the rows' matches with those
+    /// before: run once it undoes the change, run again it redoes it.
     void onWrite(std::function<void(std::function<void()> step)> written) {
         m_written = std::move(written);
     }
@@ -106,8 +107,8 @@ public:
     int countMarkedRows() const { return static_cast<int>(markedRows().size()); }
     Rows markedRows() const;
 
-    /// Marks the rows from `one` to `other`, both included, in either order. Rows behind the last
-    /// one are left out.
+    /// Marks the rows from `one` to `other`, both included, in either order. Ignores rows behind
+    /// the last one.
     void markRows(long one, long other);
 
     void clearHoverRows();
@@ -124,10 +125,10 @@ public:
     /// Makes `row` the current one and brings it into view; the anchor of the keys stays.
     void moveTo(long row);
 
-    /// The same, with the anchor at `row`, and shows it as the row under the pointer is shown.
+    /// The same, moves the anchor to `row`, and highlights the row.
     void goTo(long row);
 
-    /// The same for the next guess behind `row`, if there is one, and no row is marked any more.
+    /// Goes to the next guess behind `row`, if there is one, and clears the marks.
     void goToNextGuess(long row);
 
     /// The marked rows, or else the current one, or none before a row was chosen.
@@ -142,9 +143,8 @@ public:
     /// The row that is being dragged, or wxNOT_FOUND.
     long draggedRow() const { return m_draggedRow; }
 
-    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows, which brings
-    /// another row under it. The edge is thin, so that a drop on the first or last row in view
-    /// does not scroll by accident.
+    /// Scrolls by one row if the pointer is at the upper or lower edge of the rows. The edge is
+    /// thin, so that a drop on the first or last row in view does not scroll by accident.
     void scrollAtEdge();
 
     /// Lays out the rows at once. The control waits until the toolkit is idle, and with very many
@@ -152,13 +152,14 @@ public:
     void layOutRows() { OnInternalIdle(); }
 
 private:
-    /// Gives `rows` these matches as one change, and leaves out rows that hold theirs already.
+    /// Gives `rows` these matches as one change, and skips rows that hold theirs already.
     void change(const Rows &rows, const std::vector<RowMatch> &matches);
 
-    /// Writes each of `matches` into the row of the same index, and what the row held into it.
+    /// Swaps each of `matches` with what its row holds.
     void exchange(const Rows &rows, std::vector<RowMatch> &matches);
 
-    /// The first row behind `row`, or else from the first one on, that `isWanted`; or wxNOT_FOUND.
+    /// The next row behind `row` that `isWanted`, from the first row on after the last; or
+    /// wxNOT_FOUND.
     template <typename Wanted>
     long nextRow(long row, const Wanted &isWanted) const;
 

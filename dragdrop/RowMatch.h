@@ -8,7 +8,7 @@
 
 namespace columnimport {
 
-/// What a row of the match list holds, as it is shown, and how it came there.
+/// What a row of the match list shows, and where it came from.
 struct RowMatch : ColumnMatch {
     wxString text;
 };

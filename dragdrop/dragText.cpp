@@ -13,7 +13,7 @@ namespace columnimport {
 
 namespace {
 
-/// Delays a closing of the window until its own end. A window that closes under a drag never
+/// Delays the closing of the window until its own end. A window that closes during a drag never
 /// answers the drop, and the drag would wait minutes for it.
 class DelayedClose {
 public:

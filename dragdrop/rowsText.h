@@ -8,7 +8,7 @@ class wxString;
 
 namespace columnimport {
 
-/// What is said of `count` rows, the first of which reads `first`: "Au g/t", or "Au g/t (3 rows)".
+/// The text for `count` rows, the first of which reads `first`: "Au g/t", or "Au g/t (3 rows)".
 wxString rowsText(const wxString &first, std::size_t count);
 
 } // namespace columnimport

@@ -12,7 +12,7 @@
 
 namespace columnimport {
 
-/// What a host wants of one import, through whichever door it came.
+/// What a host asks for in one import, through either entry point.
 struct ImportRequest {
     std::string title;
     std::int32_t width = 0;
@@ -32,7 +32,7 @@ struct ImportRequest {
     ByteOrderMark byteOrderMark = ByteOrderMark::kept;
 };
 
-/// What came of one import.
+/// The result of one import.
 struct ImportResult {
     std::vector<SourceMatch> matches; ///< one for each row of the dialog
     std::vector<std::string> sourceColumns;

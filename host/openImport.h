@@ -11,7 +11,7 @@
 
 namespace columnimport {
 
-/// What an import opens with, whether a dialog shows it or it is the whole answer.
+/// What an import opens with: the first content of a dialog, or a proposal as a whole.
 struct Opening {
     Header source; ///< its columns, and what came of the first line of a file
     std::vector<ColumnMatch> matches;
@@ -20,13 +20,13 @@ struct Opening {
 /// Reads the first line of the file that `request` names, or takes the columns of its table.
 Header readSource(const ImportRequest &request);
 
-/// Matches the `titles` of a source as `request` wants it: by position, by the saved names, or by a
-/// proposal. Saved names that are not among the titles are emptied in `request`.
+/// Matches the `titles` of a source as `request` asks: by position, by the saved names, or by a
+/// proposal. Empties the saved names in `request` that are not among the titles.
 std::vector<ColumnMatch> matchSource(ImportRequest &request,
                                      const std::vector<std::string> &titles);
 
-/// Both in a row. `columnName` tells what a column of the source is called where it has no title,
-/// and `problemOf` why a file could not be read.
+/// Both steps. `columnName` gives the name of a column without a title, and `problemOf` the reason
+/// why a file could not be read.
 Opening openImport(ImportRequest request);
 
 } // namespace columnimport

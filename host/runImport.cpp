@@ -21,7 +21,7 @@ namespace {
 /// Where the dialog stands, on platforms that let a program place its windows.
 const wxPoint framePlace(100, 100);
 
-/// Holds while a dialog of the library is open: there is one at a time. Meanwhile the toolkit logs
+/// Exists while a dialog of the library is open; there is one at a time. Meanwhile the toolkit logs
 /// nothing, neither to the host's console nor in windows of its own.
 class OpenRun {
 public:

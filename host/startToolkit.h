@@ -9,7 +9,7 @@ namespace columnimport {
 /// Whether there is a display for the toolkit.
 bool hasDisplay();
 
-/// Starts the toolkit, with the application object that stands, or counts one more user of it. It
+/// Starts the toolkit with the present application object, or adds one user if it runs already. It
 /// is never shut down.
 void startToolkit();
 

@@ -14,18 +14,17 @@ namespace {
 
 class Application : public wxApp {
 public:
-    /// Lets an exception go on to the host. On some platforms the toolkit would ask the user what
-    /// to do with it.
+    /// Passes an exception on to the host. On some platforms the toolkit would ask the user.
     bool OnExceptionInMainLoop() override { throw; }
 
-    /// Goes on. The toolkit would ask the user, who can't know, and has the host stand still.
+    /// Ignores the assertion. The toolkit would ask the user, and the host would stand still.
     void OnAssertFailure(const wxChar *, int, const wxChar *, const wxChar *,
                          const wxChar *) override {}
 };
 
 } // namespace
 
-// An object that was replaced is not deleted: the toolkit may still know it.
+// A replaced object is not deleted: the toolkit may still refer to it.
 void setUpToolkit() {
     static const wxAppConsole *ours = nullptr;
     if (wxApp::GetInstance() != ours || !wxTopLevelWindows.empty() || !hasDisplay()) {

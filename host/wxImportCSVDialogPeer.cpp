@@ -14,7 +14,7 @@ using columnimport::ImportResult;
 
 namespace {
 
-/// The matches as a host of this door knows them: by their names alone.
+/// The names of the matches: all that this entry point returns.
 std::vector<std::string> namesOf(ImportResult result) {
     std::vector<std::string> names;
     names.reserve(result.matches.size());
@@ -25,7 +25,7 @@ std::vector<std::string> namesOf(ImportResult result) {
     return names;
 }
 
-/// What both overloads are asked for.
+/// The part of the request that both overloads share.
 ImportRequest requestOf(std::string title, std::vector<std::string> appColumns,
                         bool useSavedMatches, const std::vector<std::string> &savedMatches,
                         std::int32_t width, std::int32_t height) {

@@ -83,7 +83,7 @@ std::optional<long> MatchListKeys::targetOf(int key) const {
     }
 }
 
-// Rows are those that are chosen when the key is struck, also where a change waits for its turn.
+// Applies to the rows that are chosen now, even if the change waits for its turn.
 bool MatchListKeys::edit(const wxKeyEvent &key) {
     const ListCtrlSource::Rows rows = m_list.chosenRows();
     switch (key.GetKeyCode()) {
@@ -122,7 +122,7 @@ void MatchListKeys::onKeyDown(wxKeyEvent &event) {
     }
 }
 
-// The control or the dialog would take Return before it is a key of the list.
+// The control or the dialog would handle Return first.
 void MatchListKeys::onReturn(wxKeyEvent &event) {
     if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
         event.Skip();
@@ -134,7 +134,7 @@ void MatchListKeys::onReturn(wxKeyEvent &event) {
     }
 }
 
-// The control would look for the row that begins with what is typed, and select it.
+// The control would select the row that begins with the typed character.
 void MatchListKeys::onCharacter(wxKeyEvent &event) {
     event.Skip(event.HasModifiers() || event.GetUnicodeKey() < WXK_SPACE);
     if (event.GetKeyCode() == WXK_SPACE && event.AltDown()) {

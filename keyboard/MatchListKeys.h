@@ -12,8 +12,8 @@ namespace columnimport {
 
 class ListCtrlSource;
 
-/// The keys of the match list. The arrow keys move the current row and show it as the row under the
-/// pointer is shown. A key that writes does so in the marked rows, or else in the current one.
+/// The keys of the match list. The arrow keys move the current row and highlight it. A key that
+/// writes does so in the marked rows, or else in the current one.
 class MatchListKeys : public wxEvtHandler {
 public:
     /// Attaches itself to `list`, which must outlive this object.
@@ -24,14 +24,14 @@ private:
     void onReturn(wxKeyEvent &event);
     void onCharacter(wxKeyEvent &event);
 
-    /// Does what `key` does to the texts of rows; false if it does nothing to them.
+    /// Handles a key that changes or copies a row's text; false if it is another key.
     bool edit(const wxKeyEvent &key);
 
-    /// The row that a key leads to, which may be out of range; none if it leads nowhere.
+    /// The row to which a key moves, which may be out of range; none for other keys.
     std::optional<long> targetOf(int key) const;
 
-    /// Moves the current row to `row`, or as near as there are rows, by a key that may come with
-    /// Control or Shift.
+    /// Moves the current row to `row` or to the nearest one there is. Control and Shift of `key`
+    /// count.
     void moveCurrentRow(long row, const wxKeyEvent &key);
 
     void showCurrentRow();

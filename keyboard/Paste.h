@@ -19,7 +19,7 @@ public:
     /// `queue` must outlive this object.
     explicit Paste(ChangeQueue &queue);
 
-    /// Asks for the text in its turn, and hands it to `take` unless there is none.
+    /// Requests the text in its turn and passes it to `take`, unless there is none.
     void start(const std::function<void(const wxString &)> &take);
 
 private:

@@ -7,9 +7,9 @@
 
 namespace columnimport {
 
-/// How well two normalised names fit; larger is better, and the order of the two makes no
-/// difference. This is the rule as it is told: `castVotes` gives the same scores without trying
-/// every pair, and is compared with it.
+/// How well two normalised names fit; larger is better, and their order does not matter. This is
+/// the rule in its plain form: `castVotes` gives the same scores without trying every pair, and is
+/// compared with it.
 ///
 /// 1.0 for equal names, 0.99 for synonyms, 0.0 for other pairs with a name under three bytes.
 /// Any other pair is measured by what the names share, each share as a part of each name's

@@ -15,7 +15,7 @@ namespace columnimport {
 /// origin (same, synonym, alternative or similar, the first that holds) and the score of a similar
 /// name, to the last bit of what decided.
 ///
-/// Costs one comparison of names for each match, and nothing in `matchColumns`.
+/// Costs one comparison of names for each match. `matchColumns` itself costs no more.
 ///
 ///     {"holename", "dip"}, {"BHID", "Dips"}, {}, {0, 1}
 ///     gives {0, synonym} and {1, similar, 0.7292}

@@ -8,15 +8,15 @@ namespace columnimport {
 
 namespace {
 
-/// How a unit may be written and how it is written in a normalised name. They apply in this order:
-/// a percent sign takes one separator in front of it along before it stands alone.
+/// The spellings of a unit and its normalised form, applied in this order: a percent sign takes one
+/// separator before it along before it is replaced alone.
 constexpr struct {
     const char *written;
     const char *normalised;
 } unitRules[] = {{" %", "_pct"}, {"_%", "_pct"}, {"%", "_pct"}, {"g/t", "gt"}};
 
-/// As in the locale that a process starts with, whatever its host has set since: a Turkish one has
-/// another small letter for I.
+/// As in the C locale, whatever the host has set: in a Turkish one the letter I has another lower
+/// case.
 char toLower(char byte) {
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }

@@ -10,7 +10,7 @@
 
 namespace columnimport {
 
-/// Whether there is anything to find again: a saved match that is not empty.
+/// Whether any of the saved matches is not empty.
 bool holdsAName(const std::vector<std::string> &savedMatches);
 
 /// The matches that an import opens with, one for each application column.

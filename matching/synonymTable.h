@@ -11,12 +11,12 @@ namespace columnimport {
 /// For each head word the words that it is a synonym of.
 using SynonymTable = std::map<std::string, std::vector<std::string>>;
 
-/// What our field calls by other names, in normalised form, made anew by each call.
+/// The synonyms of our field in normalised form, made anew by each call.
 SynonymTable synonymTable();
 
-/// Whether one of two normalised names is a head word of the `synonymTable` and the other one of
-/// its listed words. The order of the two makes no difference. Nothing else makes synonyms: not
-/// that two words are listed for one head, nor that each is a synonym of a third.
+/// Whether one of two normalised names is a head word of the `synonymTable` and the other is in its
+/// list, in either order. Two words in one list are not synonyms, nor are two synonyms of a third
+/// word.
 ///
 ///     areSynonyms("bhid", "holename") == true
 ///     areSynonyms("bhid", "holeid")   == false, both are only listed

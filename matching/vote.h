@@ -11,17 +11,17 @@ inline constexpr double acceptanceThreshold = 0.4;
 
 /// The application column that a file column fits best, as far as is known, and how well.
 ///
-/// One that fits none so far stands at the threshold: a lower score makes no difference to a
-/// proposal. `profondeur` fits `depth` best with 0.3. Whether that is a vote which is refused, or
-/// no vote at all, `depth` is matched to the best file column above 0.4, or to none.
+/// A vote for none has the threshold as its score, since a lower score makes no difference to a
+/// proposal. `profondeur` fits `depth` best with 0.3. Whether that counts as a refused vote or as
+/// none, `depth` is matched to the best file column above 0.4, or to none.
 struct Vote {
     double score = acceptanceThreshold;
     std::int32_t app = -1;
 
     bool isForNone() const { return app < 0; }
 
-    /// Takes a better score, or for an equal one a column that stands before the present one, so
-    /// that columns may be offered in any order.
+    /// Accepts a better score, or an equal one for an earlier column, so that columns may be
+    /// offered in any order.
     void offer(std::int32_t otherApp, double otherScore) {
         if (otherScore > score || (otherScore == score && otherApp < app)) {
             *this = {otherScore, otherApp};

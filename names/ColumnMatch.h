@@ -6,7 +6,7 @@
 
 namespace columnimport {
 
-/// How an application column came by its match.
+/// Where the match of an application column came from.
 enum class MatchOrigin : unsigned char {
     none,        ///< there is no match
     same,        ///< both names are the same once they are normalised
@@ -19,7 +19,7 @@ enum class MatchOrigin : unsigned char {
     foreign,     ///< the person brought in a text from elsewhere that names no source column
 };
 
-/// The score of a match that is no guess.
+/// The score of a match that is not a guess.
 inline constexpr double noScore = -1.0;
 
 /// Which source column an application column is matched to, and why.

@@ -105,7 +105,7 @@ bool ShownNames::isUnused(const wxString &text) const {
 
 const std::wstring &ShownNames::enter(const wxString &text, std::int32_t position,
                                       std::string foreignBytes) {
-    const std::wstring visible = text.ToStdWstring();
+    const std::wstring &visible = text.ToStdWstring();
     const std::wstring shared = visible.empty() ? invisible(1) : visible;
     std::wstring shown = shared;
     // A name may hold invisible characters of its own, so that a number is taken already.

@@ -8,8 +8,8 @@
 
 namespace columnimport {
 
-/// What stands at an application column: a column of the source, or a name that was dragged in from
-/// another program and has no position, or nothing.
+/// The match of an application column: a column of the source, or a name from another program
+/// without a position, or nothing.
 struct SourceMatch : ColumnMatch {
     std::string name;
 

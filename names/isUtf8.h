@@ -6,8 +6,8 @@
 
 namespace columnimport {
 
-/// Whether `bytes` are well-formed UTF-8: each character written the shortest way, none beyond
-/// Unicode and no half of one.
+/// Whether `bytes` are well-formed UTF-8: each character in its shortest form, none beyond Unicode,
+/// and no surrogate.
 bool isUtf8(std::string_view bytes);
 
 } // namespace columnimport

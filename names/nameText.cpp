@@ -15,15 +15,15 @@ namespace {
 
 constexpr wchar_t ellipsis = L'\x2026';
 
-/// Whether all characters are Unicode's: the toolkit and some locales decode others too, and halves
-/// of some.
+/// Whether all characters are Unicode. The toolkit and some locales decode others too, and
+/// surrogates.
 bool isUnicode(const wxString &text) {
     const std::string bytes = text.utf8_string();
     return !bytes.empty() && isUtf8(bytes);
 }
 
-/// A character that can be seen in the place of one that can't, or the character itself. Each
-/// stand-in is in the fonts of a plain Debian and of Windows.
+/// A visible stand-in for an invisible character, or the character itself. The fonts of a plain
+/// Debian and of Windows have all of them.
 wxUniChar standIn(wxUniChar character) {
     constexpr wxUint32 arrow = 0x2192;
     constexpr wxUint32 paragraph = 0xB6;
@@ -40,7 +40,7 @@ wxUniChar standIn(wxUniChar character) {
     return isControl || value == byteOrderMark ? wxUniChar(replacement) : character;
 }
 
-/// The first bytes of what is too long, without a part of a UTF-8 character at their end.
+/// The beginning of `bytes` if they are too long, without a part of a UTF-8 character at its end.
 std::string_view head(std::string_view bytes) {
     std::size_t length = std::min(bytes.size(), shownLength);
     while (length < bytes.size() && length > shownLength - 3 &&
@@ -50,7 +50,7 @@ std::string_view head(std::string_view bytes) {
     return bytes.substr(0, length);
 }
 
-/// `bytes`, or the head of them and an ellipsis.
+/// `bytes`, or their beginning and an ellipsis.
 wxString decodedHead(std::string_view bytes) {
     const std::string_view shown = head(bytes);
     wxString text = decoded(std::string(shown));

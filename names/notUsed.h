@@ -4,7 +4,7 @@
 
 namespace columnimport {
 
-/// The match text of an application column that has no file column.
+/// The match text of an application column without a file column.
 inline constexpr const char *notUsed = "Not used";
 
 } // namespace columnimport

@@ -8,7 +8,7 @@ namespace columnimport {
 
 class ListCtrlSource;
 
-/// What a screen reader says of a row: "gold: Au g/t", or "gold: Au g/t, a guess".
+/// The name of a row for a screen reader: "gold: Au g/t", or "gold: Au g/t, a guess".
 wxString rowText(const ListCtrlSource &list, long row);
 
 } // namespace columnimport

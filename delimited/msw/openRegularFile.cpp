@@ -26,7 +26,7 @@ std::FILE *openRegularFile(const std::string &path, std::error_code &fault) {
             std::fclose(file);
         }
     } catch (const std::system_error &failure) {
-        // Bytes that are no UTF-8 name no file.
+        // A path that is not UTF-8 names no file.
         fault = failure.code();
     }
     return nullptr;

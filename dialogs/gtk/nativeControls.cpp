@@ -8,9 +8,9 @@
 
 namespace columnimport {
 
-// The padding and the least height that themes give an entry leave nothing of a height that is less
-// than theirs. Two thirds of it are room for a character with its ascenders and descenders. The
-// entry is as wide as the control but for a gap on the right, where the frame around it stands.
+// Themes give an entry more padding and a greater least height than this one has. A character with
+// ascenders and descenders takes two thirds of the height. A gap on the right keeps the frame
+// around the entry in view.
 void fitOneCharacter(wxTextCtrl &control) {
     const int height = control.GetMinSize().y;
     const wxString rules =

@@ -12,8 +12,8 @@ namespace columnimport {
 
 /// Which rows of a list control are marked, and their highlight.
 ///
-/// The control here knows no state that could serve: the marks are held beside it, shown through
-/// the colours of the rows, and forgotten when the rows are deleted.
+/// The control has no such state here: the marks are kept beside it, shown in the colours of the
+/// rows, and dropped with the rows.
 class RowMarks {
 public:
     explicit RowMarks(wxListCtrl &list);
@@ -24,7 +24,7 @@ public:
     /// The first marked row behind `row`, or -1.
     long next(long row) const;
 
-    /// From now on `changed` is called whenever a row has been marked or is no more.
+    /// Calls `changed` after a row has been marked or unmarked.
     void onChange(std::function<void(long row)> changed) { m_changed = std::move(changed); }
 
 private:

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-// What is relied upon of the toolkit's drop source, whose members are open to all but told nowhere:
-// `m_widget`, which the drag begins in, is there from its construction on. When a drag begins,
-// `m_dragContext` is set to GTK's own drag, a window for an icon is made, kept in `m_iconWindow`
-// and never destroyed, and a loop runs until `m_waiting` is false. So an idle call of a high
-// priority, made before the drag, comes as the first thing in that loop, with all of these in
-// place; or it comes later, without a drag, if the toolkit began none.
+// This relies on members of the toolkit's drop source that are public but not documented.
+// `m_widget`, in which the drag begins, exists from the start. When a drag begins, `m_dragContext`
+// is set to GTK's own drag, a window for an icon is made and never destroyed, `m_iconWindow`, and a
+// loop runs until `m_waiting` is false. So a high-priority idle call that is added before the drag
+// is the first thing to run in that loop; if the toolkit begins no drag, it runs later, without
+// one.
 
 #include "RunningDrag.h"
 
@@ -22,9 +22,9 @@
 
 namespace columnimport {
 
-/// A pointer of our own beside the toolkit's, which tells whether a drag has begun: a drag takes
-/// the pointer away from the program. To be made only if the screen has a pointer: a program that
-/// asks for one where there is none is thrown out.
+/// A pointer of our own beside the toolkit's, which leaves the program when a drag begins. Make it
+/// only if the screen has a pointer: a compositor disconnects a program that asks for a missing
+/// one.
 class WaylandPointer {
 public:
     explicit WaylandPointer(GdkDisplay *display)
@@ -60,8 +60,8 @@ private:
 
 namespace {
 
-// A handler that says the failure is dealt with: otherwise the label would fly back to where the
-// drag began, and take the presses on its way.
+// Reports the failure as handled; otherwise the label would fly back to its start and take the
+// presses on its way.
 gboolean letItVanish(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
     return TRUE;
 }
@@ -74,8 +74,8 @@ bool hasPointer(GdkDisplay *display) {
 
 } // namespace
 
-// Two lines of text are higher than a row. Not every Wayland compositor heeds a place beside the
-// pointer, but there what is not drawn of a label can be seen through.
+// Two lines of text are higher than a row. Not every Wayland compositor honours an offset from the
+// pointer, so there the label has a transparent margin instead.
 RunningDrag::RunningDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown)
     : m_drag(drag), m_label(makeDragLabel(shown)), m_right(source.GetCharWidth()),
       m_below(2 * source.GetCharHeight()),
@@ -115,28 +115,27 @@ int RunningDrag::begin(void *self) {
     if (drag.m_drag.m_waiting) {
         drag.m_context = GDK_DRAG_CONTEXT(g_object_ref(drag.m_drag.m_dragContext));
         g_signal_connect(drag.m_context, "drop-performed", G_CALLBACK(limitDrop), self);
-        // The toolkit's icon can't be given a place beside the pointer, and shows nothing under
-        // Wayland.
+        // The toolkit's icon has no offset from the pointer, and is empty under Wayland.
         gtk_drag_set_icon_widget(drag.m_context, drag.m_label, -drag.m_right, -drag.m_below);
     }
     return G_SOURCE_REMOVE;
 }
 
-// A Wayland compositor starts no drag if the button is up by the time it is asked to, and tells
-// nobody: the toolkit would wait for its end for ever.
+// A Wayland compositor silently starts no drag if the button is up by then. The toolkit would wait
+// for its end for ever.
 void RunningDrag::endIfIgnored() {
     if (m_pointer == nullptr) {
         return;
     }
-    // The compositor has answered to all requests when this returns.
+    // The compositor has answered all requests when this returns.
     gdk_display_sync(gtk_widget_get_display(m_drag.m_widget));
     if (!m_pointer->hasLeft()) {
         gtk_drag_cancel(m_drag.m_dragContext);
     }
 }
 
-// The program that got the drop may hang. GTK would wait five minutes for it, and the toolkit keeps
-// all events from the dialog meanwhile.
+// The program that receives the drop may hang. GTK would wait five minutes for it, and the toolkit
+// keeps all events from the dialog meanwhile.
 void RunningDrag::limitDrop(GdkDragContext *, int, void *self) {
     constexpr unsigned milliseconds = 2000;
     static_cast<RunningDrag *>(self)->m_due = g_timeout_add(milliseconds, endUnfinished, self);

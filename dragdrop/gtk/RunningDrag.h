@@ -16,13 +16,13 @@ namespace columnimport {
 
 class WaylandPointer;
 
-/// What one drag has beyond the toolkit's own while it runs: a label beside the pointer, and an end
-/// also where the screen ignores it or the program that gets the drop hangs. The label keeps clear
-/// of the row that the pointer is on, whose highlight and name say where the drop will go.
+/// Adds to the toolkit's drag a label beside the pointer, and an end if the screen ignores the drag
+/// or the receiving program hangs. The label keeps clear of the row under the pointer, whose
+/// highlight shows where the drop will go.
 class RunningDrag {
 public:
-    /// To be made before `drag` begins, and to be kept until its end; `source` is the window that
-    /// it begins in, `shown` the label's text.
+    /// Make it before `drag` begins and keep it until the end. `source` is the window in which the
+    /// drag begins, `shown` the label's text.
     RunningDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown);
     ~RunningDrag();
     RunningDrag(const RunningDrag &) = delete;

@@ -6,10 +6,9 @@
 
 namespace columnimport {
 
-/// Text for other programs and for the dialog itself, as UTF-8 and in no other encoding, under both
-/// names that programs have for it: those of some toolkits ask only for the second one under
-/// Wayland. The toolkit's own object has the locale's encoding in its place, which does not hold
-/// every text and may be taken first.
+/// Text for other programs and for the dialog itself, as UTF-8 only, under both of its names: under
+/// Wayland some toolkits ask only for the second. The toolkit's own object also offers the locale's
+/// encoding, which can't hold every text and may be taken first.
 class UnicodeText : public wxTextDataObject {
 public:
     using wxTextDataObject::wxTextDataObject;

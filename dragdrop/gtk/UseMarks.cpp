@@ -12,8 +12,8 @@ namespace columnimport {
 
 namespace {
 
-/// Shows a name with room before it. A reader finds the cell's text, which tells in words what the
-/// mark shows: what is measured and drawn is the name alone.
+/// Shows a name with space before it. A screen reader gets the cell's text, which has words for the
+/// mark; only the name is measured and drawn.
 struct NameCell {
     GtkCellRendererText parent;
     int room;         // before the name
@@ -44,7 +44,7 @@ void getPreferredWidth(GtkCellRenderer *cell, GtkWidget *widget, int *least, int
     }
 }
 
-/// In the middle of `area`, in the colour of the text there.
+/// Draws a check mark in the middle of `area`, in the colour of its text.
 void drawMark(cairo_t *context, GtkWidget *widget, const GdkRectangle &area) {
     GtkStyleContext *style = gtk_widget_get_style_context(widget);
     GdkRGBA colour;
@@ -90,7 +90,7 @@ GType cellType() {
     return type;
 }
 
-/// Runs when the cell has got the text of its entry.
+/// Called after the cell has got the text of its entry.
 void markCell(GtkCellLayout *, GtkCellRenderer *cell, GtkTreeModel *model, GtkTreeIter *entry,
               void *marks) {
     GtkTreePath *path = gtk_tree_model_get_path(model, entry);
@@ -116,7 +116,7 @@ GtkCellLayout *cellsOf(const wxListBox &list) {
 
 } // namespace
 
-// In the place of the toolkit's own cell, which shows the entry's text too.
+// Replaces the toolkit's own cell, which shows the entry's text too.
 UseMarks::UseMarks(wxListBox &list) : m_list(list) {
     GtkCellLayout *cells = cellsOf(list);
     auto *cell = static_cast<GtkCellRenderer *>(g_object_new(cellType(), nullptr));

@@ -9,13 +9,13 @@ class wxListBox;
 
 namespace columnimport {
 
-/// The check marks in a list of names. Each entry has room for one before its name, so that it is
-/// seen beside a name that is cut off too:
+/// The check marks in a list of names. Each entry has space for one before its name, so that the
+/// mark stays visible beside a name that is cut:
 ///
 ///     ✓ HOLE     a screen reader is told "HOLE, in use"
 ///       AU       "AU"
 ///
-/// It is drawn and no character: no font has to have it.
+/// The mark is drawn, so no font has to have it.
 class UseMarks {
 public:
     /// To be made after `list`, and to go before it.

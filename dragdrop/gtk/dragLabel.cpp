@@ -31,7 +31,7 @@ GtkWidget *makeDragLabel(const wxString &text) {
                                    GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
     g_object_unref(provider);
     gtk_widget_show(label);
-    // Its window would give a text that can be cut no room but for an ellipsis.
+    // Otherwise its window would make a label that can be cut as narrow as an ellipsis.
     int width = 0;
     gtk_widget_get_preferred_width(label, nullptr, &width);
     gtk_widget_set_size_request(label, width, -1);

@@ -32,7 +32,7 @@ wxColour textOn(const wxColour &ground) {
     return contrast(*wxBLACK, ground) > contrast(*wxWHITE, ground) ? *wxBLACK : *wxWHITE;
 }
 
-/// How well `ground` serves: what is beyond the wanted contrasts is no gain.
+/// How well `ground` serves. More than the wanted contrast is no better.
 double worth(const wxColour &ground, const wxColour &background, const wxColour &hover) {
     constexpr double told = 3.2;
     constexpr double read = 4.6;
@@ -48,8 +48,8 @@ double contrast(const wxColour &one, const wxColour &other) {
     return std::max(a, b) / std::min(a, b);
 }
 
-// The tones of the hover's colour from itself to black and to white, in steps that can hardly be
-// told apart; the one nearest to it that serves, and if none does, the one that serves best.
+// Tries the tones of the hover's colour towards black and white, in steps too small to see; takes
+// the nearest one that serves, or else the best.
 MarkColours markColours(const wxColour &background, const wxColour &hover) {
     wxColour best = hover;
     constexpr int steps = 50;

@@ -13,12 +13,12 @@ struct MarkColours {
 };
 
 /// The colours of a marked row in a list with this `background`, whose row under the pointer has
-/// the colour `hover`: a tone of that colour that stands out from both, and black or white on it,
-/// whichever reads better. In any theme a person can tell the three apart.
+/// the colour `hover`: a tone of that colour that stands out from both, and black or white text on
+/// it. In any theme a person can distinguish the three.
 MarkColours markColours(const wxColour &background, const wxColour &hover);
 
-/// How far two colours can be told apart: from 1, not at all, to 21 for black and white. What
-/// carries a meaning wants 3, and text 4.5.
+/// The contrast of two colours: from 1, none, to 21 for black and white. A mark needs 3, and text
+/// 4.5.
 double contrast(const wxColour &one, const wxColour &other);
 
 } // namespace columnimport

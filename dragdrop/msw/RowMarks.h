@@ -6,7 +6,7 @@ class wxListCtrl;
 
 namespace columnimport {
 
-/// Which rows of a list control are marked: here the control has a state for it, which it shows and
+/// Which rows of a list control are marked. The control has a state for it here, which it shows and
 /// drops with the rows.
 class RowMarks {
 public:

@@ -9,13 +9,13 @@ class wxListBox;
 
 namespace columnimport {
 
-/// The check marks in a list of names. Each entry has room for one before its name, so that it is
-/// seen beside a name that is cut off too:
+/// The check marks in a list of names. Each entry has space for one before its name, so that the
+/// mark stays visible beside a name that is cut:
 ///
 ///     ✓ HOLE     a screen reader is told "HOLE, in use"
 ///       AU       "AU"
 ///
-/// The native control shows texts alone: an entry is the mark or nothing, a tab, and the name.
+/// The native control only shows text: an entry is the mark or nothing, a tab, and the name.
 class UseMarks {
 public:
     /// To be made after `list`, and to go before it.

@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-/// What stands behind the pointer that a host holds.
+/// The object behind a host's pointer.
 struct columnimport_import {
     columnimport::ImportRequest request;
     bool hasSource = false;
@@ -26,7 +26,7 @@ struct columnimport_import {
 
 namespace columnimport {
 
-/// What a host asks for, with all that it left open.
+/// The host's request, with defaults for what it left open.
 inline ImportRequest completed(ImportRequest request) {
     if (request.width == 0) {
         request.width = 900;
@@ -39,7 +39,7 @@ inline ImportRequest completed(ImportRequest request) {
     return request;
 }
 
-/// Thrown where a host uses a function wrongly.
+/// Thrown when a host uses a function wrongly.
 struct WrongUse {
     const char *sentence;
 };
@@ -50,14 +50,14 @@ inline void require(bool holds, const char *sentence) {
     }
 }
 
-/// What a function of the C header gives besides its proper value.
+/// The values that a function of the C header returns instead of its result.
 template <typename Value>
 struct Faults {
     Value wrongUse;
     Value failed;
 };
 
-/// Carries out one call on `import` and lets no exception out.
+/// Runs one call on `import` and lets no exception out.
 template <typename Value, typename Call>
 Value answer(columnimport_import *import, const Faults<Value> &faults, const Call &call) noexcept {
     if (import == nullptr) {
@@ -90,7 +90,7 @@ std::int32_t outcomeOf(columnimport_import *import, const Call &call) noexcept {
     return answer<std::int32_t>(import, {columnimport_wrong_use, columnimport_failed}, call);
 }
 
-/// One run: drops the result of the one before, and keeps what `run` returns.
+/// One run: drops the previous result and keeps what `run` returns.
 template <typename Run>
 std::int32_t outcomeOfRun(columnimport_import *import, const Run &run) noexcept {
     const std::int32_t outcome = outcomeOf(import, [&run](columnimport_import &filled) {
@@ -105,7 +105,7 @@ std::int32_t outcomeOfRun(columnimport_import *import, const Run &run) noexcept 
     return outcome;
 }
 
-/// A position in a list as the header counts, if it is one.
+/// Checks a position that a host passes in.
 template <typename List>
 std::size_t indexIn(const List &list, std::int32_t position, const char *sentence) {
     require(position >= 0 && static_cast<std::size_t>(position) < list.size(), sentence);

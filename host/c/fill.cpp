@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What a host fills an import with. All is copied before anything is changed.
+// The functions that fill an import. They copy everything before they change anything.
 
 #include "host/c/Import.h"
 

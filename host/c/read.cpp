@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What a host reads of the last run, and of a file before one.
+// The functions that read the last run, and a file before one.
 
 #include "host/c/Import.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A run with the dialog. It is compiled with the library that has the toolkit.
+// A run with the dialog, compiled with the library that has the toolkit.
 
 #include "host/c/Import.h"
 

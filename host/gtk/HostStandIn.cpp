@@ -7,7 +7,7 @@
 
 namespace columnimport {
 
-// The reference keeps the widget's memory for the run, should the host destroy its window
+// The reference keeps the widget's memory for the run, in case the host destroys its window
 // meanwhile.
 HostStandIn::HostStandIn(HostWindow hostWindow) {
     GtkWidget *owner = hostWindow != nullptr ? gtk_widget_get_toplevel(hostWindow) : nullptr;

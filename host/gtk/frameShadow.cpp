@@ -11,7 +11,7 @@ namespace columnimport {
 
 namespace {
 
-/// The edges of what a window holds: the title bar, if it is GTK's own, and the content.
+/// The edges of a window's content, with the title bar if it is GTK's own.
 struct Edges {
     int left = G_MAXINT;
     int top = G_MAXINT;

@@ -7,8 +7,8 @@ class wxSize;
 
 namespace columnimport {
 
-/// What the size of `dialog`, which is shown, holds beside its frame. Where GTK draws the frame
-/// itself, as it does under Wayland, the toolkit counts the shadow around the frame in.
+/// How much larger the size of `dialog`, which is shown, is than its frame. Where GTK draws the
+/// frame itself, as under Wayland, the toolkit counts the shadow around it in.
 wxSize frameShadow(const wxDialog &dialog);
 
 } // namespace columnimport

@@ -9,18 +9,17 @@ namespace columnimport {
 
 namespace {
 
-/// The bit of the host's extended style that the toolkit turns on for the dialog's sake.
+/// The bit of the host's extended style that the toolkit sets for the dialog.
 LONG_PTR controlParentBit(HWND window) {
     return GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT;
 }
 
-/// As it was before the run; there is one run at a time.
+/// Its value before the run; there is one run at a time.
 LONG_PTR formerControlParentBit = 0;
 
 } // namespace
 
-// The root of a control is the window that it is in; of the desktop, or of no window, there is
-// none.
+// GA_ROOT of a control is the window that it is in; the desktop has none.
 HostStandIn::HostStandIn(HostWindow hostWindow) {
     HWND owner = IsWindow(hostWindow) != FALSE ? GetAncestor(hostWindow, GA_ROOT) : nullptr;
     if (owner == nullptr) {

@@ -11,7 +11,7 @@ namespace columnimport {
 
 namespace {
 
-/// The code of the host's quit that came during the run.
+/// The exit code of a quit that the host posted during the run.
 std::optional<int> quitCode;
 
 LRESULT CALLBACK noteQuit(int code, WPARAM isTaken, LPARAM number) {
@@ -22,7 +22,8 @@ LRESULT CALLBACK noteQuit(int code, WPARAM isTaken, LPARAM number) {
     return CallNextHookEx(nullptr, code, isTaken, number);
 }
 
-/// Sees what the toolkit's loop takes out of the queue: it keeps nothing of a quit.
+/// Watches the messages that the toolkit's loop takes from the queue, since the loop does not keep
+/// a quit.
 class QuitWatch {
 public:
     QuitWatch()
@@ -37,7 +38,8 @@ private:
     HHOOK m_hook;
 };
 
-/// The toolkit does not hear of it when the owner's end takes the dialog along, and would wait on.
+/// Ends the modal loop if the dialog is destroyed with its owner: the toolkit gets no notice and
+/// would wait for ever.
 LRESULT CALLBACK onDialogMessage(HWND window, UINT message, WPARAM word, LPARAM number, UINT_PTR id,
                                  DWORD_PTR dialog) {
     if (message == WM_DESTROY) {
@@ -56,7 +58,7 @@ void resize(wxDialog &dialog, const wxSize &size) {
     dialog.SetSize(size);
 }
 
-// At a quit the toolkit leaves its loop without closing the dialog, and the owner stays disabled.
+// On a quit the toolkit leaves its loop without closing the dialog, and the owner stays disabled.
 int showModal(wxDialog &dialog) {
     const QuitWatch watch;
     const HWND owner = GetWindow(dialog.GetHWND(), GW_OWNER);

@@ -11,7 +11,7 @@ bool hasDisplay() {
     return true;
 }
 
-// As the toolkit is never shut down, this library stays too when a host lets go of it.
+// The toolkit is never shut down, so the library must stay loaded when a host unloads it.
 void startToolkit() {
     new wxInitializer;
     HMODULE library = nullptr;

@@ -38,8 +38,7 @@ void takeFormats(GtkClipboard *clipboard, GdkAtom *formats, int count, void *ask
 
 } // namespace
 
-// The toolkit's own clipboard waits for an answer in a loop of its own, format by format, for up to
-// half a minute each, and does nothing else.
+// The toolkit's own clipboard would block, up to half a minute for each format.
 void requestClipboardText(const TextAnswer &answer) {
     gtk_clipboard_request_targets(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), takeFormats,
                                   std::make_unique<TextAnswer>(answer).release());

@@ -34,7 +34,7 @@ public:
     OpenedClipboard(const OpenedClipboard &) = delete;
     OpenedClipboard &operator=(const OpenedClipboard &) = delete;
 
-    /// Waits for as long as the owner takes to hand its text over.
+    /// Waits until the owner has handed its text over.
     std::optional<std::wstring> text() const {
         std::optional<std::wstring> text;
         HANDLE memory = m_isOpen ? GetClipboardData(CF_UNICODETEXT) : nullptr;
@@ -49,8 +49,8 @@ private:
     bool m_isOpen = false;
 };
 
-/// A request, which a thread of its own answers by a message to the window below. Neither touches
-/// the toolkit from that thread: the host may end or replace its application meanwhile.
+/// A request. A thread of its own answers it by a message to the window below, and does not touch
+/// the toolkit: the host may end or replace its application meanwhile.
 struct Request {
     TextAnswer answer;
     std::optional<std::wstring> text;
@@ -68,7 +68,7 @@ LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM word, LPARAM number
     return 0;
 }
 
-/// A window without a picture, on the user-interface thread, for one message.
+/// An invisible window on the user-interface thread, for one message.
 HWND newMessageWindow() {
     static const ATOM windowClass = [] {
         WNDCLASSW description = {};
@@ -94,8 +94,8 @@ void answerRequest(std::unique_ptr<Request> request, HWND window) {
 
 } // namespace
 
-// Windows can't be asked without waiting, so a thread waits. It may outlive the dialog, but not this
-// library, which stays in the process.
+// Windows offers only a blocking call, so a thread makes it. The thread may outlive the dialog, but
+// not this library, which stays in the process.
 void requestClipboardText(const TextAnswer &answer) {
     HWND window = newMessageWindow();
     try {

@@ -12,7 +12,7 @@ namespace columnimport {
 
 namespace {
 
-/// The DLL, or what else this code is linked into.
+/// The DLL, or the program that this code is linked into.
 class InLibrary : public wxResourceTranslationsLoader {
 protected:
     WXHINSTANCE GetModule() const override {
@@ -26,8 +26,8 @@ protected:
 
 } // namespace
 
-// The variable is gettext's. Without it the thread has the language of the system's own windows,
-// unless the host gave it another.
+// The variable is gettext's. Without it the thread has the language of the system's windows, unless
+// the host chose another.
 std::string messageLanguages() {
     if (const char *listed = std::getenv("LANGUAGE"); listed != nullptr && *listed != '\0') {
         return listed;

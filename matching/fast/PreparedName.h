@@ -30,8 +30,8 @@ inline std::uint8_t symbolOf(char byte) {
 /// The most bytes of a name whose positions fit into one mask.
 inline constexpr std::size_t maskedLength = 64;
 
-/// A normalised name, whose bytes must outlive it, and what is known of it once for all
-/// comparisons. The arrays have an entry for each symbol.
+/// A normalised name, whose bytes must outlive it, and what is computed once for all comparisons.
+/// The arrays have an entry for each symbol.
 struct PreparedName {
     explicit PreparedName(std::string_view name);
 

@@ -12,8 +12,8 @@ namespace columnimport {
 
 namespace {
 
-/// The scores that are looked for, one after the other. Most file columns that fit at all fit well,
-/// and a high bar spares nearly all others the measure.
+/// The scores to look for, one after the other. Most file columns that fit at all fit well, and a
+/// high bar spares nearly all others the measure.
 constexpr std::array bars = {0.7, 0.55, acceptanceThreshold};
 
 /// A byte's first, second, third and any later occurrence are four features; a pair of neighbours

@@ -76,7 +76,7 @@ private:
     std::vector<std::size_t> m_rowOfFeature; ///< where the feature's row begins in m_rows
     std::vector<Lanes> m_rows;               ///< m_blockCount entries for each row
     std::vector<Starts> m_starts;            ///< by bar and length, made when first needed
-    /// Of the file column that is being offered the columns, filled up with empty rows to a
+    /// The rows of the file column that is being offered the columns, padded with empty rows to a
     /// multiple of those that are added at once.
     std::vector<std::size_t> m_rowsOfFile;
 };

@@ -10,10 +10,10 @@
 
 namespace columnimport::reference {
 
-/// `columnimport::matchColumns` as its rule is told: every file column is scored with every
-/// application column by `columnNameScore`, and has at least 0.99 for one that it is an alternative
-/// of. Slow, and plain enough to be checked by reading; the
-/// product never uses it, and its own matcher must give the same proposals.
+/// The rule of `columnimport::matchColumns` in its plain form: every file column is scored with
+/// every application column by `columnNameScore`, and fits the column of an alternative with at
+/// least 0.99. Slow, and plain enough to check by reading. The product never uses it; its own
+/// matcher must give the same proposals.
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
                                        std::vector<std::string> fileColumns,
                                        const Alternatives &alternatives);

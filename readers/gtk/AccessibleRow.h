@@ -8,11 +8,11 @@ namespace columnimport {
 
 class AccessibleRows;
 
-/// Makes the item that speaks for `row` to a screen reader, as a child of `list`. The caller owns
-/// it; a reader may keep it for longer.
+/// Makes the accessible item of `row`, as a child of `list`. The caller owns it; a reader may keep
+/// it longer.
 AtkObject *makeAccessibleRow(AccessibleRows &rows, AtkObject *list, long row);
 
-/// Tells whoever still has `item` that its row has gone.
+/// Reports to readers that still have `item` that its row is gone.
 void retireAccessibleRow(AtkObject *item);
 
 } // namespace columnimport

@@ -73,7 +73,7 @@ int countMarked(AtkSelection *accessible) {
     return count;
 }
 
-/// The row of the item that is selected as number `index`, or none.
+/// The row of the selected item number `index`, or none.
 long markedRow(AtkSelection *accessible, int index) {
     if (index < 0 || index >= countMarked(accessible)) {
         return wxNOT_FOUND;

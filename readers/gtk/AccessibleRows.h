@@ -40,11 +40,11 @@ public:
     AccessibleRows(const AccessibleRows &) = delete;
     AccessibleRows &operator=(const AccessibleRows &) = delete;
 
-    /// Has the reader announce what now stands in `rows`, wherever the focus is. `rows` must not be
+    /// Has the reader announce what `rows` hold now, wherever the focus is. `rows` must not be
     /// empty.
     void announce(const std::vector<long> &rows);
 
-    // What the items ask for.
+    // For the items.
     ListCtrlSource &list() const { return m_list; }
     RowMarks &marks() const;
     AtkObject *item(long row);

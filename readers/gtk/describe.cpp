@@ -27,7 +27,7 @@ void setAccessibleName(wxWindow &control, const wxString &name) {
     }
 }
 
-// The cells of the list have the words for their marks.
+// The cells of the list have words for their marks.
 void describeFileColumns(ListBoxSource &list, const wxString &name) {
     setAccessibleName(list, name);
 }
