@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 
-# The door in C without the dialog, for a host that only proposes: it loads neither the toolkit nor
+# The C API without the dialogs, for a host that only proposes: it loads neither the toolkit nor
 # what that loads. Neither library needs the other. Where the toolkit is linked into the library, that
 # one alone serves both.
 
@@ -17,7 +17,7 @@ set_target_properties(columnimport_propose PROPERTIES
 target_include_directories(columnimport_propose INTERFACE
     "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/host/c>"
     "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/columnimport>")
-target_link_libraries(columnimport_propose PRIVATE columnimport_door)
+target_link_libraries(columnimport_propose PRIVATE columnimport_c_api)
 target_link_options(columnimport_propose PRIVATE
     -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/propose-exports.map -Wl,--no-undefined
     -Wl,-z,relro -Wl,-z,now)

@@ -56,7 +56,7 @@ set_target_properties(columnimport PROPERTIES
     SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 target_compile_features(columnimport PUBLIC cxx_std_17)
 target_link_libraries(columnimport PRIVATE
-    columnimport_door columnimport_matching columnimport_delimited columnimport_languages
+    columnimport_c_api columnimport_matching columnimport_delimited columnimport_languages
     columnimport_names columnimport_toolkit)
 if(WIN32)
     # The name that the platform's libraries have, whatever the compiler's own custom is.
@@ -90,7 +90,7 @@ if(WIN32)
     target_include_directories(columnimport_inside INTERFACE
         $<TARGET_PROPERTY:columnimport,INTERFACE_INCLUDE_DIRECTORIES>)
     target_link_libraries(columnimport_inside PUBLIC
-        columnimport_door columnimport_matching columnimport_delimited columnimport_languages
+        columnimport_c_api columnimport_matching columnimport_delimited columnimport_languages
         columnimport_names columnimport_toolkit)
 else()
     add_library(columnimport_inside INTERFACE)

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-/// The door to the library for a host that knows nothing of its toolkit.
+/// The library's entry point for a host without its toolkit.
 ///
 /// Construct one before the first run, then call `showWindow` once per import, on the host's
 /// user-interface thread. A peer holds nothing: any number may exist, and destroying one ends

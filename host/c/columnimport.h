@@ -21,7 +21,7 @@ extern "C" {
 
 /**
  * @file
- * The door to the library for a host in any language and by any compiler: plain C99.
+ * The library's interface for a host in any language and by any compiler: plain C99.
  *
  * An import is an object that the host makes, fills, runs and reads:
  *

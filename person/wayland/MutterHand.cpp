@@ -20,7 +20,7 @@
 
 namespace {
 
-constexpr const char *door = "org.gnome.Mutter.RemoteDesktop";
+constexpr const char *service = "org.gnome.Mutter.RemoteDesktop";
 
 /// `result`, which is null if there was an error.
 template <typename Result>
@@ -48,7 +48,7 @@ void tell(GDBusProxy *proxy, const char *method, GVariant *arguments = nullptr) 
 GDBusProxy *proxyOf(const char *path, const char *interface) {
     GError *error = nullptr;
     GDBusProxy *proxy =
-        g_dbus_proxy_new_for_bus_sync(G_BUS_TYPE_SESSION, G_DBUS_PROXY_FLAGS_NONE, nullptr, door,
+        g_dbus_proxy_new_for_bus_sync(G_BUS_TYPE_SESSION, G_DBUS_PROXY_FLAGS_NONE, nullptr, service,
                                       path, interface, nullptr, &error);
     return resultOf(proxy, error);
 }
@@ -85,7 +85,7 @@ void waitUntilSeen(const std::function<bool()> &isSeen) {
 } // namespace
 
 MutterHand::MutterHand() {
-    GDBusProxy *desktop = proxyOf("/org/gnome/Mutter/RemoteDesktop", door);
+    GDBusProxy *desktop = proxyOf("/org/gnome/Mutter/RemoteDesktop", service);
     GVariant *created = ask(desktop, "CreateSession");
     const char *path = nullptr;
     g_variant_get(created, "(&o)", &path);

@@ -8,8 +8,8 @@
 
 using GDBusProxy = struct _GDBusProxy; // NOLINT(bugprone-reserved-identifier): GLib's name for it
 
-/// The hand on a Wayland screen, which takes no input from a program beside its own devices: the
-/// compositor mutter has a door for remote desktops, and through that the hand comes in.
+/// The hand on a Wayland screen. Wayland lets no program send input, so the hand uses the interface
+/// of the compositor mutter for remote desktops.
 class MutterHand : public Hand {
 public:
     MutterHand();
@@ -21,7 +21,7 @@ public:
     void setKey(int key, bool isDown) override;
 
 private:
-    /// Moves to a place on the screen, which the door knows by the way from the place before.
+    /// Moves to a place on the screen; the interface takes relative motions only.
     void moveOnScreen(wxPoint point);
 
     GDBusProxy *m_session;

@@ -14,9 +14,9 @@
 
 namespace {
 
-class CDoor : public testing::Test {
+class CApi : public testing::Test {
 protected:
-    CDoor() : file("\xEF\xBB\xBF\"BH,HOLE\",Au,Au,\n") {
+    CApi() : file("\xEF\xBB\xBF\"BH,HOLE\",Au,Au,\n") {
         columnimport_set_file(import.get(), file.path().c_str());
         for (const char *name : {"hole", "gold"}) {
             columnimport_add_column(import.get(), name);
@@ -46,7 +46,7 @@ protected:
 
 } // namespace
 
-TEST_F(CDoor, TellsWhichOfEqualTitlesWasPasted) {
+TEST_F(CApi, TellsWhichOfEqualTitlesWasPasted) {
     EXPECT_EQ(columnimport_show(nullptr, nullptr), columnimport_wrong_use);
     EXPECT_EQ(show([this](Person &person) {
                   EXPECT_EQ(read([this] { return columnimport_show(import.get(), nullptr); }),
@@ -76,7 +76,7 @@ TEST_F(CDoor, TellsWhichOfEqualTitlesWasPasted) {
     EXPECT_STREQ(columnimport_source_column(import.get(), 0, nullptr), "BH") << "without a mark";
 }
 
-TEST_F(CDoor, AsksOnceForColumnsThatTheHostRequires) {
+TEST_F(CApi, AsksOnceForColumnsThatTheHostRequires) {
     columnimport_set_required(import.get(), 1, 1);
     EXPECT_EQ(show([](Person &person) {
                   EXPECT_EQ(sentence(), "");
@@ -94,7 +94,7 @@ TEST_F(CDoor, AsksOnceForColumnsThatTheHostRequires) {
 }
 
 // The sanitizers notice what is freed too early or never.
-TEST_F(CDoor, FreesAnImportThatIsGivenUpDuringItsRun) {
+TEST_F(CApi, FreesAnImportThatIsGivenUpDuringItsRun) {
     columnimport_import *given = import.release();
     runWithPerson(
         [given](Person &person) {
