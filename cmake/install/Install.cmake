@@ -60,7 +60,7 @@ install(DIRECTORY docs
     DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
     FILES_MATCHING PATTERN *.md PATTERN *.png PATTERN *.svg PATTERN exported-symbols.txt
     PATTERN code EXCLUDE PATTERN tables EXCLUDE)
-install(FILES examples/minimal_host.c examples/minimal_host.cpp examples/minimal_host.py
+install(FILES examples/minimal_host.c examples/minimal_host.cpp examples/minimal_host.py examples/sqlite_host.c
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples COMPONENT development)
 install(FILES examples/msw/minimal_host.c examples/msw/minimal_host.cpp
     DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/msw COMPONENT development)

@@ -11,6 +11,7 @@
 #include <functional>
 #include <thread>
 
+#include <columnimport.h>
 #include <gtest/gtest.h>
 #include <windows.h>
 #include <wxImportCSVDialogPeer.h>
@@ -89,6 +90,14 @@ protected:
 
     /// Has a person take these steps in the dialog as soon as it takes keys.
     bool show(const Steps &steps) {
+        return run(steps, [this] {
+            return peer.showWindow(window, "Import of a test", {"holename", "dip"}, path,
+                                   &useSavedMatches, &matches, &delimiter, &firstLineHeader, 900,
+                                   900);
+        });
+    }
+
+    static bool run(const Steps &steps, const std::function<bool()> &showDialog) {
         std::atomic<bool> isOver = false;
         std::thread person([&] {
             HWND dialog = nullptr;
@@ -103,9 +112,7 @@ protected:
                 PostMessageW(dialog, WM_CLOSE, 0, 0);
             }
         });
-        const bool result =
-            peer.showWindow(window, "Import of a test", {"holename", "dip"}, path, &useSavedMatches,
-                            &matches, &delimiter, &firstLineHeader, 900, 900);
+        const bool result = showDialog();
         isOver = true;
         person.join();
         return result;
@@ -235,4 +242,14 @@ TEST_F(Host, KeepsItsOutputsWhenItDestroysItsWindowDuringARun) {
     EXPECT_FALSE(firstLineHeader);
     window = newHostWindow();
     EXPECT_TRUE(show(pressOk));
+    columnimport_import *import = columnimport_new();
+    columnimport_set_title(import, "Import of a test");
+    columnimport_set_file(import, path.c_str());
+    run([this](HWND) { PostMessageW(window, WM_CLOSE, 0, 0); },
+        [this, import] {
+            EXPECT_EQ(columnimport_show(import, window), columnimport_failed);
+            return false;
+        });
+    EXPECT_EQ(columnimport_source_column_count(import), columnimport_invalid);
+    columnimport_free(import);
 }
