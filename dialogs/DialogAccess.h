@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dialogs/ImportOptions.h"
-#include "names/SourceMatch.h"
+#include "names/ColumnMatch.h"
 
 #include <string>
 #include <vector>

@@ -84,7 +84,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     // SetLabelText, since an ampersand in a file is an ampersand. A new label makes a static text
     // as large as itself, and the box around it would be fitted to that.
     text->SetLabelText(columnimport::previewText(columnimport::readPreview(
-        m_fileName, columnimport::tellingLength, m_options->byteOrderMark)));
+        m_fileName, columnimport::lengthToShow, m_options->byteOrderMark)));
     text->SetSize(previewSize);
     columnimport::setAccessibleName(*text, translated("File preview"));
     preview->Add(text, wxSizerFlags().Align(wxALIGN_CENTER));

@@ -7,7 +7,7 @@
 #include "dragdrop/RowMatch.h"
 #include "dragdrop/SecondClick.h"
 #include "names/ShownNames.h"
-#include "names/SourceMatch.h"
+#include "names/ColumnMatch.h"
 
 #include <cstdint>
 #include <functional>

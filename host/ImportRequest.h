@@ -3,7 +3,7 @@
 #pragma once
 
 #include "delimited/ByteOrderMark.h"
-#include "names/SourceMatch.h"
+#include "names/ColumnMatch.h"
 
 #include <cstdint>
 #include <optional>

@@ -3,20 +3,21 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace columnimport {
 
-/// Where the match of an application column came from.
+/// Where the match of an application column comes from.
 enum class MatchOrigin : unsigned char {
     none,        ///< there is no match
-    same,        ///< both names are the same once they are normalised
+    same,        ///< both names are equal once normalised
     synonym,     ///< the library knows the two names as synonyms
-    alternative, ///< the source column is called as one of the host's alternatives
+    alternative, ///< one of the host's alternatives names the source column
     similar,     ///< the names only resemble each other: a guess
     inOrder,     ///< the first line holds no titles, and columns are paired by position
     saved,       ///< the source has a column of the saved name
     byHand,      ///< the person chose it
-    foreign,     ///< the person brought in a text from elsewhere that names no source column
+    foreign,     ///< the person dropped or pasted a text that names no source column
 };
 
 /// The score of a match that is not a guess.
@@ -24,9 +25,17 @@ inline constexpr double noScore = -1.0;
 
 /// Which source column an application column is matched to, and why.
 struct ColumnMatch {
-    std::int32_t position = -1; ///< among the source's columns; -1 for none of them
+    std::int32_t position = -1; ///< of the source column; -1 if there is none
     MatchOrigin origin = MatchOrigin::none;
-    double score = noScore; ///< of a similar name, as the matcher compared it
+    double score = noScore; ///< of a similar name, as the matcher measured it
+};
+
+/// What an application column is matched to: a source column; a name from another program, which
+/// has no position; or nothing.
+struct SourceMatch : ColumnMatch {
+    std::string name;
+
+    bool isNone() const { return position < 0 && name.empty(); }
 };
 
 } // namespace columnimport

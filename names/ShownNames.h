@@ -13,14 +13,13 @@
 
 namespace columnimport {
 
-/// The texts under which the columns of a source are shown, and the columns and bytes that a shown
-/// text stands for.
+/// The texts that show the columns of a source, and the columns and bytes that a shown text stands
+/// for.
 ///
-/// A name is bytes, of any encoding or none. The shown text is made for a reader: decoded as well
-/// as possible, cut if it is long, with stand-ins for control characters. No two columns share a
-/// text. Names that would read the same get an invisible difference, a number in characters without
-/// a width; so does a column that is called "Not used". No text is empty, since an empty one could
-/// not be dragged.
+/// A name is bytes, in any encoding or none. Its shown text is decoded as well as possible, cut if
+/// it is long, and has stand-ins for control characters. No two columns share a text: names that
+/// would read the same, and a column called "Not used", get a number in zero-width characters. No
+/// text is empty, since an empty one can't be dragged.
 ///
 ///     position  name               shown as
 ///     none                         Not used, in the language of the dialog
@@ -35,11 +34,11 @@ namespace columnimport {
 /// The match list holds these texts. They keep their meaning when the process's locale changes.
 class ShownNames {
 public:
-    /// Stands in the place of a position where there is no column.
+    /// The position if there is no column.
     static constexpr std::int32_t noColumn = -1;
 
-    /// The columns of a source with these titles. Without titles in them the columns are called
-    /// "Column1" and so on.
+    /// The source's first line has the fields `titles`. If it holds no titles, the columns are
+    /// called "Column1" and so on.
     ShownNames(std::vector<std::string> titles, bool holdsTitles);
     ShownNames(const ShownNames &) = delete;
     ShownNames &operator=(const ShownNames &) = delete;
@@ -53,31 +52,31 @@ public:
     /// The text of a column, or of "Not used" for `noColumn`.
     wxString textOf(std::int32_t position) const;
 
-    /// The text under which a text from outside is shown. It means the column that is shown under
-    /// this very text; else the first column whose name has its bytes, in the process's locale or
-    /// as UTF-8 where the locale has nothing for it; else no column.
+    /// The shown text for a text from outside. It stands for the column with exactly this shown
+    /// text, else for the first column whose name is the same bytes once `encoded`, else for no
+    /// column.
     wxString textOfForeign(const wxString &text);
 
-    /// The text under which the name shown as `text` leaves for other programs: without the
-    /// invisible difference, and a blank for an empty name. If the text comes back it is the name
-    /// that left last.
+    /// The text that other programs get for the shown `text`: without the invisible number, and a
+    /// blank for an empty name. If it comes back, it stands for the name that left last.
     wxString textForOthers(const wxString &text);
 
-    /// The bytes that a shown text stands for; "Not used" where no column is used. A text that was
-    /// never shown is foreign.
+    /// The bytes that a shown text stands for; "Not used" for no column. A text that was never
+    /// shown is `encoded`.
     std::string bytesOf(const wxString &text) const;
 
     /// The position of the column that a shown text stands for, or `noColumn`.
     std::int32_t positionOf(const wxString &text) const;
 
-    /// Whether a shown text says that no column is used, or is that of a column called so.
+    /// Whether a shown text stands for the bytes "Not used": for no column, or for one of that
+    /// name.
     bool isUnused(const wxString &text) const;
 
 private:
     struct Entry {
         std::int32_t position;
-        std::string foreignBytes;  ///< of a text that is no column's
-        std::size_t visibleLength; ///< of the text, without its invisible difference
+        std::string foreignBytes;  ///< of a text without a column
+        std::size_t visibleLength; ///< of the text, without its invisible number
     };
 
     using Entries = std::unordered_map<std::wstring, Entry>;
@@ -89,10 +88,10 @@ private:
     std::vector<std::string> m_titles;
     bool m_holdsTitles;
     Entries m_entries;                         ///< by their texts
-    std::vector<const std::wstring *> m_texts; ///< of "Not used" and then of the columns
-    std::unordered_map<std::wstring, std::size_t> m_sharers; ///< by text, how many more share it
-    wxString m_left; ///< the name that left last, as it is shown
-    wxString m_leftAs;
+    std::vector<const std::wstring *> m_texts; ///< "Not used", then those of the columns
+    std::unordered_map<std::wstring, std::size_t> m_sharers; ///< how many more share a text
+    wxString m_left;   ///< the shown text of the name that left last
+    wxString m_leftAs; ///< what other programs got for it
 };
 
 } // namespace columnimport

@@ -8,8 +8,8 @@
 namespace columnimport {
 
 bool isUtf8(std::string_view bytes) {
-    // By the number of bytes that follow the first one: how that begins, and from which character
-    // on so many are needed.
+    // By the number of bytes after the first: the leading bits of the first byte, and the least
+    // character that needs so many bytes.
     constexpr struct {
         unsigned mask, lead;
         std::uint32_t least;

@@ -6,8 +6,7 @@
 
 namespace columnimport {
 
-/// Whether `bytes` are well-formed UTF-8: each character in its shortest form, none beyond Unicode,
-/// and no surrogate.
+/// Whether `bytes` are well-formed UTF-8: no overlong forms, no surrogates, nothing above U+10FFFF.
 bool isUtf8(std::string_view bytes);
 
 } // namespace columnimport

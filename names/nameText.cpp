@@ -15,15 +15,15 @@ namespace {
 
 constexpr wchar_t ellipsis = L'\x2026';
 
-/// Whether all characters are Unicode. The toolkit and some locales decode others too, and
-/// surrogates.
+/// Whether `text` is valid Unicode. The toolkit and some locales also decode surrogates and
+/// characters beyond Unicode.
 bool isUnicode(const wxString &text) {
     const std::string bytes = text.utf8_string();
     return !bytes.empty() && isUtf8(bytes);
 }
 
 /// A visible stand-in for an invisible character, or the character itself. The fonts of a plain
-/// Debian and of Windows have all of them.
+/// Debian and of Windows have all stand-ins.
 wxUniChar standIn(wxUniChar character) {
     constexpr wxUint32 arrow = 0x2192;
     constexpr wxUint32 paragraph = 0xB6;
@@ -40,7 +40,7 @@ wxUniChar standIn(wxUniChar character) {
     return isControl || value == byteOrderMark ? wxUniChar(replacement) : character;
 }
 
-/// The beginning of `bytes` if they are too long, without a part of a UTF-8 character at its end.
+/// `bytes`, cut between two UTF-8 characters if they are too long.
 std::string_view head(std::string_view bytes) {
     std::size_t length = std::min(bytes.size(), shownLength);
     while (length < bytes.size() && length > shownLength - 3 &&
@@ -50,7 +50,7 @@ std::string_view head(std::string_view bytes) {
     return bytes.substr(0, length);
 }
 
-/// `bytes`, or their beginning and an ellipsis.
+/// `bytes` as text; if they are too long, their head and an ellipsis.
 wxString decodedHead(std::string_view bytes) {
     const std::string_view shown = head(bytes);
     wxString text = decoded(std::string(shown));
