@@ -6,14 +6,14 @@
 
 namespace columnimport {
 
-/// How a byte-order mark at the start of a UTF-8 file is treated.
+/// Whether the byte-order mark that some programs write before a UTF-8 file is kept.
 enum class ByteOrderMark : unsigned char {
-    kept,   ///< it is a part of the first line
-    dropped ///< it is no part of anything
+    kept,   ///< it is part of the first line
+    dropped ///< it is skipped
 };
 
-/// Removes a byte-order mark from the first line of a file if `mark` asks for it.
-inline void removeUnwantedMark(std::string &firstLine, ByteOrderMark mark) {
+/// Removes the mark from the first line of a file if `mark` asks for that.
+inline void applyMarkPolicy(std::string &firstLine, ByteOrderMark mark) {
     constexpr const char *bytes = "\xEF\xBB\xBF";
     if (mark == ByteOrderMark::dropped && firstLine.compare(0, 3, bytes) == 0) {
         firstLine.erase(0, 3);

@@ -22,7 +22,7 @@ std::string SourceFile::readLine(std::size_t most) {
         endedByLineFeed = end < m_unread.size();
         m_unread.remove_prefix(endedByLineFeed ? end + 1 : end);
     }
-    // Only one platform's text mode would drop it.
+    // The file is open in binary mode, in which no platform drops the carriage return.
     if (endedByLineFeed && length == line.size() && !line.empty() && line.back() == '\r') {
         line.pop_back();
     }

@@ -14,9 +14,9 @@ namespace columnimport {
 
 /// A delimited file, open for reading only and shared with other programs, read line by line.
 ///
-/// `path` is UTF-8. A folder, a device or a pipe counts as a file that can't be opened. A read
-/// fails if there is nothing to read yet, instead of waiting; only a slow disk or network makes it
-/// wait. Lines are read alike on every platform.
+/// `path` is UTF-8. Anything but a regular file (a folder, a device, a pipe) counts as a file that
+/// can't be opened. A file that has nothing to read for the moment fails instead of blocking; a
+/// disk or network that doesn't answer does block. Every platform reads the same lines.
 class SourceFile {
 public:
     explicit SourceFile(const std::string &path);
@@ -27,14 +27,14 @@ public:
     /// The system's reason why the file is not readable, if it has one.
     std::error_code fault() const { return m_fault; }
 
-    /// Whether a read has met the end of the file. False before the first read, and for a file that
-    /// can't be opened.
+    /// Whether a read has reached the end of the file; false before the first read, and for a file
+    /// that can't be opened.
     bool isAtEnd() const { return m_isAtEnd; }
 
-    /// All bytes up to the next line feed, without the line feed itself and without one carriage
-    /// return directly before it. An empty line at the end of the file, or if reading fails.
+    /// The bytes up to the next line feed, without it and without a carriage return directly before
+    /// it. At the end of the file, or if reading fails, an empty line.
     ///
-    /// Only the first `most` bytes of a longer line are returned and kept in memory.
+    /// Of a longer line, only the first `most` bytes are returned and kept in memory.
     std::string readLine(std::size_t most = std::string::npos);
 
 private:
@@ -42,14 +42,14 @@ private:
         void operator()(std::FILE *file) const { std::fclose(file); }
     };
 
-    /// Reads on; false if there is no more.
+    /// Reads the next block; false if there is none.
     bool readBlock();
 
-    std::error_code m_fault; // filled while the file is opened
+    std::error_code m_fault; // before m_file, since opening sets it
     std::unique_ptr<std::FILE, Close> m_file;
     bool m_isAtEnd = false;
     std::array<char, 1U << 16U> m_block;
-    std::string_view m_unread; ///< of the block
+    std::string_view m_unread; ///< the rest of the block
 };
 
 } // namespace columnimport

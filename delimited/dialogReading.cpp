@@ -3,7 +3,6 @@
 // The members of the dialog that read its file.
 
 #include "delimited/readHeader.h"
-#include "delimited/readPreview.h"
 #include "dialogs/ImportOptions.h"
 #include "dialogs/wxImportCSVDialog.h"
 

@@ -39,11 +39,10 @@ bool isLikelyText(std::string_view line, std::size_t position) {
                                  : line[position] == ';' && after == ' ';
 }
 
-/// How often a delimiter occurs where it does not read like punctuation, and in all. The likely
-/// delimiter has the greatest.
+/// How often a delimiter occurs without reading like punctuation, and in all. The greatest wins.
 using Tally = std::pair<std::size_t, std::size_t>;
 
-/// The number of words if each could be a title, else 0.
+/// The number of words, or 0 if one of them can't be a title.
 std::size_t titlesOfOneWord(std::string_view line) {
     std::size_t words = 0;
     bool hasCapital = false;

@@ -8,12 +8,12 @@
 
 namespace columnimport {
 
-/// Opens the file `path` (UTF-8) for reading, byte for byte and shared with other programs. The
-/// caller closes it.
+/// Opens the regular file `path` (UTF-8) for binary reading, shared with other programs. The caller
+/// closes it.
 ///
-/// Does not wait for the file's content. Anything but a regular file (a folder, a device, a pipe)
-/// is closed again. Returns null then, and if the file can't be opened, with the system's reason in
-/// `fault` if it has one.
+/// Never waits for a pipe or a device. Returns null if the file can't be opened or is not a regular
+/// one, and sets `fault` to the system's reason if there is one. Each platform has a file of its
+/// own.
 std::FILE *openRegularFile(const std::string &path, std::error_code &fault);
 
 } // namespace columnimport

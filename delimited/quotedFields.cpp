@@ -19,7 +19,7 @@ bool holdsReturn(std::string_view text) {
     return text.find('\r') != std::string_view::npos;
 }
 
-/// The place of the double quote that ends the quotes opened before `begin`, or npos.
+/// The position of the double quote that closes the one before `begin`, or npos.
 std::size_t closingQuote(std::string_view line, std::size_t begin) {
     std::size_t quote = line.find('"', begin);
     while (quote != std::string_view::npos && line.substr(quote + 1, 1) == "\"") {
@@ -28,11 +28,11 @@ std::size_t closingQuote(std::string_view line, std::size_t begin) {
     return quote;
 }
 
-/// A field as readers find it, up to its delimiter or the end of the line, and in what they agree.
+/// A field as readers see it, up to its delimiter or the end of the line, and what they agree on.
 struct QuotedField {
     std::size_t end;
     bool beginIsAgreed = true;
-    bool insideIsAgreed = true; ///< that it goes on behind a delimiter
+    bool insideIsAgreed = true; ///< that the field goes on after a delimiter
     bool endIsAgreed = true;
 };
 
@@ -72,8 +72,7 @@ std::vector<std::int32_t> quotedFields(const std::string &sourceLine, char delim
     if (line.empty()) {
         return numbers;
     }
-    // Each rest of the line is trimmed by the cut, so between blank delimiters no blank field
-    // stays.
+    // The cut trims the rest of the line, so it drops the blank fields between blank delimiters.
     const bool dropsBlank = isBlank(std::string_view(&delimiter, 1));
     bool isAgreed = true;
     std::size_t begin = 0;

@@ -16,7 +16,7 @@ Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     Header header;
     SourceFile file(path);
     std::string line = file.readLine();
-    removeUnwantedMark(line, mark);
+    applyMarkPolicy(line, mark);
     header.reason = file.fault();
     if (!file.isReadable()) {
         return header;
@@ -49,6 +49,19 @@ std::string problemOf(const Header &header) {
     }
     const std::string words = header.reason.message();
     return isUtf8(words) ? words : "Error " + std::to_string(header.reason.value());
+}
+
+std::string readPreview(const std::string &path, std::size_t most, ByteOrderMark mark) {
+    std::string preview;
+    SourceFile file(path);
+    for (int line = 0; line < previewLines && !file.isAtEnd(); ++line) {
+        preview += file.readLine(most);
+        if (line == 0) {
+            applyMarkPolicy(preview, mark);
+        }
+        preview += '\n';
+    }
+    return preview;
 }
 
 } // namespace columnimport

@@ -30,8 +30,8 @@ std::string popField(std::string &rest, const std::string &delimiter);
 /// Replaces `fields` by the fields of `line`, trimmed, in order; a blank line has none. Bytes are
 /// compared as they are: no quoting, no escapes, no encoding. `delimiter` must not be empty.
 ///
-/// A delimiter that is not itself a blank never collapses; a blank or a tab does, since what
-/// follows each cut is trimmed.
+/// Runs of blanks or tabs collapse as delimiters, since the rest is trimmed after each cut; runs of
+/// other delimiters do not.
 ///
 ///     splitLine("a,,b,", fields, ",")  gives "a", "", "b", ""
 ///     splitLine("a  b ", fields, " ")  gives "a", "b"

@@ -4,7 +4,7 @@
 
 #include "dialogs/wxImportCSVDialog.h"
 
-#include "delimited/readPreview.h"
+#include "delimited/readHeader.h"
 #include "dialogs/DelimiterField.h"
 #include "dialogs/ImportLists.h"
 #include "dialogs/ImportOptions.h"

@@ -3,7 +3,7 @@
 #include "bench/window/Import.h"
 
 #include "bench/columnNames.h"
-#include "delimited/readPreview.h"
+#include "delimited/readHeader.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -26,7 +26,7 @@ std::FILE *openRegularFile(const std::string &path, std::error_code &fault) {
             std::fclose(file);
         }
     } catch (const std::system_error &failure) {
-        // A path that is not UTF-8 names no file.
+        // The path is not valid UTF-8.
         fault = failure.code();
     }
     return nullptr;

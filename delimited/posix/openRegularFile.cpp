@@ -11,8 +11,8 @@
 namespace columnimport {
 
 std::FILE *openRegularFile(const std::string &path, std::error_code &fault) {
-    // Some files count as regular and have nothing to read for the time being. A read of one must
-    // not wait either.
+    // O_NONBLOCK also keeps a read from waiting: some regular files have nothing to read for the
+    // moment.
     const int descriptor = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     struct stat status = {};
     if (descriptor < 0 || fstat(descriptor, &status) != 0) {

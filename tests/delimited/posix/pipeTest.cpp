@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "delimited/readHeader.h"
-#include "delimited/readPreview.h"
+#include "delimited/readHeader.h"
 #include "tests/ScratchFile.h"
 
 #include <gtest/gtest.h>
