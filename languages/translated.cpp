@@ -19,15 +19,15 @@ namespace {
 constexpr const char *catalogueName = "columnimport";
 constexpr std::string_view languages[] = {COLUMNIMPORT_LANGUAGES};
 
-/// Null for English. The toolkit's own translations are the host's.
+/// Null for English. The toolkit's global translations belong to the host.
 std::unique_ptr<wxTranslations> chosen;
 
 bool hasCatalogue(const std::string &language) {
     return std::find(std::begin(languages), std::end(languages), language) != std::end(languages);
 }
 
-/// The language of the catalogue for `wanted`: that of its country, or else the language alone.
-/// Empty if there is none.
+/// The language of the catalogue for `wanted`: with its country, or else without; empty if there is
+/// none.
 std::string catalogueFor(const std::string &wanted) {
     for (const std::string &language : {wanted, wanted.substr(0, wanted.find('_'))}) {
         if (hasCatalogue(language)) {

@@ -6,23 +6,23 @@
 
 namespace columnimport {
 
-// The dialogs' texts are in the code in English, and in a catalogue for each other language. A host
-// that is written with the toolkit has translations of its own; neither finds the other's texts.
-// For the user-interface thread alone.
+// The dialogs' texts are English in the code; each other language has a catalogue. The catalogues
+// are separate from the translations of a host that is written with the toolkit: neither finds the
+// other's texts. On the user-interface thread alone.
 
-/// Chooses the language of all later texts: the first of the process's languages for messages that
-/// has a catalogue, or else English.
+/// Chooses the language of the texts from now on: the first of the process's languages for
+/// messages, as its host set them, that has a catalogue. English if there is none.
 void chooseLanguage();
 
-/// `text` in that language, or unchanged if that is English or the catalogue lacks it.
+/// `text` in that language; unchanged in English, or if the catalogue lacks it.
 wxString translated(const char *text);
 
-/// The one of two texts that goes with `count`, in that language.
+/// The singular or plural text for `count`, in that language.
 ///
 ///     wxString::Format(translated("%d row", "%d rows", 3), 3) == "3 rows"
 wxString translated(const char *one, const char *many, unsigned count);
 
-/// Two texts to be translated later, marked here for the catalogues.
+/// Two texts to translate later, marked for the catalogues.
 struct Plural {
     const char *one;
     const char *many;

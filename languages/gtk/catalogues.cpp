@@ -25,7 +25,7 @@ std::filesystem::path folderOfLibrary() {
 
 } // namespace
 
-// As in gettext: the variable counts in every locale but C.
+// Like gettext: the variable counts in every locale but C.
 std::string messageLanguages() {
     std::string locale = std::setlocale(LC_MESSAGES, nullptr);
     if (locale == "C" || locale == "POSIX") {
@@ -35,7 +35,7 @@ std::string messageLanguages() {
     return listed != nullptr && *listed != '\0' ? listed : locale;
 }
 
-// Relative to the library: as installed, or in its build folder.
+// Beside the library itself, installed or in its build folder.
 wxMsgCatalog *loadCatalogue(const wxString &name, const wxString &language) {
     const std::filesystem::path library = folderOfLibrary();
     for (const char *folder : {COLUMNIMPORT_INSTALLED_CATALOGUES, "locale"}) {

@@ -12,7 +12,7 @@ namespace columnimport {
 
 namespace {
 
-/// The DLL, or the program that this code is linked into.
+/// Loads from the DLL, or whatever else this code is linked into.
 class InLibrary : public wxResourceTranslationsLoader {
 protected:
     WXHINSTANCE GetModule() const override {
@@ -26,8 +26,8 @@ protected:
 
 } // namespace
 
-// The variable is gettext's. Without it the thread has the language of the system's windows, unless
-// the host chose another.
+// The variable is gettext's. Without it the thread's language counts: that of Windows, unless the
+// host has set another.
 std::string messageLanguages() {
     if (const char *listed = std::getenv("LANGUAGE"); listed != nullptr && *listed != '\0') {
         return listed;
