@@ -6,7 +6,7 @@
 
 namespace columnimport {
 
-/// A name of fewer bytes is too short for the measure.
+/// The measure takes no shorter name.
 inline constexpr std::size_t leastMeasuredLength = 3;
 
 /// The measure of two different names of `lengthA` and `lengthB` bytes, of which `sharedA` and

@@ -20,7 +20,7 @@ std::size_t sharedBytes(const std::string &name, std::string other) {
         const std::size_t found = other.find(byte);
         if (found != std::string::npos) {
             ++shared;
-            other[found] = '#'; // which no normalised name has
+            other[found] = '#'; // no normalised name contains it
         }
     }
     return shared;
@@ -50,7 +50,7 @@ std::int32_t longestCommonSubstringLength(std::string a, std::string b, std::int
     assert(lengthB >= 0 && static_cast<std::size_t>(lengthB) <= b.size());
     const auto rows = static_cast<std::size_t>(lengthA) + 1;
     const auto columns = static_cast<std::size_t>(lengthB) + 1;
-    // The length of the run that ends behind i bytes of one text and j bytes of the other.
+    // The length of the common run that ends after i bytes of `a` and j bytes of `b`.
     std::vector<std::vector<std::int32_t>> runs(rows, std::vector<std::int32_t>(columns, 0));
     std::int32_t longest = 0;
     for (std::size_t i = 1; i < rows; ++i) {

@@ -7,14 +7,14 @@
 
 namespace columnimport {
 
-/// How well two normalised names fit; larger is better, and their order does not matter. This is
-/// the rule in its plain form: `castVotes` gives the same scores without trying every pair, and is
-/// compared with it.
+/// How well two normalised names fit; larger is better, and their order makes no difference. This
+/// is the plain rule: `castVotes` gives the same scores without trying every pair, and tests
+/// compare the two.
 ///
 /// 1.0 for equal names, 0.99 for synonyms, 0.0 for other pairs with a name under three bytes.
-/// Any other pair is measured by what the names share, each share as a part of each name's
-/// length: half by the bytes that occur in both, in any order, half by one less than the longest
-/// run of bytes that occurs in both. The measure lies from -1/6 up to, but not including, 1.0.
+/// Any other pair is measured by what the names share, in proportion to each name's length: half by
+/// the bytes that occur in both, in any order, half by one less than the longest run of bytes that
+/// occurs in both. The measure lies from -1/6 up to, but not including, 1.0.
 ///
 ///     columnNameScore("au_gt", "ag_gt") is 0.6: four shared bytes and a run of three
 double columnNameScore(std::string a, std::string b);

@@ -13,7 +13,7 @@ namespace columnimport {
 
 namespace {
 
-/// The score that two similar names were matched with.
+/// The score with which two similar names were matched.
 double similarity(const std::string &app, const std::string &file) {
     Vote vote;
     offerMeasured(vote, {0, PreparedName(app)}, PreparedName(file));

@@ -11,9 +11,9 @@
 
 namespace columnimport {
 
-/// Why `matchColumns` gave `proposal` for the same three lists: the same positions, each with its
-/// origin (same, synonym, alternative or similar, the first that holds) and the score of a similar
-/// name, to the last bit of what decided.
+/// Explains the `proposal` of `matchColumns` for the same three lists: the same positions, each
+/// with the first origin that holds (same, synonym, alternative, similar), and for a similar name
+/// the exact score that decided.
 ///
 /// Costs one comparison of names for each match. `matchColumns` itself costs no more.
 ///

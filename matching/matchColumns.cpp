@@ -19,7 +19,7 @@ void normalizeAll(std::vector<std::string> &names) {
     }
 }
 
-/// Every application column keeps its strongest vote, the first of equals.
+/// Each application column keeps its strongest vote, the first of equals.
 std::vector<std::int32_t> keepStrongest(const std::vector<Vote> &votes, std::size_t appCount) {
     std::vector<std::int32_t> proposal(appCount, -1);
     for (std::size_t file = 0; file < votes.size(); ++file) {
@@ -34,9 +34,11 @@ std::vector<std::int32_t> keepStrongest(const std::vector<Vote> &votes, std::siz
     return proposal;
 }
 
-std::vector<std::int32_t> proposal(std::vector<std::string> appColumns,
-                                   std::vector<std::string> fileColumns,
-                                   Alternatives alternatives) {
+} // namespace
+
+std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
+                                       std::vector<std::string> fileColumns,
+                                       Alternatives alternatives) {
     assert(alternatives.size() <= appColumns.size());
     normalizeAll(appColumns);
     normalizeAll(fileColumns);
@@ -44,17 +46,9 @@ std::vector<std::int32_t> proposal(std::vector<std::string> appColumns,
     return keepStrongest(castVotes(appColumns, fileColumns, alternatives), appColumns.size());
 }
 
-} // namespace
-
-std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns,
-                                       Alternatives alternatives) {
-    return proposal(std::move(appColumns), std::move(fileColumns), std::move(alternatives));
-}
-
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
                                        std::vector<std::string> fileColumns) {
-    return proposal(std::move(appColumns), std::move(fileColumns), {});
+    return matchColumns(std::move(appColumns), std::move(fileColumns), {});
 }
 
 } // namespace columnimport

@@ -8,8 +8,8 @@
 
 namespace columnimport {
 
-/// A host's further words for its application columns: a list for each of them, in their order.
-/// Lists at the end may be missing.
+/// A host's other words for its application columns: a list for each, in their order. Lists at the
+/// end may be missing.
 using Alternatives = std::vector<std::vector<std::string>>;
 
 /// Proposes a file column for each application column, from the names alone.
@@ -18,8 +18,8 @@ using Alternatives = std::vector<std::vector<std::string>>;
 /// `columnNameScore` (the first of equals); every application column keeps the strongest vote that
 /// it received (the first of equals), and the vote counts only if its score is above 0.4.
 ///
-/// A file column that equals one of `alternatives` fits that application column with at least 0.99,
-/// as a synonym does. Nothing is measured against alternatives.
+/// A file column with the name of an alternative fits that application column with at least 0.99,
+/// as a synonym does. No name is measured against alternatives.
 ///
 /// Returns one entry per application column, in their order: a position in `fileColumns`, or -1
 /// for no match. No position occurs twice. Names are taken as written and normalised here; empty

@@ -8,15 +8,15 @@ namespace columnimport {
 
 namespace {
 
-/// The spellings of a unit and its normalised form, applied in this order: a percent sign takes one
-/// separator before it along before it is replaced alone.
+/// Ways to write a unit, and its normalised form. They apply in this order: a percent sign behind a
+/// separator comes before one that stands alone.
 constexpr struct {
     const char *written;
     const char *normalised;
 } unitRules[] = {{" %", "_pct"}, {"_%", "_pct"}, {"%", "_pct"}, {"g/t", "gt"}};
 
-/// As in the C locale, whatever the host has set: in a Turkish one the letter I has another lower
-/// case.
+/// The same in every locale that the host may have set: a Turkish one has another small letter for
+/// I.
 char toLower(char byte) {
     return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
 }

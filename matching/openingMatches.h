@@ -10,17 +10,18 @@
 
 namespace columnimport {
 
-/// Whether any of the saved matches is not empty.
+/// Whether any saved match is not empty.
 bool holdsAName(const std::vector<std::string> &savedMatches);
 
 /// The matches that an import opens with, one for each application column.
 ///
 ///  - Without titles the columns are paired in their order.
-///  - With `savedMatches` each is the first source column of the very name that was saved. There
-///    is one match for each entry. An entry that is empty or names no source column gives none and
-///    is emptied, so that it gives none from then on.
-///  - Otherwise the names alone propose it. An application column that refuses similar names is
-///    then left without the guess that it got; the source column goes nowhere else instead.
+///  - With `savedMatches`, one for each entry: the first source column with exactly the saved name.
+///    An entry that is empty or names no source column gives no match and is emptied, so that it
+///    gives none later either.
+///  - Otherwise a proposal from the names alone, less the guesses of application columns that
+///  refuse
+///    similar names. The source column of such a guess goes to no other application column.
 ///
 /// @param appColumns     the application columns
 /// @param alternatives   the host's other words for them, as `matchColumns` takes them

@@ -8,15 +8,15 @@
 
 namespace columnimport {
 
-/// For each head word the words that it is a synonym of.
+/// Each head word with its synonyms.
 using SynonymTable = std::map<std::string, std::vector<std::string>>;
 
-/// The synonyms of our field in normalised form, made anew by each call.
+/// The synonyms of our field, normalised. Each call makes a new table.
 SynonymTable synonymTable();
 
-/// Whether one of two normalised names is a head word of the `synonymTable` and the other is in its
-/// list, in either order. Two words in one list are not synonyms, nor are two synonyms of a third
-/// word.
+/// Whether one of two normalised names is a head word of the `synonymTable` and the other one of
+/// its listed words. Their order makes no difference. Two words with a common head, or with any
+/// other synonym in common, are not synonyms for that reason.
 ///
 ///     areSynonyms("bhid", "holename") == true
 ///     areSynonyms("bhid", "holeid")   == false, both are only listed

@@ -14,17 +14,17 @@
 
 namespace columnimport {
 
-/// Finds the application column that a file column equals, or is a synonym or an alternative of,
-/// with one look-up, however many there are.
+/// Finds with one look-up the application column that a file column equals, or is a synonym or an
+/// alternative of.
 class FitTable {
 public:
-    /// Normalised names, which must outlive the table.
+    /// All names are normalised, and must outlive the table.
     FitTable(const std::vector<std::string> &appColumns, const Alternatives &alternatives);
     FitTable(const FitTable &) = delete;
 
     /// The vote of a file column that equals an application column, or is a synonym or an
-    /// alternative of one; a vote for none if there is no such column. A file column with a synonym
-    /// is too short for a measure of 0.99, one with an alternative may not be.
+    /// alternative of one; a vote for none if there is no such column. A synonym is too short to
+    /// measure 0.99 with any name; an alternative may not be.
     Vote find(std::string_view fileColumn) const;
 
 private:
@@ -39,7 +39,7 @@ private:
     void link(std::string_view appColumn, std::string_view synonym);
 
     const SynonymTable m_synonyms = synonymTable();
-    std::unordered_map<std::string_view, Fit> m_fits; ///< by words of the lists and the synonyms
+    std::unordered_map<std::string_view, Fit> m_fits; ///< by word
 };
 
 } // namespace columnimport

@@ -9,7 +9,7 @@
 
 namespace columnimport {
 
-/// How many columns are compared side by side.
+/// The number of columns that are compared side by side.
 inline constexpr std::size_t laneCount = 128;
 
 /// One bit for each of them.
@@ -27,8 +27,8 @@ void forEachLane(const Lanes &lanes, Visit visit) {
     }
 }
 
-/// A counter up to 255 for each lane. Bit p of all counters stands in one value, `m_bits[p]`, so
-/// that a few operations on whole words count in all lanes.
+/// A counter up to 255 for each lane. One value, `m_bits[p]`, holds bit p of all counters, so that
+/// a few operations on whole words count in all lanes.
 class LaneCounters {
 public:
     static constexpr std::size_t rowsAtOnce = 4;
@@ -46,18 +46,18 @@ public:
         }
     }
 
-    /// Sets counters that are 0.
+    /// Sets the counters of `lanes`, which must be 0.
     void set(const Lanes &lanes, std::size_t value) {
         for (std::size_t bit = 0; bit < m_bits.size(); ++bit) {
             m_bits[bit] |= ((value >> bit) & 1U) != 0 ? lanes : Lanes();
         }
     }
 
-    /// The lanes whose counters stand at 128 or above.
+    /// The lanes whose counters are at least 128.
     const Lanes &atLeast128() const { return m_bits.back(); }
 
 private:
-    /// Adds two bits to one of each counter and returns what is carried into the next.
+    /// Adds two bits to one bit of each counter and returns the carry.
     Lanes addBits(std::size_t bit, const Lanes &a, const Lanes &b) {
         const Lanes before = m_bits[bit];
         const Lanes either = a ^ b;

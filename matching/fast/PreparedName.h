@@ -21,7 +21,7 @@ inline constexpr auto symbolOfByte = [] {
     return table;
 }();
 
-/// The place of a normalised name's byte among the `nameSymbols`.
+/// The index of a normalised name's byte in `nameSymbols`.
 inline std::uint8_t symbolOf(char byte) {
     assert(nameSymbols.find(byte) != std::string_view::npos);
     return symbolOfByte[static_cast<unsigned char>(byte)];
@@ -30,16 +30,22 @@ inline std::uint8_t symbolOf(char byte) {
 /// The most bytes of a name whose positions fit into one mask.
 inline constexpr std::size_t maskedLength = 64;
 
-/// A normalised name, whose bytes must outlive it, and what is computed once for all comparisons.
-/// The arrays have an entry for each symbol.
+/// A normalised name, with what all its comparisons need. Its bytes must outlive it. The arrays
+/// have an entry for each symbol.
 struct PreparedName {
-    explicit PreparedName(std::string_view name);
+    explicit PreparedName(std::string_view name) : bytes(name) {
+        for (std::size_t i = 0; i < name.size(); ++i) {
+            const std::uint8_t symbol = symbolOf(name[i]);
+            ++counts[symbol];
+            positions[symbol] |= isMasked() ? std::uint64_t{1} << i : 0;
+        }
+    }
 
     bool isMasked() const { return bytes.size() <= maskedLength; }
 
     std::string_view bytes;
     std::array<std::uint32_t, nameSymbols.size()> counts{};
-    /// Bit i is set if the name has the symbol at i. All are 0 if the name is too long for that.
+    /// Bit i is set if the name has the symbol at i. All are 0 if the name is too long for masks.
     std::array<std::uint64_t, nameSymbols.size()> positions{};
 };
 

@@ -12,12 +12,12 @@ namespace columnimport {
 
 namespace {
 
-/// The scores to look for, one after the other. Most file columns that fit at all fit well, and a
-/// high bar spares nearly all others the measure.
+/// The scores to reach, tried in this order. Most file columns that fit at all fit well, and a high
+/// bar spares nearly all other columns the measure.
 constexpr std::array bars = {0.7, 0.55, acceptanceThreshold};
 
 /// A byte's first, second, third and any later occurrence are four features; a pair of neighbours
-/// is one, however often it occurs. What is not told apart can only raise a bound.
+/// is one, however often it occurs. Merging features can only raise a bound.
 constexpr std::size_t ranksPerSymbol = 4;
 constexpr std::size_t featureCount =
     nameSymbols.size() * ranksPerSymbol + nameSymbols.size() * nameSymbols.size();

@@ -13,9 +13,8 @@
 
 namespace columnimport {
 
-/// The application columns' names of 3 to `maskedLength` bytes, prepared for being compared with
-/// one file column's name after the other by the measure for names that are neither equal nor
-/// synonyms.
+/// The application columns with names of 3 to `maskedLength` bytes, prepared for being measured
+/// with one file column after the other. Equal names and synonyms are left to `FitTable`.
 ///
 /// The measure of two names grows with the bytes that they share plus the longest run less one. A
 /// run of L bytes has L - 1 pairs of neighbours, so the bytes and the pairs that two names share
@@ -23,10 +22,9 @@ namespace columnimport {
 /// the index has a row with one bit per application column, its lane. Adding up the rows of a file
 /// column's features bounds its measure for 128 application columns at once.
 ///
-/// A counter does not start at 0 but as far below 128 as the `leastSum` for a given score: then its
-/// uppermost bit tells whether the bound reaches the score. Only such columns are measured. A good
-/// score is tried first, and only if no column has it the bar is lowered, down to the acceptance
-/// threshold.
+/// Each counter starts at 128 less the `leastSum` for a given score, so its top bit shows whether
+/// the bound reaches the score. Only such columns are measured. A good score is tried first; if no
+/// column reaches it, the bar is lowered, down to the acceptance threshold.
 ///
 /// The application columns `depth`, `dips` and `dip`, and a file column `dept` tried for 0.7:
 ///
@@ -51,11 +49,11 @@ public:
         return name.size() >= leastMeasuredLength && name.size() <= maskedLength;
     }
 
-    /// Takes columns that it `holds`, in an order by length.
+    /// Takes columns that it `holds`, sorted by length.
     explicit ShortNameIndex(std::vector<AppColumn> columns);
 
-    /// Offers all columns to the vote of a file column with a name that the index `holds`. The vote
-    /// is for none so far.
+    /// Offers all columns to the vote of the file column `file`, whose name the index `holds`. The
+    /// vote must be for none so far.
     void offer(Vote &vote, const PreparedName &file);
 
 private:
@@ -71,13 +69,12 @@ private:
 
     static constexpr std::size_t emptyRow = 0;
 
-    std::vector<AppColumn> m_columns; ///< 128 of them make a block
+    std::vector<AppColumn> m_columns; ///< in blocks of 128
     std::size_t m_blockCount;
     std::vector<std::size_t> m_rowOfFeature; ///< where the feature's row begins in m_rows
     std::vector<Lanes> m_rows;               ///< m_blockCount entries for each row
     std::vector<Starts> m_starts;            ///< by bar and length, made when first needed
-    /// The rows of the file column that is being offered the columns, padded with empty rows to a
-    /// multiple of those that are added at once.
+    /// The rows of the present file column, padded with empty rows to a multiple of `rowsAtOnce`.
     std::vector<std::size_t> m_rowsOfFile;
 };
 

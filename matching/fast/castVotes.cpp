@@ -14,13 +14,13 @@ namespace columnimport {
 
 namespace {
 
-/// A name of fewer bytes measures less than 0.99 with any other: at most, with one that has a byte
-/// more than its own n, (4 * n * n - 1) / (4 * n * n + 4 * n).
+/// A shorter name measures less than 0.99 with any other. A name of n bytes reaches its maximum, (4
+/// * n * n - 1) / (4 * n * n + 4 * n), with a name of one byte more.
 constexpr std::size_t leastLengthAboveSynonym = 100;
-static_assert(leastLengthAboveSynonym > maskedLength, "so long a name is not for the index");
+static_assert(leastLengthAboveSynonym > maskedLength, "the index holds no name this long");
 
-/// The application columns that can be measured. The longest come first: of two names that stand
-/// in a long one, the longer scores higher, and the shorter need not be looked for.
+/// The application columns that can be measured, longest first: of two names that a long one
+/// contains, the longer scores higher, and the shorter need not be searched for.
 std::vector<AppColumn> longestFirst(const std::vector<std::string> &names) {
     std::vector<AppColumn> columns;
     columns.reserve(names.size());

@@ -10,16 +10,15 @@
 
 namespace columnimport {
 
-/// The votes of the file columns, in their order, as if each were scored with every application
-/// column: each goes to the first of those with the best `columnNameScore`, or with an alternative
-/// of 0.99, or to none if no score is above the acceptance threshold. All names are normalised.
+/// The votes of the file columns, in order, as if each were scored with every application column by
+/// `columnNameScore`, with at least 0.99 for an alternative. Each goes to the first column with the
+/// best score, or to none if no score is above the acceptance threshold. All names are normalised.
 ///
-/// All that makes matching fast is behind this function. Work that belongs to one name is done once
-/// for that name. One look-up finds a file column that equals an application column, or is a
-/// synonym or an alternative of one (`FitTable`). The others are compared with all application
-/// columns side by side (`ShortNameIndex`), and only those whose bound reaches the best score so
-/// far are measured (`offerMeasured`). Names too long for the index are measured one by one behind
-/// simpler bounds.
+/// This is the entry point of the fast matcher. It prepares each name once. It finds a file column
+/// that equals an application column, or is a synonym or an alternative of one, by one look-up
+/// (`FitTable`). It compares the others with all application columns side by side
+/// (`ShortNameIndex`), and measures only those whose bound reaches the best score so far
+/// (`offerMeasured`). Names too long for the index are measured one by one, behind simpler bounds.
 std::vector<Vote> castVotes(const std::vector<std::string> &appColumns,
                             const std::vector<std::string> &fileColumns,
                             const Alternatives &alternatives);

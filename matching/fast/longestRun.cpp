@@ -8,7 +8,7 @@ namespace columnimport {
 
 namespace {
 
-/// The length of the run on both sides of the two bytes at `a[i]` and `b[j]`, which are equal.
+/// The length of the common run around the equal bytes `a[i]` and `b[j]`.
 std::size_t runAround(std::string_view a, std::size_t i, std::string_view b, std::size_t j) {
     std::size_t before = 0;
     while (before < std::min(i, j) && a[i - before - 1] == b[j - before - 1]) {
@@ -27,8 +27,8 @@ std::size_t longestRunAbove(std::size_t floor, std::string_view a, std::string_v
     const auto [name, text] = std::minmax(a, b, [](std::string_view one, std::string_view other) {
         return one.size() < other.size();
     });
-    // A longer run than the best so far covers one of any best + 1 neighbouring bytes of the text,
-    // so only each of these is looked up in the name.
+    // A run longer than `best` covers one of the bytes that are best + 1 apart in the text, so only
+    // these are looked up in the name.
     std::size_t best = floor;
     for (std::size_t probe = best; probe < text.size(); probe += best + 1) {
         for (std::size_t at = name.find(text[probe]); at != std::string_view::npos;

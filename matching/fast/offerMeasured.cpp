@@ -20,12 +20,11 @@ std::size_t sharedBytes(const PreparedName &a, const PreparedName &b) {
     return shared;
 }
 
-/// As `longestRunAbove`, for a name whose positions are known; the cost is at most the text's
-/// length times the run's.
+/// `longestRunAbove` for a name with masks; costs at most the text's length times the run's.
 ///
-/// A window one byte longer than the best run so far is read backwards: the mask keeps the
-/// positions of the name at which all that was read stands. When none is left, no longer run can
-/// begin before the byte that ended it, and the window moves there.
+/// Reads a window one byte longer than the best run backwards. The mask keeps the positions of the
+/// name where all that was read matches. Once none is left, no longer run can begin up to the byte
+/// that ended it, and the window moves behind that.
 std::size_t longestRunByMasks(std::size_t floor, const PreparedName &name, std::string_view text) {
     assert(name.isMasked());
     std::size_t best = floor;
@@ -58,7 +57,8 @@ void offerMeasured(Vote &vote, const AppColumn &column, const PreparedName &file
     const std::size_t length = column.name.bytes.size();
     const std::size_t fileLength = file.bytes.size();
     const std::size_t least = leastSum(vote.score, length, fileLength);
-    // No run is longer than the shared bytes, and these are no more than the shorter name's.
+    // The run is at most as long as the shared bytes, and these at most as many as the shorter
+    // name's.
     if (2 * std::min(length, fileLength) <= least) {
         return;
     }
