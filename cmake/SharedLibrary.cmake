@@ -68,7 +68,6 @@ else()
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/markColours.cpp
-        host/gtk/frameShadow.cpp
         readers/gtk/AccessibleRow.cpp)
     include(cmake/ProposeLibrary.cmake)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)

@@ -12,7 +12,7 @@
 
 namespace columnimport {
 
-/// What a host asks for in one import, through either entry point.
+/// What a host asks of one import, through any of the entry points.
 struct ImportRequest {
     std::string title;
     std::int32_t width = 0;
@@ -26,18 +26,18 @@ struct ImportRequest {
     std::vector<std::string> savedMatches; ///< by application column, empty for none
 
     std::string path;                              ///< of the file
-    std::optional<std::vector<std::string>> table; ///< the names of a table's columns instead
+    std::optional<std::vector<std::string>> table; ///< the columns of a table instead
     char delimiter = ',';
     bool holdsTitles = true;
     ByteOrderMark byteOrderMark = ByteOrderMark::kept;
 };
 
-/// The result of one import.
+/// The outcome of one import.
 struct ImportResult {
     std::vector<SourceMatch> matches; ///< one for each row of the dialog
     std::vector<std::string> sourceColumns;
-    std::vector<std::int32_t> fields; ///< by source column, as Header has them; none of a table
-    std::string fileProblem;          ///< why the file could not be read; empty if it was
+    std::vector<std::int32_t> fields; ///< by source column, as in Header; empty for a table
+    std::string fileProblem;          ///< why the file could not be read, or empty
     char delimiter = ',';
     bool holdsTitles = true;
 };

@@ -11,7 +11,7 @@
 
 namespace columnimport {
 
-/// What an import opens with: the first content of a dialog, or a proposal as a whole.
+/// What an import opens with, in a dialog or as the whole answer.
 struct Opening {
     Header source; ///< its columns, and what came of the first line of a file
     std::vector<ColumnMatch> matches;
@@ -25,8 +25,8 @@ Header readSource(const ImportRequest &request);
 std::vector<ColumnMatch> matchSource(ImportRequest &request,
                                      const std::vector<std::string> &titles);
 
-/// Both steps. `columnName` gives the name of a column without a title, and `problemOf` the reason
-/// why a file could not be read.
+/// Both in a row. `columnName` names a source column without a title, and `problemOf` says why a
+/// file could not be read.
 Opening openImport(ImportRequest request);
 
 } // namespace columnimport

@@ -18,10 +18,10 @@ namespace columnimport {
 
 namespace {
 
-/// Where the dialog stands, on platforms that let a program place its windows.
+/// The dialog's place, on platforms that let a program place its windows.
 const wxPoint framePlace(100, 100);
 
-/// Exists while a dialog of the library is open; there is one at a time. Meanwhile the toolkit logs
+/// Marks that a dialog of the library is open; there is one at a time. Meanwhile the toolkit logs
 /// nothing, neither to the host's console nor in windows of its own.
 class OpenRun {
 public:
@@ -36,9 +36,9 @@ private:
     wxLogNull m_silence;
 };
 
-/// The size of the frame for a host that asks for `size`: that very size where the layout has its
-/// usual scale. Elsewhere a host can't know what to ask for, so the size follows the scale, up to
-/// the end of the screen.
+/// The frame's size for a host that asks for `size`: exactly that at the usual scale. At another
+/// scale the host can't know what to ask for, so the size follows the scale, up to the end of the
+/// screen.
 wxSize frameSize(const wxWindow &dialog, wxSize size) {
     constexpr int greatestSize = 32000; // no screen has as many pixels
     const Scale scale(dialog);
@@ -55,7 +55,7 @@ std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportReq
                  std::optional<ImportResult> &result) {
     DialogAccess::setOptions(dialog, {request.alternatives, request.required,
                                       request.refusesSimilar, request.byteOrderMark});
-    dialog.SetPosition(framePlace); // where it is fitted to the screen
+    dialog.SetPosition(framePlace); // to be fitted to the screen there
     dialog.create();
     // The fitted size is only a default: the host may ask for less.
     dialog.SetMinSize(wxDefaultSize);

@@ -11,9 +11,9 @@
 namespace columnimport {
 
 /// One modal run: builds the dialog that `request` asks for, shows it over the host's window at
-/// 100, 100, and leaves in `result` what it showed at its end, however it was ended. Returns an
-/// outcome of the C header. There is no result where there was no dialog, or where the host's
-/// window took the dialog along (`columnimport_failed`).
+/// 100, 100, and sets `result` to what it showed at its end, however it ended. Returns an outcome
+/// of the C header. There is no result without a dialog, or if the dialog was destroyed with the
+/// host's window (`columnimport_failed`).
 std::int32_t runImport(HostWindow hostWindow, const ImportRequest &request,
                        std::optional<ImportResult> &result);
 

@@ -2,8 +2,6 @@
 
 #include "host/toolkit.h"
 
-#include "host/startToolkit.h"
-
 #include <wx/app.h>
 #include <wx/module.h>
 #include <wx/window.h>
@@ -14,10 +12,11 @@ namespace {
 
 class Application : public wxApp {
 public:
-    /// Passes an exception on to the host. On some platforms the toolkit would ask the user.
+    /// Passes an exception on to the host. On some platforms the toolkit would ask the user what to
+    /// do with it.
     bool OnExceptionInMainLoop() override { throw; }
 
-    /// Ignores the assertion. The toolkit would ask the user, and the host would stand still.
+    /// Ignores the failure. The toolkit would ask the user, who can't know, and block the host.
     void OnAssertFailure(const wxChar *, int, const wxChar *, const wxChar *,
                          const wxChar *) override {}
 };

@@ -14,7 +14,7 @@ using columnimport::ImportResult;
 
 namespace {
 
-/// The names of the matches: all that this entry point returns.
+/// The matches as a host of the peer gets them: their names alone.
 std::vector<std::string> namesOf(ImportResult result) {
     std::vector<std::string> names;
     names.reserve(result.matches.size());

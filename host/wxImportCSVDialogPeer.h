@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-/// The library's entry point for a host without its toolkit.
+/// The entry point for a host that does not use the library's toolkit.
 ///
 /// Construct one before the first run, then call `showWindow` once per import, on the host's
-/// user-interface thread. A peer holds nothing: any number may exist, and destroying one ends
-/// nothing. What one run is to hand to the next, the host keeps in its own variables:
+/// user-interface thread. A peer has no state: any number may exist, and destroying one ends
+/// nothing. The host keeps what the next run needs in its own variables:
 ///
 ///     wxImportCSVDialogPeer peer;
 ///     bool useSaved = true, firstLineHeader = true;
@@ -29,7 +29,7 @@ public:
     /// nothing; `showWindow` then returns false, and a peer made later tries again.
     wxImportCSVDialogPeer();
 
-    /// Does nothing: what was set up stays in force for later runs.
+    /// Does nothing: the toolkit stays set up for later runs.
     ~wxImportCSVDialogPeer();
 
     /// Changes nothing.
@@ -43,10 +43,10 @@ public:
     /// Shows the dialog for a delimited text file over the host's window, modally, and blocks until
     /// the user dismisses it.
     ///
-    /// Names are bytes and come back as such; they are shown as UTF-8 if they are that, else as the
-    /// process's locale has them, else as Latin-1. The pointers must not be null and must stay
-    /// valid for the call. All outputs are written however the dialog was ended; a host that wants
-    /// its earlier values after a Cancel keeps a copy.
+    /// Names are bytes and come back as such; they are shown as UTF-8 if valid, else in the
+    /// process's locale, else as Latin-1. The pointers must not be null and must stay valid for the
+    /// call. All outputs are written however the dialog ended; a host that wants its earlier values
+    /// after a Cancel keeps a copy.
     ///
     /// @param hostWindow       the host's window; null opens the dialog without an owner
     /// @param title            text of the title bar

@@ -7,8 +7,7 @@
 
 namespace columnimport {
 
-// The reference keeps the widget's memory for the run, in case the host destroys its window
-// meanwhile.
+// The reference keeps the widget's memory valid if the host destroys its window during the run.
 HostStandIn::HostStandIn(HostWindow hostWindow) {
     GtkWidget *owner = hostWindow != nullptr ? gtk_widget_get_toplevel(hostWindow) : nullptr;
     if (!GTK_IS_WINDOW(owner)) {

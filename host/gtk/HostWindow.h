@@ -7,8 +7,8 @@ struct _GtkWidget; // NOLINT(bugprone-reserved-identifier): the name that GTK gi
 /// The library's names beside those of its classes, which begin with wxImport.
 namespace columnimport {
 
-/// The native handle of a host's window: a GTK top-level. Any other widget stands for its
-/// top-level.
+/// The native handle of a host's window: a GTK top-level. Any other widget stands for the top-level
+/// that contains it.
 using HostWindow = _GtkWidget *;
 
 } // namespace columnimport

@@ -11,7 +11,7 @@ namespace columnimport {
 
 namespace {
 
-/// Has X errors do nothing while it lives: a window of another program may vanish at any time.
+/// Ignores X errors while it lives: another program's window may vanish at any time.
 class ErrorTrap {
 public:
     explicit ErrorTrap(GdkDisplay *display) : m_display(display) {
@@ -39,7 +39,7 @@ Window parentOf(Display *display, Window window) {
     return parent;
 }
 
-/// Whether a window manager has the window among those of programs.
+/// Whether a window manager treats the window as a program's.
 bool isManaged(Display *display, Window window, Atom state) {
     Atom type = None;
     int format = 0;
@@ -54,8 +54,8 @@ bool isManaged(Display *display, Window window, Atom state) {
     return type != None;
 }
 
-/// The top-level that `window` is in; None if it is a screen's root, or there is none. Without a
-/// window manager it is the one that stands on the root.
+/// The top-level that contains `window`; None for a screen's root or an unknown window. Without a
+/// window manager, the child of the root.
 Window topLevelOf(GdkDisplay *gdkDisplay, Window window) {
     Display *display = gdk_x11_display_get_xdisplay(gdkDisplay);
     const Atom state = gdk_x11_get_xatom_by_name_for_display(gdkDisplay, "WM_STATE");
@@ -74,8 +74,8 @@ Window topLevelOf(GdkDisplay *gdkDisplay, Window window) {
 
 } // namespace
 
-/// The dialog's owner is a widget of GTK, so a widget stands in front of the window. Pointer events
-/// end in a window over all of its content, which shows nothing.
+/// The dialog's owner has to be a GTK widget, so a widget stands for the window. An invisible
+/// window over all of its content takes the pointer events.
 struct X11Owner::Native {
     GdkDisplay *display = gdk_display_get_default();
     GtkWidget *widget = nullptr;
@@ -110,7 +110,7 @@ X11Owner::X11Owner(std::uint32_t window) : m_native(std::make_unique<Native>()) 
     if (native.window == nullptr) {
         return;
     }
-    // A realised widget lends its window to the dialogs that are transient for it.
+    // Dialogs become transient for the window of a realised widget.
     native.widget = gtk_window_new(GTK_WINDOW_TOPLEVEL);
     gtk_widget_set_window(native.widget, native.window);
     gtk_widget_set_realized(native.widget, TRUE);
@@ -131,7 +131,7 @@ X11Owner::~X11Owner() {
     }
     const ErrorTrap trap(native.display);
     XDestroyWindow(gdk_x11_display_get_xdisplay(native.display), native.shield);
-    gdk_display_flush(native.display); // a host whose loop is not GLib's would never do it
+    gdk_display_flush(native.display); // a host without a GLib loop never would
     gtk_widget_set_realized(native.widget, FALSE);
     gtk_widget_set_window(native.widget, nullptr);
     gtk_widget_destroy(native.widget);

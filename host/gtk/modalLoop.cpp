@@ -2,8 +2,6 @@
 
 #include "host/modalLoop.h"
 
-#include "host/gtk/frameShadow.h"
-
 #include <algorithm>
 #include <exception>
 
@@ -14,15 +12,14 @@ namespace columnimport {
 
 namespace {
 
-/// A gtk_main() of our own around the dialog's. If the toolkit entered its loop inside another one,
-/// it calls gtk_main_quit() once too often on leaving: this loop takes that call, or the host's
-/// would end.
+/// A gtk_main() of our own around the dialog's. A toolkit loop inside another one calls
+/// gtk_main_quit() once too often at its end. That call must end this loop, not the host's.
 class LoopAround {
 public:
     explicit LoopAround(wxDialog &dialog)
         : m_dialog(dialog), m_due(g_idle_add_full(G_PRIORITY_HIGH, enter, this, nullptr)) {}
 
-    // The host may have left the loop before it came to the dialog.
+    // The loop may have ended before it got to the dialog.
     ~LoopAround() {
         if (m_due != 0) {
             g_source_remove(m_due);
@@ -45,8 +42,8 @@ private:
         return G_SOURCE_REMOVE;
     }
 
-    // GLib's frames must not see an exception. The loop ends in every way out, also where the
-    // dialog never ran a loop of its own; ending it twice is harmless.
+    // No exception may pass through GLib's frames. Every way out ends the loop, even if the dialog
+    // never ran one of its own; ending it twice is harmless.
     void showModal() {
         m_due = 0;
         const unsigned level = gtk_main_level();
@@ -68,14 +65,42 @@ private:
     std::exception_ptr m_exception;
 };
 
-/// A length as a host asks for it, or the toolkit's default.
+/// The length that a host asked for, within bounds; the toolkit's default stays.
 int clampedLength(int length) {
-    // No frame is smaller than its title bar and borders, whose size is known only when it is
-    // shown. X11 counts no further than 16 bits, and under Wayland the memory for all pixels of a
-    // window is the program's own.
+    // A frame is at least its title bar and borders, whose size is unknown until it is shown. X11
+    // counts in 16 bits, and under Wayland a window's pixels are in the program's own memory.
     constexpr int least = 100;
     constexpr int greatest = 8000;
     return length == wxDefaultCoord ? length : std::clamp(length, least, greatest);
+}
+
+/// The edges of a window's parts: the title bar, if GTK draws it, and the content.
+struct Edges {
+    int left = G_MAXINT;
+    int top = G_MAXINT;
+    int right = 0;
+    int bottom = 0;
+};
+
+void include(GtkWidget *part, void *data) {
+    auto &edges = *static_cast<Edges *>(data);
+    GtkAllocation place;
+    gtk_widget_get_allocation(part, &place);
+    edges.left = std::min(edges.left, place.x);
+    edges.top = std::min(edges.top, place.y);
+    edges.right = std::max(edges.right, place.x + place.width);
+    edges.bottom = std::max(edges.bottom, place.y + place.height);
+}
+
+/// What the size of `dialog`, which is shown, holds beside its frame. Where GTK draws the frame
+/// itself, as under Wayland, the toolkit counts the shadow around it too.
+wxSize frameShadow(const wxDialog &dialog) {
+    GtkWidget *window = dialog.GetHandle();
+    Edges edges;
+    gtk_container_forall(GTK_CONTAINER(window), include, &edges);
+    GtkAllocation whole;
+    gtk_widget_get_allocation(window, &whole);
+    return {whole.width - (edges.right - edges.left), whole.height - (edges.bottom - edges.top)};
 }
 
 } // namespace
@@ -85,8 +110,8 @@ void resize(wxDialog &dialog, const wxSize &size) {
 }
 
 int showModal(wxDialog &dialog) {
-    // On its first show the toolkit realises the window early to ask for the extents of its frame,
-    // and loses the position.
+    // When first shown, the toolkit realises the window early to ask for its frame extents, and
+    // loses the position.
     const wxPoint position = dialog.GetPosition();
     const wxSize size = dialog.GetSize();
     dialog.Bind(wxEVT_SHOW, [&dialog, position, size](wxShowEvent &event) {

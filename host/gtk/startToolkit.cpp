@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/startToolkit.h"
+#include "host/toolkit.h"
 
 #include <vector>
 
@@ -9,7 +9,7 @@
 
 namespace columnimport {
 
-// GTK itself is left to the toolkit to start, which keeps it from setting the host's locale.
+// The toolkit starts GTK itself, and keeps it from setting the host's locale.
 bool hasDisplay() {
     return gdk_display_get_default() != nullptr || gdk_display_open(nullptr) != nullptr;
 }

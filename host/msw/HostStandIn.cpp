@@ -19,7 +19,7 @@ LONG_PTR formerControlParentBit = 0;
 
 } // namespace
 
-// GA_ROOT of a control is the window that it is in; the desktop has none.
+// A control's root is its window; the desktop and invalid handles have none.
 HostStandIn::HostStandIn(HostWindow hostWindow) {
     HWND owner = IsWindow(hostWindow) != FALSE ? GetAncestor(hostWindow, GA_ROOT) : nullptr;
     if (owner == nullptr) {

@@ -22,8 +22,7 @@ LRESULT CALLBACK noteQuit(int code, WPARAM isTaken, LPARAM number) {
     return CallNextHookEx(nullptr, code, isTaken, number);
 }
 
-/// Watches the messages that the toolkit's loop takes from the queue, since the loop does not keep
-/// a quit.
+/// Watches for a quit in the queue: the toolkit's loop takes it out and forgets its code.
 class QuitWatch {
 public:
     QuitWatch()
@@ -38,8 +37,7 @@ private:
     HHOOK m_hook;
 };
 
-/// Ends the modal loop if the dialog is destroyed with its owner: the toolkit gets no notice and
-/// would wait for ever.
+/// Ends the modal loop when the dialog is destroyed with its owner; the toolkit would wait on.
 LRESULT CALLBACK onDialogMessage(HWND window, UINT message, WPARAM word, LPARAM number, UINT_PTR id,
                                  DWORD_PTR dialog) {
     if (message == WM_DESTROY) {
@@ -58,7 +56,7 @@ void resize(wxDialog &dialog, const wxSize &size) {
     dialog.SetSize(size);
 }
 
-// On a quit the toolkit leaves its loop without closing the dialog, and the owner stays disabled.
+// At a quit the toolkit leaves its loop with the dialog open and the owner disabled.
 int showModal(wxDialog &dialog) {
     const QuitWatch watch;
     const HWND owner = GetWindow(dialog.GetHWND(), GW_OWNER);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/startToolkit.h"
+#include "host/toolkit.h"
 
 #include <wx/init.h>
 #include <wx/msw/private.h>
@@ -11,7 +11,7 @@ bool hasDisplay() {
     return true;
 }
 
-// The toolkit is never shut down, so the library must stay loaded when a host unloads it.
+// The toolkit is never shut down, so this library stays loaded when a host frees it.
 void startToolkit() {
     new wxInitializer;
     HMODULE library = nullptr;
