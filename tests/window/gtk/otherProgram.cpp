@@ -67,6 +67,22 @@ gboolean takeClipboard(GtkWidget *, GdkEvent *, GtkWindow *window) {
     return FALSE;
 }
 
+// A window that came on the screen after the dialog would take the keys from it. The screen has the
+// window when it has answered to what follows the first drawing.
+gboolean sayWhenOnScreen() {
+    static bool isDrawn = false;
+    if (!std::exchange(isDrawn, true)) {
+        g_idle_add(
+            [](void *) -> gboolean {
+                gdk_display_sync(gdk_display_get_default());
+                say("ready");
+                return G_SOURCE_REMOVE;
+            },
+            nullptr);
+    }
+    return FALSE;
+}
+
 } // namespace
 
 int main(int argumentCount, char **arguments) {
@@ -92,11 +108,7 @@ int main(int argumentCount, char **arguments) {
     g_signal_connect(area, "button-release-event", G_CALLBACK(takeClipboard), window);
     g_signal_connect(area, "drag-data-get", G_CALLBACK(hand), &offered);
     g_signal_connect(area, "drag-end", G_CALLBACK(goOn), &offered);
-    g_signal_connect_after(window, "map-event", G_CALLBACK(+[]() -> gboolean {
-                               say("ready");
-                               return FALSE;
-                           }),
-                           nullptr);
+    g_signal_connect_after(area, "draw", G_CALLBACK(sayWhenOnScreen), nullptr);
     gtk_window_maximize(GTK_WINDOW(window));
     gtk_widget_show_all(window);
     gtk_main();
