@@ -13,7 +13,7 @@ enum class ByteOrderMark : unsigned char {
 };
 
 /// Removes the mark from the first line of a file if `mark` asks for that.
-inline void applyMarkPolicy(std::string &firstLine, ByteOrderMark mark) {
+inline void removeUnwantedMark(std::string &firstLine, ByteOrderMark mark) {
     constexpr const char *bytes = "\xEF\xBB\xBF";
     if (mark == ByteOrderMark::dropped && firstLine.compare(0, 3, bytes) == 0) {
         firstLine.erase(0, 3);

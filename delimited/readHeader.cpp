@@ -16,7 +16,7 @@ Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     Header header;
     SourceFile file(path);
     std::string line = file.readLine();
-    applyMarkPolicy(line, mark);
+    removeUnwantedMark(line, mark);
     header.reason = file.fault();
     if (!file.isReadable()) {
         return header;
@@ -57,7 +57,7 @@ std::string readPreview(const std::string &path, std::size_t most, ByteOrderMark
     for (int line = 0; line < previewLines && !file.isAtEnd(); ++line) {
         preview += file.readLine(most);
         if (line == 0) {
-            applyMarkPolicy(preview, mark);
+            removeUnwantedMark(preview, mark);
         }
         preview += '\n';
     }

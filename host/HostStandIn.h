@@ -17,8 +17,8 @@ class HostStandIn {
 public:
     explicit HostStandIn(HostWindow hostWindow);
 
-    /// Removes the object from the toolkit's top-level windows: without a handle there, it would
-    /// become the owner of the next dialog.
+    /// Removes the object from the toolkit's top-level windows, or the toolkit would take it for
+    /// the owner of the next dialog.
     ~HostStandIn();
     HostStandIn(const HostStandIn &) = delete;
     HostStandIn &operator=(const HostStandIn &) = delete;

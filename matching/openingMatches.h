@@ -19,9 +19,8 @@ bool holdsAName(const std::vector<std::string> &savedMatches);
 ///  - With `savedMatches`, one for each entry: the first source column with exactly the saved name.
 ///    An entry that is empty or names no source column gives no match and is emptied, so that it
 ///    gives none later either.
-///  - Otherwise a proposal from the names alone, less the guesses of application columns that
-///  refuse
-///    similar names. The source column of such a guess goes to no other application column.
+///  - Otherwise a proposal from the names alone, without the guesses of application columns that
+///    refuse similar names. The source column of such a guess goes to no other application column.
 ///
 /// @param appColumns     the application columns
 /// @param alternatives   the host's other words for them, as `matchColumns` takes them

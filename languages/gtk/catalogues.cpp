@@ -35,7 +35,7 @@ std::string messageLanguages() {
     return listed != nullptr && *listed != '\0' ? listed : locale;
 }
 
-// Beside the library itself, installed or in its build folder.
+// Relative to the library: as installed, or in its build folder.
 wxMsgCatalog *loadCatalogue(const wxString &name, const wxString &language) {
     const std::filesystem::path library = folderOfLibrary();
     for (const char *folder : {COLUMNIMPORT_INSTALLED_CATALOGUES, "locale"}) {

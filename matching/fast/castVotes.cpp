@@ -14,8 +14,8 @@ namespace columnimport {
 
 namespace {
 
-/// A shorter name measures less than 0.99 with any other. A name of n bytes reaches its maximum, (4
-/// * n * n - 1) / (4 * n * n + 4 * n), with a name of one byte more.
+/// A shorter name measures less than 0.99 with any other. Of n bytes, it measures at most
+/// (4 * n * n - 1) / (4 * n * n + 4 * n), with a name of one byte more.
 constexpr std::size_t leastLengthAboveSynonym = 100;
 static_assert(leastLengthAboveSynonym > maskedLength, "the index holds no name this long");
 
