@@ -6,8 +6,8 @@
 #include "dragdrop/ChangeQueue.h"
 #include "dragdrop/RowMatch.h"
 #include "dragdrop/SecondClick.h"
-#include "names/ShownNames.h"
 #include "names/ColumnMatch.h"
+#include "names/ShownNames.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "delimited/readHeader.h"
-#include "delimited/readHeader.h"
 #include "tests/ScratchFile.h"
 
 #include <gtest/gtest.h>
