@@ -14,7 +14,7 @@ namespace columnimport {
 
 struct Header;
 
-/// What a run sets and reads of a dialog beyond its public members.
+/// A run's access to a dialog, beyond its public members.
 struct DialogAccess {
     /// To be called before `create`.
     static void setOptions(wxImportCSVDialog &dialog, ImportOptions options);

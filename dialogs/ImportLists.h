@@ -61,7 +61,7 @@ private:
     ListBoxSource &m_files;
     ListCtrlSource &m_matches;
     StatusLine &m_status;
-    wxArrayString m_applications; // the application columns as they are shown
+    wxArrayString m_applications; // the shown texts of the application columns
     FileListKeys m_fileKeys;
     MatchListKeys m_matchKeys;
     AccessibleRows m_reader;

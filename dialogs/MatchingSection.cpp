@@ -60,7 +60,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     auto *rematchRow = new wxBoxSizer(wxHORIZONTAL);
     if (m_status != nullptr) {
         rematchRow->AddStretchSpacer();
-    } else { // a table has no options beside which the line would stand
+    } else { // a table has no options for the line to stand beside
         m_status = new columnimport::StatusLine(*this);
         rematchRow->Add(m_status, columnimport::besideControls(scale(10)));
     }

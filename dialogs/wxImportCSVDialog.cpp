@@ -14,7 +14,7 @@
 
 #include <utility>
 
-// For a host that takes one by reference.
+// For hosts that bind one to a reference.
 const int wxImportCSVDialog::BTN_ADD;
 const int wxImportCSVDialog::LISTBOX_FILE;
 const int wxImportCSVDialog::LISTBOX_MATCH;
@@ -49,7 +49,7 @@ wxImportCSVDialog::wxImportCSVDialog(wxWindow *parent, const wxString &title,
     if (!columnimport::holdsAName(m_savedMatches)) {
         m_useSavedMatches = false;
     }
-    // An entry behind the last application column belongs to no row.
+    // Entries beyond the application columns have no row.
     if (m_savedMatches.size() > m_appColumns.size()) {
         m_savedMatches.resize(m_appColumns.size());
     }

@@ -38,7 +38,7 @@ class TextDropTarget;
 /// the name of the file column, or "Not used". Drops, keys and double clicks write into these rows.
 /// Every refresh (the check box, another delimiter, "Reset to Default", or a call of
 /// `onCheckHeader`) fills the list anew from the members and drops what the user changed by hand.
-/// Control and Z takes back one change after the other, up to the last refresh and including it.
+/// Control and Z undoes one change after the other, up to the last refresh and including it.
 class COLUMNIMPORT_EXPORT wxImportCSVDialog : public wxDialog {
 public:
     static const int BTN_ADD = 1;           ///< no control has it
@@ -90,7 +90,7 @@ public:
     /// Whether the first line holds titles, as the check box said at the last refresh.
     bool isFirstLineHeader() const;
 
-    /// False in every state: what tells OK from everything else is the result of `ShowModal`.
+    /// Always false. The result of `ShowModal` tells OK from everything else.
     bool isOk() const;
 
 protected:
@@ -105,24 +105,24 @@ protected:
     /// status line follow at the next `onCheckHeader`.
     void loadHeader();
 
-    /// The first lines of the file as raw bytes, each with one line feed. The preview shows the
-    /// heads of long ones.
+    /// The first lines of the file as raw bytes, each with one line feed. The preview shows only
+    /// the heads of long lines.
     std::string getFilePreview();
 
-    /// Refreshes both lists from the members: by position, from the saved matches or as a proposal.
-    /// Reads nothing of the event. To be called after `setFileSchema` or `loadHeader`, too.
+    /// Refreshes both lists from the members: by position, from the saved matches or with a
+    /// proposal. Ignores the event. Call it after `setFileSchema` or `loadHeader`, too.
     void onCheckHeader(wxCommandEvent &event);
 
     /// Takes the first byte typed as the delimiter and reads the file again if it is another one.
     void onTxtDelimiter(wxCommandEvent &event);
 
-    /// Drops the saved matches for good and proposes afresh.
+    /// Drops the saved matches for good and makes a new proposal.
     void onBtnRematch(wxCommandEvent &event);
 
     /// Shows the rows that read "Not used" in bold and the others at normal weight.
     void applyListBoxMatchFont();
 
-    /// Replaces the file columns. Touches no control, as `loadHeader`.
+    /// Replaces the file columns. Touches no control, like `loadHeader`.
     void setFileSchema(std::vector<std::string> fileSchema);
 
 private:
@@ -140,8 +140,8 @@ private:
     columnimport::TextDropTarget *m_matchDropTarget; // owned by the match list
     columnimport::TextDropTarget *m_fileDropTarget;  // owned by the list of file columns
 
-    std::unique_ptr<const columnimport::ImportOptions> m_options; // what else the host asked for
-    std::unique_ptr<columnimport::Header> m_header;     // of loadHeader, but for the columns
+    std::unique_ptr<const columnimport::ImportOptions> m_options; // the host's further options
+    std::unique_ptr<columnimport::Header> m_header;     // from loadHeader, without the columns
     columnimport::StatusLine *m_status;                 // owned by its sizer; null before `create`
     std::unique_ptr<columnimport::ImportLists> m_lists; // null before `create`
 

@@ -18,7 +18,7 @@ class ListCtrlSource;
 /// out of view. The row in the hover state is always the one that a drop would write to.
 class TextDropTarget : public wxTextDropTarget {
 public:
-    /// `owner` is the control on which the target will sit, and which then owns it.
+    /// `owner` is the control that will get and own the target.
     explicit TextDropTarget(wxWindow &owner);
     ~TextDropTarget() override;
 

@@ -7,11 +7,11 @@ class wxWindow;
 
 namespace columnimport {
 
-/// Gives `list` this tooltip; an empty one takes it away.
+/// Sets the tooltip of `list`; an empty one removes it.
 void setTip(wxWindow &list, const wxString &tip);
 
-/// Gives `list` a tooltip with the whole of `name` if that is wider than the `room` in which the
-/// list shows it, in pixels, and else takes the tooltip away.
+/// Sets the whole `name` as the tooltip if it is wider than the `room` of the list, in pixels; else
+/// removes the tooltip.
 void tipWhereCut(wxWindow &list, const wxString &name, int room);
 
 } // namespace columnimport

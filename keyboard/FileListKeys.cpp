@@ -30,7 +30,7 @@ void FileListKeys::onKeyDown(wxKeyEvent &event) {
     }
 }
 
-// The control would take Return for a double click too.
+// The control would handle Return like a double click.
 void FileListKeys::onReturn(wxKeyEvent &event) {
     if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
         event.Skip();

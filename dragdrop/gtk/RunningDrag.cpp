@@ -62,7 +62,7 @@ namespace {
 
 // Reports the failure as handled; otherwise the label would fly back to its start and take the
 // presses on its way.
-gboolean letItVanish(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
+gboolean reportHandled(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
     return TRUE;
 }
 
@@ -80,7 +80,8 @@ RunningDrag::RunningDrag(wxDropSource &drag, const wxWindow &source, const wxStr
     : m_drag(drag), m_label(makeDragLabel(shown)), m_right(source.GetCharWidth()),
       m_below(2 * source.GetCharHeight()),
       m_due(g_idle_add_full(G_PRIORITY_HIGH, begin, this, nullptr)),
-      m_failing(g_signal_connect(drag.m_widget, "drag-failed", G_CALLBACK(letItVanish), nullptr)) {
+      m_failing(
+          g_signal_connect(drag.m_widget, "drag-failed", G_CALLBACK(reportHandled), nullptr)) {
     GdkDisplay *display = gtk_widget_get_display(drag.m_widget);
     if (GDK_IS_WAYLAND_DISPLAY(display)) {
         if (hasPointer(display)) {

@@ -38,7 +38,7 @@ private:
     GtkWidget *m_label;
     int m_right; // of the label, from the pointer, in pixels
     int m_below;
-    std::unique_ptr<WaylandPointer> m_pointer; // null if the screen is no Wayland one or has none
+    std::unique_ptr<WaylandPointer> m_pointer; // null without Wayland or a pointer
     GdkDragContext *m_context = nullptr;       // null until the drag runs
     unsigned m_due;                            // the call of `begin` or `endUnfinished`, or 0
     unsigned long m_failing;

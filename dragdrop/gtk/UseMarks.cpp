@@ -28,14 +28,14 @@ GtkCellRendererClass *parentClass() {
     return GTK_CELL_RENDERER_CLASS(g_type_class_peek(GTK_TYPE_CELL_RENDERER_TEXT));
 }
 
-void takeWordsAway(GtkCellRenderer *cell) {
+void showNameOnly(GtkCellRenderer *cell) {
     if (const char *name = nameCell(cell).markedName) {
         g_object_set(cell, "text", name, nullptr);
     }
 }
 
 void getPreferredWidth(GtkCellRenderer *cell, GtkWidget *widget, int *least, int *natural) {
-    takeWordsAway(cell);
+    showNameOnly(cell);
     parentClass()->get_preferred_width(cell, widget, least, natural);
     for (int *width : {least, natural}) {
         if (width != nullptr) {
@@ -63,7 +63,7 @@ void drawMark(cairo_t *context, GtkWidget *widget, const GdkRectangle &area) {
 
 void render(GtkCellRenderer *cell, cairo_t *context, GtkWidget *widget,
             const GdkRectangle *background, const GdkRectangle *area, GtkCellRendererState state) {
-    takeWordsAway(cell);
+    showNameOnly(cell);
     const int room = nameCell(cell).room;
     if (nameCell(cell).markedName != nullptr) {
         drawMark(context, widget, {area->x, area->y, room, area->height});

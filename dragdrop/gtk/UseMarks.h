@@ -18,7 +18,7 @@ namespace columnimport {
 /// The mark is drawn, so no font has to have it.
 class UseMarks {
 public:
-    /// To be made after `list`, and to go before it.
+    /// `list` must outlive this object.
     explicit UseMarks(wxListBox &list);
     ~UseMarks();
     UseMarks(const UseMarks &) = delete;

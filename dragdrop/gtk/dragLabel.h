@@ -7,7 +7,7 @@ class wxString;
 
 namespace columnimport {
 
-/// Makes the small label that goes beside the pointer during a drag. The caller owns a reference.
+/// Makes the label beside the pointer of a drag. The caller owns a reference.
 GtkWidget *makeDragLabel(const wxString &text);
 
 } // namespace columnimport

@@ -18,7 +18,7 @@ namespace columnimport {
 /// The native control only shows text: an entry is the mark or nothing, a tab, and the name.
 class UseMarks {
 public:
-    /// To be made after `list`, and to go before it.
+    /// `list` must outlive this object.
     explicit UseMarks(wxListBox &list);
 
     /// Replaces all entries by `names`, without marks.

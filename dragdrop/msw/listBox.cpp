@@ -6,7 +6,7 @@
 
 namespace columnimport {
 
-// The toolkit does that by itself here.
+// The toolkit sends the event by itself here.
 void hearReturn(wxListBox &) {}
 
 void goToEntry(wxListBox &list, int row) {

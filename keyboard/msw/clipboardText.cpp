@@ -34,7 +34,7 @@ public:
     OpenedClipboard(const OpenedClipboard &) = delete;
     OpenedClipboard &operator=(const OpenedClipboard &) = delete;
 
-    /// Waits until the owner has handed its text over.
+    /// Blocks until the owner has delivered its text.
     std::optional<std::wstring> text() const {
         std::optional<std::wstring> text;
         HANDLE memory = m_isOpen ? GetClipboardData(CF_UNICODETEXT) : nullptr;
@@ -85,10 +85,10 @@ void answerRequest(std::unique_ptr<Request> request, HWND window) {
     try {
         request->text = OpenedClipboard().text();
     } catch (const std::bad_alloc &) {
-        request->text.reset(); // what is too much to take has not come
+        request->text.reset(); // too large counts as no text
     }
     if (PostMessageW(window, answered, 0, reinterpret_cast<LPARAM>(request.get())) != FALSE) {
-        static_cast<void>(request.release()); // the window's now
+        static_cast<void>(request.release()); // the window owns it now
     }
 }
 

@@ -13,7 +13,7 @@ namespace columnimport {
 
 namespace {
 
-/// What a reader finds in the place of the widget.
+/// The accessible object of the widget.
 struct RowList {
     GtkWidgetAccessible parent;
     AccessibleRows *rows; // null when the list control has gone
@@ -184,7 +184,7 @@ AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &name) : m_l
         atk_object_set_name(gtk_widget_get_accessible(part), name.utf8_str());
     }
 
-    marks().onChange([this](long row) { tellMark(row); });
+    marks().onChange([this](long row) { reportMark(row); });
     m_list.Bind(wxEVT_LIST_ITEM_FOCUSED, &AccessibleRows::onCurrentRow, this);
     m_list.Bind(wxEVT_LIST_DELETE_ALL_ITEMS, &AccessibleRows::onNoRows, this);
     m_list.Bind(wxEVT_SET_FOCUS, &AccessibleRows::onFocus, this);
@@ -199,7 +199,7 @@ AccessibleRows::~AccessibleRows() {
 }
 
 void AccessibleRows::onCurrentRow(wxListEvent &event) {
-    tellCurrentRow(event.GetIndex());
+    reportCurrentRow(event.GetIndex());
     event.Skip();
 }
 
@@ -211,8 +211,9 @@ void AccessibleRows::onNoRows(wxListEvent &event) {
 void AccessibleRows::onFocus(wxFocusEvent &event) {
     const bool isGained = event.GetEventType() == wxEVT_SET_FOCUS;
     atk_object_notify_state_change(m_accessible, ATK_STATE_FOCUSED, isGained ? TRUE : FALSE);
-    tellCurrentRow(isGained ? m_list.GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED)
-                            : wxNOT_FOUND);
+    reportCurrentRow(isGained
+                         ? m_list.GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED)
+                         : wxNOT_FOUND);
     event.Skip();
 }
 
@@ -244,7 +245,7 @@ bool AccessibleRows::hasFocus() const {
     return focus != nullptr && (focus == &m_list || focus->GetParent() == &m_list);
 }
 
-void AccessibleRows::tellMark(long row) {
+void AccessibleRows::reportMark(long row) {
     const auto known = m_items.find(row);
     if (known != m_items.end()) {
         atk_object_notify_state_change(known->second, ATK_STATE_SELECTED,
@@ -253,12 +254,12 @@ void AccessibleRows::tellMark(long row) {
     g_signal_emit_by_name(m_accessible, "selection-changed");
 }
 
-void AccessibleRows::tellCurrentRow(long row) {
-    const auto before = m_items.find(m_toldRow);
+void AccessibleRows::reportCurrentRow(long row) {
+    const auto before = m_items.find(m_reportedRow);
     if (before != m_items.end()) {
         atk_object_notify_state_change(before->second, ATK_STATE_FOCUSED, FALSE);
     }
-    m_toldRow = row;
+    m_reportedRow = row;
     if (row >= 0 && hasFocus()) {
         atk_object_notify_state_change(item(row), ATK_STATE_FOCUSED, TRUE);
         g_signal_emit_by_name(m_accessible, "active-descendant-changed", item(row));
@@ -266,7 +267,7 @@ void AccessibleRows::tellCurrentRow(long row) {
 }
 
 void AccessibleRows::forgetItems() {
-    m_toldRow = wxNOT_FOUND;
+    m_reportedRow = wxNOT_FOUND;
     for (const auto &[row, item] : m_items) {
         retireAccessibleRow(item);
         g_object_unref(item);

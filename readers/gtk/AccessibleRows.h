@@ -51,17 +51,17 @@ public:
     bool hasFocus() const;
 
 private:
-    void tellMark(long row);
-    void tellCurrentRow(long row);
+    void reportMark(long row);
+    void reportCurrentRow(long row);
     void onCurrentRow(wxListEvent &event);
     void onNoRows(wxListEvent &event);
     void onFocus(wxFocusEvent &event);
     void forgetItems();
 
     ListCtrlSource &m_list;
-    AtkObject *m_accessible; // of the widget that speaks for the rows
+    AtkObject *m_accessible; // of the widget that represents the rows
     std::unordered_map<long, AtkObject *> m_items;
-    long m_toldRow = wxNOT_FOUND; // the current row, as the reader has been told
+    long m_reportedRow = wxNOT_FOUND; // the current row that was last reported
 };
 
 } // namespace columnimport

@@ -13,8 +13,7 @@ namespace columnimport {
 
 namespace {
 
-/// Child number 1 is row 0; the list itself is number 0. A reader may ask for a child that is no
-/// longer there.
+/// Child number 1 is row 0; the list itself is number 0. A reader may ask for a child that is gone.
 class Rows : public wxAccessible {
 public:
     Rows(ListCtrlSource &list, const wxString &name)
@@ -67,7 +66,7 @@ void AccessibleRows::announce(const std::vector<long> &rows) {
 
 #else
 
-// A toolkit that is built without it leaves the readers to the native control.
+// A toolkit built without accessibility leaves readers the native control.
 AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &) : m_list(list) {}
 
 void AccessibleRows::announce(const std::vector<long> &) {}

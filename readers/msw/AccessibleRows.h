@@ -23,7 +23,7 @@ public:
     /// lists.
     AccessibleRows(ListCtrlSource &list, const wxString &name);
 
-    /// Has the reader announce what now stands in `rows`, which must not be empty.
+    /// Has the reader announce what `rows` hold now. `rows` must not be empty.
     void announce(const std::vector<long> &rows);
 
 private:

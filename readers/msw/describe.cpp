@@ -30,8 +30,7 @@ private:
     wxString m_name;
 };
 
-/// Child number 1 is row 0; the list itself is number 0. A reader may ask for a child that is no
-/// longer there.
+/// Child number 1 is row 0; the list itself is number 0. A reader may ask for a child that is gone.
 class FileColumns : public Named {
 public:
     FileColumns(ListBoxSource &list, const wxString &name) : Named(list, name), m_list(list) {}
@@ -67,7 +66,7 @@ void describeFileColumns(ListBoxSource &list, const wxString &name) {
 
 #else
 
-// A toolkit that is built without it leaves the readers to the native controls.
+// A toolkit built without accessibility leaves readers the native controls.
 void setAccessibleName(wxWindow &, const wxString &) {}
 
 void describeFileColumns(ListBoxSource &, const wxString &) {}
