@@ -32,7 +32,7 @@ const Words methods = {"", "", "", "fa", "icp", "xrf", "aas", "ms"};
 const Words units = {"g/t", "%", "ppm", "ppb", "pct", "gt", ""};
 const Words remarks = {"", "", "", "", "1", "2", "avg", "cap", "best", "m", "raw", "qc"};
 
-/// The standard's generator gives the same numbers everywhere; its distributions need not.
+/// The standard defines the generator's numbers exactly, but not those of its distributions.
 class Dice {
 public:
     explicit Dice(unsigned seed) : m_random(seed) {}
@@ -85,7 +85,7 @@ std::vector<std::string> columnNames(std::size_t count, unsigned seed) {
     names.reserve(count);
     while (names.size() < count) {
         std::string name = oneName(dice);
-        // Names run out in the largest lists; a number makes another one.
+        // The largest lists need more names than there are; a number makes another one.
         while (!known.insert(name).second) {
             name += std::to_string(dice.below(10));
         }

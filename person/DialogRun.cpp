@@ -11,7 +11,7 @@ bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
     std::exception_ptr thrown;
     bool result = false;
     {
-        // Its end tells that the run is over.
+        // Its destruction marks the end of the run.
         std::promise<void> run;
         actor = std::async(std::launch::async, [&steps, over = run.get_future()] {
             try {
@@ -36,7 +36,7 @@ bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
             thrown = std::current_exception();
         }
     }
-    // The person may still look at what there is.
+    // The person may still be reading the dialog.
     while (actor.wait_for(std::chrono::seconds(0)) != std::future_status::ready) {
         handleEvents();
     }

@@ -125,7 +125,8 @@ void Person::waitForDialog() {
 
 namespace {
 
-/// A place in a control that the dialog has laid out: when the frame gets its size, they follow.
+/// A place in a control, once the dialog has laid it out: the controls follow when the frame gets
+/// its size.
 wxPoint placeIn(int controlId, const std::function<wxPoint(const wxWindow &)> &place) {
     waitUntil("the control is laid out",
               [controlId] { return control(controlId).GetSize().y > 10; });
@@ -144,7 +145,8 @@ wxPoint Person::middleOf(int controlId) {
 }
 
 wxPoint Person::fileRow(int row) {
-    // A list box does not tell where its rows are, only which row is at a place, once it is drawn.
+    // A list box only reports which row is at a place, not where a row is, and only once it is
+    // drawn.
     const auto top = [row] {
         int y = 0;
         while (y < fileList().GetClientSize().y && fileList().HitTest(wxPoint(40, y)) != row) {

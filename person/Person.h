@@ -11,14 +11,14 @@
 
 #include <wx/gdicmn.h>
 
-/// A person at the screen: a real pointer and real keys, on a thread of its own. Controls are found
-/// by their identifiers and rows by their numbers, and all are reached by the pointer. Points are
-/// places in the client area of the dialog, keys have the toolkit's numbers.
+/// A simulated person at the screen, with a real pointer and real keys, on a thread of its own.
+/// Finds controls by their identifiers and rows by their numbers, and reaches all of them by the
+/// pointer. Points are in the dialog's client area, keys have the toolkit's numbers.
 class Person {
 public:
     Person();
 
-    /// Lets go of a button that is still down.
+    /// Releases a button that is still down.
     ~Person();
 
     Person(const Person &) = delete;
@@ -26,8 +26,8 @@ public:
 
     void moveTo(wxPoint point);
 
-    /// Moves to `point` and stays there with a hand's small movements until `isSo` holds on the
-    /// user-interface thread: the toolkit drops a move that comes while it handles another.
+    /// Moves to `point` and jitters there until `isSo` holds on the user-interface thread, since
+    /// the toolkit drops a move that comes while it handles another.
     void hoverAt(wxPoint point, const std::string &expected, const std::function<bool()> &isSo);
 
     void press(int button = 1);
@@ -35,35 +35,35 @@ public:
     void click(wxPoint point);
     void click(int controlId) { click(middleOf(controlId)); }
 
-    /// Presses at `from`, waits for the drag to begin, and moves on to `to` in a few steps; then
-    /// the button is still down.
+    /// Presses at `from`, waits for the drag to begin, and moves on to `to` in a few steps. Leaves
+    /// the button down.
     void dragTo(wxPoint from, wxPoint to);
 
     /// Releases the button and waits for the end of the drag.
     void drop();
 
-    /// Both in one.
+    /// Both in a row.
     void drag(wxPoint from, wxPoint to);
 
     void keyDown(int key);
     void keyUp(int key);
     void strike(int key);
 
-    /// Strikes a key while `modifier` is held down.
+    /// Presses a key while `modifier` is held down.
     void strikeWith(int modifier, int key);
 
     /// Replaces the content of the delimiter field by one character.
     void typeDelimiter(char character);
     void emptyDelimiter();
 
-    /// Waits until the dialog stands on the screen.
+    /// Waits until the dialog is on the screen.
     void waitForDialog();
 
     static wxPoint middleOf(int controlId);
     static wxPoint fileRow(int row);
     static wxPoint matchRow(int row);
 
-    /// A place in the list beside its entries: below the last one.
+    /// A place in the list below its last entry.
     static wxPoint belowFileRows();
     static wxPoint belowMatchRows();
 

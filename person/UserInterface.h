@@ -8,12 +8,12 @@
 #include <stdexcept>
 #include <string>
 
-/// Thrown when what a person waits for does not come.
+/// Thrown when a person has waited in vain.
 struct GivenUp : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// What `work` returns on the user-interface thread, behind all input delivered so far.
+/// The result of `work` on the user-interface thread, after all input delivered so far.
 template <typename Work>
 auto read(Work work) {
     decltype(work()) result{};
@@ -21,8 +21,7 @@ auto read(Work work) {
     return result;
 }
 
-/// Polls `isSo` until it holds; gives up at a generous deadline. `expected` says in the message
-/// what was waited for.
+/// Polls `isSo` until it holds; gives up at a generous deadline, with `expected` in the message.
 void poll(const std::string &expected, const std::function<bool()> &isSo);
 
 /// The same on the user-interface thread.

@@ -10,7 +10,7 @@
 
 namespace {
 
-/// The dialog that is shown, among all windows that the process may have, or null.
+/// The shown dialog among the windows of the process, or null.
 wxDialog *find() {
     for (wxWindow *window : wxTopLevelWindows) {
         auto *dialog = dynamic_cast<wxDialog *>(window);

@@ -11,7 +11,7 @@
 
 using Names = std::vector<std::string>;
 
-// The dialog that is open and its controls; to be used on the user-interface thread.
+// The open dialog and its controls; for the user-interface thread.
 
 bool isDialogOpen();
 wxDialog &openDialog();
@@ -25,7 +25,7 @@ Control &control(int id) {
     return dynamic_cast<Control &>(controlOf(id));
 }
 
-// What is to be read of it; to be used on a person's thread.
+// What a person can read in it; for a person's thread.
 
 /// The texts of the match list's first column, and those of its rows that are shown in bold and in
 /// italics.
@@ -41,5 +41,5 @@ std::vector<int> hoverRows();
 Names fileTexts();
 std::vector<int> usedEntries();
 
-/// What is said beside the options; empty if nothing is.
+/// The status line beside the options; empty if there is none.
 std::string sentence();

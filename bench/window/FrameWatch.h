@@ -12,13 +12,13 @@ namespace columnimport::bench {
 
 using Clock = std::chrono::steady_clock;
 
-/// Waits for the first frame by which each of `widgets` has been drawn while `isNew` held. Then it
-/// calls `done` once, behind all that GTK still does for that frame.
+/// Waits for the first frame in which each of `widgets` has been drawn while `isNew` held. Then
+/// calls `done` once, after all that GTK does for that frame.
 ///
-/// A frame is drawn when the window's frame clock says "after-paint" and the screen has carried out
-/// all that was sent to it. Two kinds of drawing do not count: into a window that the window
-/// manager has not yet put on the screen, since the screen drops it; and a control's that asks at
-/// once to be drawn again, since it stays blank.
+/// A frame is drawn when the window's frame clock says "after-paint" and the screen has processed
+/// all requests. Two kinds of drawing do not count: into a window that the window manager has not
+/// shown yet, since the screen drops it; and by a control that asks at once to be drawn again,
+/// since it stays blank.
 class FrameWatch {
 public:
     FrameWatch(std::vector<GtkWidget *> widgets, std::function<bool()> isNew,

@@ -31,7 +31,7 @@ Import::Import(std::size_t appCount, const std::vector<std::string> &titles)
     for (const std::string &title : titles) {
         file << (&title == &titles.front() ? "" : " ,") << spelledWithout(' ', title);
     }
-    // One title alone stands for a file that is one line without an end.
+    // A single title stands for a file of one endless line.
     const std::size_t rows = titles.size() > 1 ? previewLines : 0;
     for (std::size_t row = 0; row < rows; ++row) {
         for (std::size_t field = 0; field < titles.size(); ++field) {

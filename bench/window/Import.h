@@ -8,11 +8,11 @@
 
 namespace columnimport::bench {
 
-/// One import to be measured: application columns, and a file that is there as long as this object.
+/// One import to measure: application columns, and a file that exists as long as this object.
 ///
-/// The file holds its titles and as many rows of data as a preview shows. Between two fields stand
-/// a blank and a comma, so that both delimiters cut a line into as many fields; the comma gives the
-/// bare ones.
+/// The file holds its titles and as many rows of data as a preview shows. A blank and a comma
+/// separate two fields, so that both delimiters cut a line into equally many; only the comma gives
+/// clean ones.
 class Import {
 public:
     Import(std::size_t appCount, const std::vector<std::string> &titles);

@@ -24,7 +24,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// The median of what `work` gives, which is done once more before, to warm up.
+/// The median of the results of `work`, after one extra run to warm up.
 double median(int repetitions, const std::function<Milliseconds()> &work) {
     work();
     std::vector<Milliseconds> delays(static_cast<std::size_t>(repetitions));
@@ -46,7 +46,7 @@ void printRow(GtkWidget *host, const std::string &row) {
     std::printf("| %s | %s | %.0f ms |", appCount.c_str(),
                 isLine ? "one, of 64 MB" : fileCount.c_str(),
                 median(repetitions, [&] { return open(host, import); }));
-    // Neither delimiter cuts such a line: there is nothing new to be shown.
+    // Neither delimiter cuts such a line, so nothing new would be shown.
     if (isLine) {
         std::printf(" |\n");
     } else {

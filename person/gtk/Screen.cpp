@@ -39,7 +39,7 @@ wxPoint originOf(GdkWindow *window) {
     return origin;
 }
 
-/// What becomes of the drags of this process.
+/// The state of this process's drags.
 struct DragNotes {
     bool isRunning = false;
     std::optional<wxPoint> place;
@@ -90,7 +90,7 @@ void addTo(void *frame, GtkWidget *part) {
 
 } // namespace
 
-// The environment variable for it would come too late: it is read as the program is loaded.
+// The environment variable for it would come too late: it is read when the program is loaded.
 void endOnComplaints() {
     g_log_set_always_fatal(
         static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING));
@@ -106,7 +106,7 @@ std::unique_ptr<Hand> makeHand() {
 void onUserInterface(const std::function<void()> &work) {
     Call call{work, {}};
     std::future<void> done = call.done.get_future();
-    // Behind all that is due: input that the screen has delivered is handled first.
+    // At the lowest priority, so that input already delivered is handled first.
     g_idle_add_full(G_PRIORITY_LOW + 50, carryOut, &call, nullptr);
     done.get();
 }
@@ -129,7 +129,7 @@ bool dialogStands() {
         return false;
     }
     if (isWayland()) {
-        // Nobody is told the place.
+        // Programs don't learn the place.
         return dialog.GetClientSize().x == frame.width &&
                dialog.GetSize() ==
                    wxSize(gdk_window_get_width(window), gdk_window_get_height(window));
@@ -146,7 +146,7 @@ bool placesWindows() {
 
 wxRect frameOfDialog() {
     if (isWayland()) {
-        // Around the title bar and the content GTK draws a shadow, which is no part of the frame.
+        // GTK draws a shadow around the title bar and the content; it is not part of the frame.
         wxRect frame;
         gtk_container_forall(
             GTK_CONTAINER(openDialog().GetHandle()),
@@ -175,13 +175,13 @@ std::optional<wxPoint> placeOfDrag() {
     return dragNotes.place;
 }
 
-// The highlight is what there is to be seen of a mark.
+// A mark is visible by its highlight.
 bool isShownAsMarked(int row) {
     const wxColour colour = matchList().GetItemBackgroundColour(row);
     return colour.IsOk() && colour != matchList().GetBackgroundColour();
 }
 
-// The name begins behind the mark, which is half as wide as a line is high.
+// The name begins after the mark, which is half as wide as a line is high.
 bool isShownAsUsed(int entry) {
     return !inkOf(entry, fileList().GetCharHeight() * 3 / 4).IsEmpty();
 }

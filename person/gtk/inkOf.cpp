@@ -10,7 +10,7 @@
 #include <wx/bitmap.h>
 #include <wx/image.h>
 
-// As the entry would be dragged: its picture stands also before it has been given its place.
+// Uses the entry's drag picture, which exists before the entry has its place.
 wxRect inkOf(int entry, int width) {
     GtkTreePath *path = gtk_tree_path_new_from_indices(entry, -1);
     cairo_surface_t *dragged =

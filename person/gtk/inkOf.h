@@ -4,6 +4,6 @@
 
 #include <wx/gdicmn.h>
 
-/// Where something is drawn in an entry of the file list, up to `width`; its upper left corner is
-/// empty. To be called on the user-interface thread.
+/// The area in which something is drawn in an entry of the file list, up to `width`. The entry's
+/// upper left corner must be empty. To be called on the user-interface thread.
 wxRect inkOf(int entry, int width);

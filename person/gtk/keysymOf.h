@@ -2,6 +2,6 @@
 
 #pragma once
 
-/// The key symbol that X11 and Wayland have for a key in the toolkit's numbers; characters have the
-/// same in both.
+/// The key symbol of X11 and Wayland for a key in the toolkit's numbers. Characters have the same
+/// number in both.
 unsigned keysymOf(int key);

@@ -50,10 +50,10 @@ HWND makeMailbox() {
                            nullptr, nullptr);
 }
 
-/// On the thread that the program starts with, which is the one of its user interface.
+/// Created on the program's first thread, its user-interface thread.
 const HWND mailbox = makeMailbox();
 
-/// Where the pointer was in the last move that the user-interface thread has taken.
+/// The pointer's place at the last move that the user-interface thread has handled.
 POINT lastMove = {};
 
 LRESULT CALLBACK noteMove(int code, WPARAM isTaken, LPARAM number) {
@@ -72,7 +72,7 @@ void watchMoves() {
 
 } // namespace
 
-// The platform has none: what it can't do it refuses.
+// The platform does not complain; its calls fail.
 void endOnComplaints() {}
 
 std::unique_ptr<Hand> makeHand() {
@@ -113,7 +113,7 @@ void pressCloseBox() {
     PostMessageW(openDialog().GetHWND(), WM_SYSCOMMAND, SC_CLOSE, 0);
 }
 
-// What drags has the pointer's input to itself, with a window that is none of the dialog's.
+// During a drag a window that is not the dialog's captures the pointer.
 bool isDragRunning() {
     const HWND holder = GetCapture();
     return holder != nullptr && wxFindWinFromHandle(holder) == nullptr;

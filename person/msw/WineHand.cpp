@@ -12,7 +12,7 @@
 
 namespace {
 
-/// What X11 calls a key.
+/// The X11 name of a key.
 std::string nameOf(int key) {
     static const std::map<int, const char *> named = {
         {WXK_BACK, "BackSpace"},    {WXK_TAB, "Tab"},

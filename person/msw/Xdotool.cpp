@@ -12,7 +12,7 @@
 
 namespace {
 
-/// Starts a command line of the system around, which Wine calls drive Z.
+/// Starts a command of the system around Wine, which is its drive Z.
 void startOutside(std::string command) {
     STARTUPINFOA startup = {};
     startup.cb = sizeof startup;
@@ -32,8 +32,8 @@ HANDLE openPipe(const std::string &path, DWORD access) {
 
 } // namespace
 
-// Wine's own pipes lead to no program outside; those of the system do, and don't wait for the other
-// side to open them. The shell holds both sides until the first line tells that ours are open.
+// Wine's own pipes don't reach programs outside; the system's do, and opening them does not wait
+// for the other side. The shell keeps both sides open until the first line shows that ours are.
 Xdotool::Xdotool() {
     const std::string folder = "/tmp/columnimport-hand-" + std::to_string(std::random_device()());
     const char *display = std::getenv("DISPLAY");
@@ -83,8 +83,8 @@ std::string Xdotool::order(const std::string &commands) {
     return printed.substr(0, printed.size() - end.size());
 }
 
-// Wine moves the server's focus only some time after the window manager calls a window the active
-// one, and a key that is struck in between is lost.
+// Wine moves the X11 focus some time after the window manager activates a window, and a key pressed
+// in between is lost.
 bool Xdotool::hasKeys(const std::string &title) {
     return order("getwindowfocus -f getwindowname") == title + '\n';
 }

@@ -4,10 +4,9 @@
 
 #include <string>
 
-/// xdotool, a program of the system around Wine, at work on the X11 screen where Wine shows its
-/// windows. Of the input that Wine's own SendInput makes, Shift and Control are let go by the next
-/// move of the pointer; and where a window really is on the screen, and whether it has the focus,
-/// only the screen knows.
+/// xdotool, a program of the system around Wine, on the X11 screen where Wine shows its windows.
+/// Wine's own SendInput releases Shift and Control at the next move of the pointer, and only the
+/// screen knows where a window really is and whether it has the focus.
 class Xdotool {
 public:
     Xdotool();
@@ -15,10 +14,10 @@ public:
     Xdotool(const Xdotool &) = delete;
     Xdotool &operator=(const Xdotool &) = delete;
 
-    /// Has a line of commands carried out, waits for it and returns what they print.
+    /// Runs a line of commands, waits for it and returns its output.
     std::string order(const std::string &commands);
 
-    /// Whether the window that has the keys on the screen has this title, in UTF-8.
+    /// Whether the focused window on the screen has this title, in UTF-8.
     bool hasKeys(const std::string &title);
 
 private:

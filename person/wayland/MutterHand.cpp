@@ -33,7 +33,7 @@ Result *resultOf(Result *result, GError *error) {
     return result;
 }
 
-/// Calls `method` and gives its answer back; the caller frees it.
+/// Calls `method` and returns its answer; the caller frees it.
 GVariant *ask(GDBusProxy *proxy, const char *method, GVariant *arguments = nullptr) {
     GError *error = nullptr;
     GVariant *answer = g_dbus_proxy_call_sync(proxy, method, arguments, G_DBUS_CALL_FLAGS_NONE, -1,
@@ -53,7 +53,7 @@ GDBusProxy *proxyOf(const char *path, const char *interface) {
     return resultOf(proxy, error);
 }
 
-/// Where the pointer is in the client area of the dialog, if the dialog has heard of it.
+/// The pointer's place in the dialog's client area, if the dialog knows it.
 std::optional<wxPoint> pointerInDialog() {
     GdkWindow *dialog = gtk_widget_get_window(openDialog().GetHandle());
     GdkDevice *pointer =
@@ -72,8 +72,9 @@ bool isButtonDown(int button) {
                          : state.RightIsDown();
 }
 
-/// Waits until the program has seen what the hand did; the compositor does not say when it has
-/// passed it on. What a drag or a closed window takes away is never seen, hence not for long.
+/// Waits until the program has seen the hand's input, since the compositor does not report when it
+/// has passed it on. Not for long: the program never sees input that goes to a drag or that closed
+/// its window.
 void waitUntilSeen(const std::function<bool()> &isSeen) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
     const auto isNoMatter = [&] { return !isDialogOpen() || isDragRunning() || isSeen(); };
@@ -94,10 +95,10 @@ MutterHand::MutterHand() {
     g_object_unref(desktop);
     tell(m_session, "Start");
     m_screen = read(wxGetDisplaySize);
-    // Wherever the pointer was: a way longer than the screen ends in its corner.
+    // A move longer than the screen ends in its corner, wherever the pointer was.
     m_pointer = wxPoint(m_screen.x, m_screen.y);
     moveOnScreen(wxPoint(0, 0));
-    // A screen without a keyboard gives no window the focus; it has one from the first key on.
+    // A screen without a keyboard gives no window the focus; the first key adds a keyboard.
     MutterHand::setKey(WXK_SHIFT, true);
     MutterHand::setKey(WXK_SHIFT, false);
 }
@@ -106,14 +107,14 @@ MutterHand::~MutterHand() {
     try {
         tell(m_session, "Stop");
     } catch (const GivenUp &) {
-        // Then the screen has gone before the hand.
+        // The screen ended before the hand.
     }
     g_object_unref(m_session);
 }
 
-// A program is not told where its windows are. Where the dialog is follows from the pointer, whose
+// Programs don't learn where their windows are. The dialog's place follows from the pointer, whose
 // place is known on the screen and, some time after each move, in the dialog: unequal steps must
-// give the same answer several times in a row. They are made in the middle of the screen first.
+// give the same answer several times in a row. They begin in the middle of the screen.
 void MutterHand::findDialog() {
     int steps = 0;
     int equal = 0;

@@ -4,10 +4,10 @@
 
 #include "person/Hand.h"
 
-// The X11 headers define macros that do not go with other headers.
+// The macros of the X11 headers break other headers.
 struct _XDisplay; // NOLINT(bugprone-reserved-identifier): the name that X11 gives it
 
-/// The hand on an X11 screen: the server takes its input for that of real devices.
+/// The hand on an X11 screen: the server treats its input like that of real devices.
 class XTestHand : public Hand {
 public:
     XTestHand();
