@@ -7,7 +7,7 @@
 #include <random>
 #include <string>
 
-/// A file with this content that lives as long as the object.
+/// A file with this content, which exists as long as the object.
 class ScratchFile {
 public:
     explicit ScratchFile(const std::string &content)

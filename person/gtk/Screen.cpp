@@ -106,7 +106,7 @@ std::unique_ptr<Hand> makeHand() {
 void onUserInterface(const std::function<void()> &work) {
     Call call{work, {}};
     std::future<void> done = call.done.get_future();
-    // At the lowest priority, so that input already delivered is handled first.
+    // At a low priority, so that input already delivered is handled first.
     g_idle_add_full(G_PRIORITY_LOW + 50, carryOut, &call, nullptr);
     done.get();
 }

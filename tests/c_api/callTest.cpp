@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Each function of the C header, used wrongly; and what a run without a dialog gives.
+// Wrong calls of each function of the C header, and the results of a run without a dialog.
 
 #include "host/c/columnimport.h"
 #include "tests/ScratchFile.h"
@@ -22,7 +22,7 @@ protected:
     Import *import = owner.get();
 };
 
-/// Whether the call just made on `import` was told to be wrong.
+/// Whether the last call on `import` was reported as wrong.
 bool isWrong(Import *import, std::int32_t outcome) {
     return (outcome == columnimport_wrong_use || outcome == columnimport_invalid) &&
            *columnimport_message(import) != '\0';

@@ -15,22 +15,22 @@ TEST(LikelyDelimiter, IsWhatPartsTheTitlesAndNotWhatStandsInThem) {
         {"HOLEID,EAST,NORTH", ',', 2},
         {"HOLEID\tFrom, m\tTo, m", '\t', 2},
         {"Hole|From|To", '|', 2},
-        // What reads like text counts only where it is all there is.
+        // Likely text only breaks ties.
         {"Tiefe 0,5 m;Au 1,2;Hole", ';', 2},
         {"1,2,3;4,5", ';', 1},
         {"1,2,3", ',', 2},
         {"Hole;Position, x, y, z", ';', 1},
         {"Hole, From, To (m; m)", ',', 2},
         {"Hole,Note; from, to", ',', 2},
-        // Several: the most, and of equally many the one that titles have least.
+        // Of several the most frequent, of equally many the rarest in titles.
         {"a;b,c", ';', 1},
         {"a;b,c,d", ',', 2},
         {"a|b;c\td,e", '\t', 1},
-        // Quotation marks hide what they enclose, unless one is left open.
+        // Quoted text does not count, unless a quote is left open.
         {"\"Au, Ag, Cu\";\"From\"", ';', 1},
         {"Size 5\",From,To", ',', 2},
         {"\"From,To\"", 0, 0},
-        // Trimmed as the header is, or the cut would give no further column.
+        // Trimmed like the header, or the cut would give no further column.
         {"BHID\t\t\r", 0, 0},
         {"BHID,\r", ',', 1},
         // Blanks, if each word could be a title.

@@ -21,15 +21,15 @@ bool isBlank(const std::string &text) {
     return trimLeft(text, blankChars).empty();
 }
 
-/// How readers of rows differ.
+/// The differences between readers of rows.
 struct Reader {
     bool skipsBlanks; // before a quote
-    bool givesUp;     // where quotes are wrong: it reads no further field
+    bool givesUp;     // at wrong quotes, and reads no further field
     bool takesRuns;   // of a blank delimiter for one
     bool endsAtReturn;
 };
 
-/// The fields of `line`, byte by byte.
+/// The fields of `line`, read byte by byte.
 Fields read(const std::string &line, char delimiter, const Reader &reader) {
     Fields fields(1);
     enum { plain, quoted, closed, spoilt } state = plain;
@@ -68,8 +68,8 @@ Fields read(const std::string &line, char delimiter, const Reader &reader) {
     return fields;
 }
 
-/// The number of the field in which each reader has the first and the last letter of `column`; -1
-/// if one has not, or if they differ in the fields before.
+/// The number of the field that has the first and last letters of `column` for each reader; -1 if
+/// the readers disagree on it or on the fields before.
 std::int32_t agreedField(const std::vector<Fields> &readings, const std::string &column) {
     std::set<Fields> before;
     for (const Fields &fields : readings) {
@@ -114,7 +114,7 @@ TEST(QuotedFields, ArePlainWhereTheTwoCountAlikeAndNoneWhereReadersDiffer) {
     }
 }
 
-// Each byte that is text is another letter, by which a column is found in the fields of a reader.
+// Each text byte is another letter, so that a column can be found in a reader's fields.
 TEST(QuotedFields, AreThoseInWhichAllReadersHaveTheColumn) {
     std::mt19937 random(26); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same lines each time
     for (const char delimiter : {',', '\t', ' ', '"'}) {

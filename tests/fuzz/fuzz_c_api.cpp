@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// The functions of the C header in any order and with any arguments: none crashes, and for a table
-// without alternatives and saved matches the proposal is the matcher's.
+// Calls the functions of the C header in any order with any arguments. None crashes, and for a
+// table without alternatives and saved matches the proposal is the matcher's.
 
 #include <functional>
 #include <memory>
@@ -16,7 +16,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-/// What an import was filled with, as long as its proposal is the matcher's.
+/// The content of an import, as long as its proposal is the matcher's.
 struct Filled {
     Names app;
     Names table;

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 
-// A line is cut by the laws of its delimiter, and a header is its file's first line cut so. The
-// first byte tells how long the delimiter is, which follows; the rest is the file.
+// The cut of a line follows the laws of its delimiter, and a header is the cut of its file's first
+// line. The first byte of an input is the length of the delimiter, which follows; the rest is the
+// file.
 
 #include <algorithm>
 #include <cstdint>

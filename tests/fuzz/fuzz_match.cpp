@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// The matcher agrees with the reference. The first empty line parts the application columns from
-// the file columns.
+// The matcher agrees with the reference. The first empty line separates the application columns
+// from the file columns.
 
 #include <cstdint>
 #include <sstream>

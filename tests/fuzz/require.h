@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-/// Aborts with the law that does not hold.
+/// Aborts with the broken law.
 inline void require(bool holds, const char *law) {
     if (!holds) {
         std::fprintf(stderr, "broken: %s\n", law);

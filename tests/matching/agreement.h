@@ -15,8 +15,8 @@
 
 namespace columnimport {
 
-/// What the matcher answers otherwise than its rules, or against its own laws, for two lists of
-/// names as written; empty if all is well. The scores of votes are compared to the last bit.
+/// How the matcher departs from its rules or laws for two lists of names as written; empty if it
+/// does not. Scores of votes are compared to the last bit.
 inline std::string disagreement(std::vector<std::string> app, std::vector<std::string> file,
                                 const Alternatives &alternatives = {}) {
     const std::vector<std::int32_t> proposal = matchColumns(app, file, alternatives);

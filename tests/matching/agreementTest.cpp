@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The matcher against its rules, on all synonyms and on names from a fixed seed.
+// Compares the matcher with its rules, for all synonyms and for names from a fixed seed.
 
 #include "tests/matching/agreement.h"
 
@@ -27,7 +27,7 @@ TEST(Matcher, AgreesWithItsRulesOnAllSynonyms) {
 }
 
 TEST(Matcher, AgreesWithItsRulesOnNamesThatResembleEachOther) {
-    // Short names and long ones, in alphabets that make many ties and in ones that make few.
+    // Short and long names, in alphabets that give many ties or few.
     const std::string all = "abcdefghijklmnopqrstuvwxyz0123456789_";
     const struct Kind {
         std::string letters;
@@ -39,7 +39,7 @@ TEST(Matcher, AgreesWithItsRulesOnNamesThatResembleEachOther) {
     for (const Kind &kind : kinds) {
         const auto letter = [&] { return kind.letters[below(kind.letters.size())]; };
         Names made = {""};
-        // A new name or an earlier one, with bytes cut out, put in, exchanged or moved to the
+        // A new name or an earlier one, with bytes removed, inserted, swapped or moved to the
         // front.
         const auto next = [&] {
             std::string name = made[below(made.size())];
@@ -56,7 +56,7 @@ TEST(Matcher, AgreesWithItsRulesOnNamesThatResembleEachOther) {
             return name;
         };
         for (int round = 0; round < 30; ++round) {
-            // Once more application columns than are counted at once.
+            // One case has more application columns than are counted at once.
             Names app(below(round == 0 ? 400 : 24)), file(below(24));
             std::generate(app.begin(), app.end(), next);
             std::generate(file.begin(), file.end(), next);

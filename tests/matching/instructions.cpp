@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// One proposal for a fixed case, for the count of its instructions.
+// One proposal for a fixed case, whose instructions are counted.
 
 #include "bench/columnNames.h"
 #include "matching/matchColumns.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The rules by examples that decide a doubtful case.
+// The rules, by examples that decide doubtful cases.
 
 #include <gtest/gtest.h>
 
@@ -57,10 +57,10 @@ TEST(MatchColumns, ProposesTheFirstOfTheBestFits) {
         {{"x", "y"}, {}, {-1, -1}},
         // Equal votes for one column.
         {{"sample"}, {"samples", "sample2"}, {0}},
-        // A vote that two columns are equally good for, in the last case with 0.5 at two lengths.
+        // A vote that two columns deserve equally, in the last case with 0.5 at two lengths.
         {{"easting", "x"}, {"coordx"}, {0, -1}},
         {{"abd", "abcxyd"}, {"abcdef"}, {0, -1}},
-        // The stronger vote wins, and the weaker one is lost to the column that it fits less.
+        // The stronger vote wins, and the weaker one does not go to the next best column.
         {{"sample_number", "sample_no"}, {"sample_numb", "sample_numbers"}, {1, -1}},
     };
     for (const auto &[app, file, proposal] : cases) {
@@ -98,7 +98,7 @@ TEST(OpeningMatches, HaveTheOriginOfEachMatch) {
           {2, Origin::synonym},
           {1, Origin::alternative},
           {0, Origin::similar, 7.0 / 12}}},
-        // What a column refuses goes to no other one, and nobody else's guess is touched.
+        // A refused guess goes to no other column, and other guesses stay.
         {{"ni_pct", "holes"},
          true,
          {},

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// A plain host of this platform, which knows the library's public header and nothing of its
-// toolkit: what it gets back, and how its own window and loop are afterwards.
+// A plain host on Windows, which uses the public header and not the toolkit: its results, and the
+// state of its window and loop afterwards.
 
 #include "person/msw/Xdotool.h"
 #include "tests/ScratchFile.h"
@@ -20,7 +20,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// Controls, by the numbers that the dialog gives them.
+// The dialog's identifiers of its controls.
 constexpr int okButton = 5100;
 constexpr int filePreview = 5;
 constexpr int matchList = 3;
@@ -54,7 +54,7 @@ HWND controlOf(HWND dialog, int id) {
     return search.found;
 }
 
-/// Whether something is drawn in the preview between these heights.
+/// Whether the preview shows something between these heights.
 bool hasInk(HWND dialog, int top, int bottom) {
     HWND preview = controlOf(dialog, filePreview);
     RedrawWindow(preview, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
@@ -88,7 +88,7 @@ protected:
     Host() : file("BHID,Azimut;Dip\r\n1,2;3\r\n"), path(file.path()), window(newHostWindow()) {}
     ~Host() override { DestroyWindow(window); }
 
-    /// Has a person take these steps in the dialog as soon as it takes keys.
+    /// Has a person take these steps once the dialog takes keys.
     bool show(const Steps &steps) {
         return run(steps, [this] {
             return peer.showWindow(window, "Import of a test", {"holename", "dip"}, path,
@@ -107,7 +107,7 @@ protected:
             });
             steps(dialog);
             poll("the dialog is closed", [&] { return isOver.load(); });
-            // With it open the test would wait for ever.
+            // An open dialog would block the test for ever.
             if (!isOver) {
                 PostMessageW(dialog, WM_CLOSE, 0, 0);
             }

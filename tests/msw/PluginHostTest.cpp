@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// A host that is linked to neither the library nor its toolkit: a plug-in brings both in, and may
-// be taken out and brought in again.
+// A host that links neither the library nor its toolkit: a plug-in loads both, and may be unloaded
+// and loaded again.
 
 #include "person/msw/Xdotool.h"
 #include "tests/ScratchFile.h"

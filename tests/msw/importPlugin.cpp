@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A host's plug-in: the only part of it that knows the library.
+// A host's plug-in, the only part that uses the library.
 
 #include <wxImportCSVDialogPeer.h>
 

@@ -17,7 +17,7 @@ using namespace std::string_literals;
 
 namespace {
 
-/// Names that a file or a table may well have, and others that none should have.
+/// Names that a file or table may well have, and others that none should have.
 std::vector<std::string> awkwardNames() {
     std::vector<std::string> names = {"",
                                       "Not used",

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Files that no one would want to import: the dialog stands, says what it can, and can be left.
+// Files that no one would want to import: the dialog opens, reports the problem, and can be left.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"

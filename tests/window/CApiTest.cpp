@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// What only the C header gives of a dialog: positions, required columns, a file without its mark.
+// Features that only the C header has: positions, required columns, a file without its byte-order
+// mark.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -93,7 +94,7 @@ TEST_F(CApi, AsksOnceForColumnsThatTheHostRequires) {
     EXPECT_EQ(columnimport_match_position(import.get(), 1), 1);
 }
 
-// The sanitizers notice what is freed too early or never.
+// The sanitizers notice memory that is freed too early or never.
 TEST_F(CApi, FreesAnImportThatIsGivenUpDuringItsRun) {
     columnimport_import *given = import.release();
     runWithPerson(

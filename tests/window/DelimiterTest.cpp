@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// How a person gets another delimiter into its field, and what is said of a file that it does not
-// cut.
+// The ways to change the delimiter, and the status line for a file that it does not cut.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -30,7 +29,7 @@ void clickIntoField(Person &person) {
     waitForSelection();
 }
 
-/// Opens the menu of the field by `open`, and takes the item in `place`.
+/// Opens the field's menu with `open` and chooses its item number `place`.
 Steps choose(int place, const Steps &open) {
     return [place, open](Person &person) {
         bool isOpen = false;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What the hand does in the two lists: marks, the row under the pointer, drags and drops.
+// The pointer in the two lists: marks, the row under the pointer, drags and drops.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -41,8 +41,8 @@ void expectMarked(const Rows &wanted) {
          [&wanted] { return markedRows() == wanted; });
 }
 
-/// Clicks on a row with a key held down until the marks are as wanted: the handler asks for the
-/// keys as they are when it runs.
+/// Clicks on a row and holds a key down until the marks are as expected, since the handler reads
+/// the key state when it runs.
 void clickWith(Person &person, int key, int row, const Rows &wanted) {
     if (key != WXK_NONE) {
         person.keyDown(key);
@@ -78,7 +78,7 @@ struct Drag {
     int target;
 };
 
-/// What both lists show, as the rules of clicks and drags have it.
+/// The expected content of both lists by the rules of clicks and drags.
 struct Rules {
     Names texts = start;
     std::set<int> marked;
@@ -134,7 +134,7 @@ struct Rules {
     }
 };
 
-/// A person's hand and the rules, side by side.
+/// A person's actions and the rules, side by side.
 struct Both {
     Person &person;
     Rules rules;
@@ -282,7 +282,7 @@ TEST_F(DragDrop, ShowsTheRowUnderThePointerUnlessOneIsMarked) {
         EXPECT_EQ(hoverRows(), Rows());
         person.moveTo(Person::matchRow(7));
         EXPECT_EQ(hoverRows(), Rows());
-        // A drag out of the file list takes the marks away as it begins, and shows where it is.
+        // A drag out of the file list clears the marks when it begins, and highlights its row.
         person.dragTo(Person::fileRow(2), Person::matchRow(0));
         EXPECT_EQ(hoverRows(), Rows{0});
         EXPECT_EQ(markedRows(), Rows());

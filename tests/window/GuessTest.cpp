@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// How a guess is told from a certain match, and what makes it one.
+// The difference between a guess and a certain match, and how one becomes the other.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -35,7 +35,7 @@ protected:
         }
     }
 
-    /// The origins after a person has taken `steps` and pressed OK.
+    /// The origins after `steps` and OK.
     std::vector<int> originsAfter(const Steps &steps) {
         runWithPerson(
             [&steps](Person &person) {
@@ -66,7 +66,7 @@ constexpr int none = columnimport_none;
 TEST_F(Guess, IsShownInItalicsUntilThePersonDealsWithIt) {
     const std::vector<int> origins = originsAfter([](Person &person) {
         EXPECT_EQ(boldRows(), Rows{3});
-        // A hand that trembles during a click drops a row on itself.
+        // A trembling hand drops a row on itself during a click.
         person.drag(Person::matchRow(1), Person::matchRow(1) + wxSize(3, 0));
         expectGuesses({0, 1});
         person.drag(Person::fileRow(0), Person::matchRow(0));
@@ -90,7 +90,7 @@ TEST_F(Guess, IsConfirmedByADoubleClickOrControlAndReturn) {
         EXPECT_EQ(markedRows(), Rows{1});
         person.strikeWith(WXK_CONTROL, 'z');
         person.click(Person::matchRow(0));
-        // The click asks for the keys as they are when it is handled.
+        // The handler of the click reads the key state when it runs.
         poll("the row is marked", [] { return markedRows() == Rows{0}; });
         person.strikeWith(WXK_CONTROL, WXK_RETURN);
         expectGuesses({1});

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A dialog without a mouse: the current row, marks, the clipboard, and the way through the
-// controls.
+// The dialog without a mouse: the current row, marks, the clipboard, and the tab order.
 
 #include "person/DialogRun.h"
 #include "person/openDialog.h"
@@ -25,7 +24,7 @@ protected:
         run.matches = {"HOLE", "FROM", "TO", "AU", "CU"};
     }
 
-    /// The control that has the keys: the match list has them in a part of itself.
+    /// The focused control; in the match list, a part of it has the focus.
     static int focus() {
         const wxWindow *window = wxWindow::FindFocus();
         while (window != nullptr && window->GetId() < 0) {

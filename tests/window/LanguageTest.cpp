@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The dialog in each language that it has, as a host sets it for messages.
+// The dialog in each of its languages, as a host sets it for messages.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -16,8 +16,7 @@ namespace {
 
 using D = wxImportCSVDialog;
 
-/// That the captions are whole, the button is in its place, and the sentence has room beside the
-/// options.
+/// Expects whole captions, the button in its place, and room for the sentence beside the options.
 void expectRoom(const std::string &language) {
     for (const wxWindow *box : openDialog().GetChildren()) {
         for (const wxWindow *caption : box->GetChildren()) {

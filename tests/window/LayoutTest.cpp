@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Where everything stands in the dialog, what it reads, and that a small frame does not squeeze it.
+// The place and text of everything in the dialog; a small frame does not squeeze it.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -57,14 +57,13 @@ struct Figure {
     int wanted;
 };
 
-/// A figure of the layout where fonts are larger, as the environment of the test says.
+/// A figure of the layout at the scale in the environment of the test.
 int scaled(int pixels) {
     const char *scale = std::getenv("GDK_DPI_SCALE");
     return static_cast<int>(std::lround((scale != nullptr ? std::atof(scale) : 1) * pixels));
 }
 
-/// All that is fixed of the places and sizes, however wide the platform's own texts and the frames
-/// of its boxes are.
+/// The fixed places and sizes, however wide the platform's texts and box frames are.
 std::vector<Figure> figures() {
     const wxRect preview = place(labelled("File Preview"));
     const wxRect text = place(control(D::TEXT_FILE_PREVIEW));
@@ -80,7 +79,7 @@ std::vector<Figure> figures() {
     const wxRect ok = place(control(wxID_OK));
     const wxRect cancel = place(control(wxID_CANCEL));
     const int client = openDialog().GetClientSize().x;
-    // What the platform's frame takes of a box.
+    // The thickness of a box's frame on this platform.
     const wxSize frame = preview.GetSize() - text.GetSize();
     const wxPoint inside = text.GetPosition() - preview.GetPosition();
     return {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What the host gets back from a run, however it ends, and where the dialog stands meanwhile.
+// The results of a run, however it ends, and the dialog's place meanwhile.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// Which rows each way of filling the lists shows, and what sends the dialog from one to another.
+// The rows for each way of filling the lists, and the actions that switch between these ways.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -20,7 +20,7 @@ const char *const content = "BHID,UTM X,Depth (m)\nDH-1,500,20\n";
 const Names titles = {"BHID", "UTM X", "Depth (m)"};
 const Names collar = {"holename", "easting", "dip", "length"};
 
-/// What both lists show.
+/// The content of both lists.
 struct Lists {
     Names matches;
     Names fileColumns;
@@ -63,7 +63,7 @@ void redo(Person &person) {
     person.strikeWith(WXK_CONTROL, 'y');
 }
 
-/// One thing that a person does, and what both lists show afterwards.
+/// One action of a person, and the content of both lists afterwards.
 struct Step {
     Steps action;
     Lists shown;
@@ -225,7 +225,7 @@ TEST(Routes, TakeOneCharacterAsDelimiterAndReturnItsFirstByte) {
         EXPECT_TRUE(read(holdsOne));
         pressOk(person);
     }));
-    // Where the locale has nothing for it, the character is UTF-8.
+    // A character that the locale can't encode is UTF-8.
     const std::string inLocale = wxString::FromUTF8("\xC3\xA9").ToStdString(wxConvLibc);
     EXPECT_EQ(run.delimiter, inLocale.empty() ? '\xC3' : inLocale.front());
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What is in view of the dialog, with whatever screen and size of fonts the test runs.
+// The visible part of the dialog, on any screen and with any size of fonts.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -12,7 +12,7 @@ namespace {
 
 using D = wxImportCSVDialog;
 
-/// What is in view of the dialog, as far as a program knows.
+/// The visible part of the dialog, as far as a program knows.
 wxRect view() {
     const wxDialog &dialog = openDialog();
     const wxRect inside(dialog.ClientToScreen(wxPoint()), dialog.GetClientSize());

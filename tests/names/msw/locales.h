@@ -4,8 +4,8 @@
 
 #include <string>
 
-/// The locales that names are looked at in. Here the toolkit asks the system for its code page,
-/// which is nearly Latin-1, whatever the locale.
+/// The locales in which names are tested. On Windows the toolkit uses the system's code page, which
+/// is nearly Latin-1, in any locale.
 inline constexpr const char *locales[] = {"C", "Russian_Russia.1251", "Turkish_Turkey.1254"};
 
 inline bool isLatin1(const std::string &) {

@@ -16,7 +16,7 @@
 
 namespace {
 
-/// The other program, which offers these texts, one drag each.
+/// Another program, which offers these texts, one per drag.
 class OtherProgram {
 public:
     explicit OtherProgram(const Names &texts) {
@@ -39,7 +39,7 @@ public:
     void dropAt(Person &person, wxPoint target) {
         person.moveTo(window);
         person.press();
-        // Another program has a threshold for its drags.
+        // The other program has a threshold for its drags.
         for (int step = 1; step <= 20; ++step) {
             person.moveTo(window - wxSize(step, 0));
         }
@@ -51,7 +51,7 @@ public:
         waitFor("over\n");
     }
 
-    /// A place in its window, in the client area of the dialog.
+    /// A place in its window, in coordinates of the dialog's client area.
     const wxPoint window = wxPoint(1200, 180);
 
     void waitFor(const std::string &wanted) {
@@ -98,7 +98,7 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
     Names expected = texts;
     expected[1] = "";
     expected[5] = " plong\xC3\xA9";
-    expected[6] = "HOLE"; // the toolkit hands no empty text over
+    expected[6] = "HOLE"; // the toolkit drops empty texts
     expected.push_back("");
     EXPECT_TRUE(run.matches == expected);
 }
@@ -165,7 +165,7 @@ TEST(ForeignText, IsPastedBeforeWhateverIsAskedForLater) {
          [](Person &person) {
              person.click(wxImportCSVDialog::CHECK_HEADER);
              poll("the rows are new", [] { return matchTexts() == Names{"Column1", "Column2"}; });
-             // The program answers the second request never, and the first one before that.
+             // The program never answers this second request.
              person.click(Person::matchRow(1));
              person.strikeWith(WXK_CONTROL, 'v');
              poll("the wait is over", [&person] {

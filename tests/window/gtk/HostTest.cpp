@@ -20,7 +20,7 @@ using Work = std::function<void()>;
 class Host : public testing::Test {
 protected:
     Host() : file("BHID,Dip\n") {
-        // Any host of this toolkit has started it before it can have a window.
+        // A host of this toolkit starts it before it can have a window.
         gtk_init(nullptr, nullptr);
         run.appColumns = {"holename", "dip"};
         run.fileName = file.path();
@@ -38,12 +38,12 @@ GtkWidget *newHostWindow() {
     return window;
 }
 
-/// The window that the dialog is told to stay above of.
+/// The window above which the dialog is to stay.
 GtkWindow *ownerOfDialog() {
     return gtk_window_get_transient_for(GTK_WINDOW(openDialog().GetHandle()));
 }
 
-/// Has the loop that is running do `work` when it comes round next.
+/// Has the running loop do `work` in its next iteration.
 void later(const Work &work) {
     const auto carryOut = [](void *data) -> gboolean {
         (*static_cast<Work *>(data))();
@@ -53,7 +53,7 @@ void later(const Work &work) {
                     [](void *data) { delete static_cast<Work *>(data); });
 }
 
-/// Does `work` in a plain main loop, which must go on afterwards.
+/// Does `work` in a plain main loop, which must run on afterwards.
 void inMainLoop(const Work &work) {
     bool wentOn = false;
     later([&] {
@@ -90,7 +90,7 @@ void inApplication(const Work &work) {
     g_object_unref(application);
 }
 
-/// Answers for every dialog without showing it.
+/// Answers every dialog without showing it.
 class AnsweringHook : public wxModalDialogHook {
 public:
     AnsweringHook() { Register(); }
@@ -170,7 +170,7 @@ TEST_F(Host, CutsTheControlsOffInAFramePulledSmall) {
         const wxPoint corner = read([] { return wxPoint() + openDialog().GetClientSize(); });
         person.moveTo(corner - wxSize(20, 20));
         person.press();
-        // The window manager takes over, as when the press was on its own corner.
+        // The window manager takes over, as after a press on the frame's corner.
         onUserInterface([] {
             const wxPoint pointer = wxGetMousePosition();
             gtk_window_begin_resize_drag(GTK_WINDOW(openDialog().GetHandle()),

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// A host that is in use all day: hundreds of imports in one process leave nothing behind.
-// The variable COLUMNIMPORT_RUNS gives them another number.
+// A host that is used all day: hundreds of imports in one process leak nothing. The variable
+// COLUMNIMPORT_RUNS changes their number.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -21,13 +21,13 @@
 
 namespace {
 
-/// What the first runs fetch for good: fonts, themes, cursors, the windows that drags go through.
+/// What the first runs load for good: fonts, themes, cursors, helper windows of drags.
 constexpr int runsToWarmUp = 10;
 
-/// What later runs may take more, for each of them: the toolkit keeps 3 KB of every drag.
+/// What each later run may add: the toolkit keeps 3 KB of every drag.
 constexpr std::ptrdiff_t bytesPerRun = 1024;
 
-/// What the process holds between two runs.
+/// The resources of the process between two runs.
 struct Holdings {
     std::ptrdiff_t bytes;
     std::ptrdiff_t descriptors;
@@ -61,7 +61,7 @@ std::size_t windowsBelow(Display *screen, Window window) {
     return sum;
 }
 
-/// The windows on the screen, of all programs.
+/// The windows of all programs on the screen.
 std::size_t windowsOnScreen() {
     Display *screen = gdk_x11_display_get_xdisplay(gdk_display_get_default());
     return windowsBelow(screen, XDefaultRootWindow(screen));
@@ -126,7 +126,7 @@ TEST(LongUse, LeaksNoMemoryDescriptorOrWindow) {
     EXPECT_EQ(atLast.descriptors, atFirst.descriptors);
     EXPECT_EQ(atLast.hostWindows, atFirst.hostWindows);
     EXPECT_EQ(atLast.toolkitWindows, 0U);
-    // The window manager takes a frame away after its window has gone.
+    // The window manager removes a frame some time after its window.
     poll("no window is left on the screen",
          [windowsAtFirst] { return windowsOnScreen() <= windowsAtFirst; });
 }

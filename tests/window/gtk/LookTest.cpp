@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// How the dialog looks, with whatever theme and size of fonts the test runs: whether what carries a
-// meaning can be told apart, and what is told of what is cut.
+// The look of the dialog in any theme and size of fonts: meaningful colours are distinct, and cut
+// texts have tooltips.
 
 #include "dragdrop/gtk/markColours.h"
 #include "person/DialogRun.h"
@@ -33,7 +33,7 @@ protected:
     DialogRun run;
 };
 
-/// The text beside the pointer: that of the one window that is neither the dialog nor a tooltip.
+/// The text beside the pointer, in the one window that is neither the dialog nor a tooltip.
 std::string labelOfDrag() {
     std::string text;
     GList *windows = gtk_window_list_toplevels();
@@ -70,7 +70,7 @@ TEST_F(Look, ShowsBesideThePointerTheNamesOfADrag) {
 TEST_F(Look, HasTheContrastOfGuidelinesForAccessibleContent) {
     EXPECT_NEAR(contrast(*wxBLACK, *wxWHITE), 21, 0.005);
     EXPECT_NEAR(contrast(wxColour(0x1A, 0x73, 0xE8), *wxWHITE), 4.51, 0.01);
-    // Here no tone of the hover's colour serves as well as its end.
+    // In this case the best tone is an end of the scale.
     EXPECT_EQ(columnimport::markColours({150, 150, 150}, {70, 70, 70}).ground, *wxWHITE);
 }
 

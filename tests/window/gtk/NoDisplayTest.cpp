@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A host on a machine without a display: run without one.
+// A host on a machine without a display; run without one.
 
 #include <columnimport.h>
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ TEST(WithoutADisplay, ShowWindowReturnsFalseAndKeepsTheOutputs) {
     bool firstLineHeader = true;
     char delimiter = ';';
     std::vector<std::string> matches = {"BHID"};
-    // The second peer must not take the first one's failure for a set-up.
+    // The second peer must not take the first one's failure for success.
     for (int peers = 0; peers < 2; ++peers) {
         wxImportCSVDialogPeer peer;
         EXPECT_FALSE(peer.showWindow(nullptr, "Import", {"holename"}, "collar.csv", &useSaved,

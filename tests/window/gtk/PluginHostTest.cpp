@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// A host that is linked to neither the library nor its toolkit: a plug-in brings both in, and may
-// be taken out and brought in again. What the host has set for its process stays as it was.
+// A host that links neither the library nor its toolkit: a plug-in loads both, and may be unloaded
+// and loaded again. The host's settings of its process stay.
 
 #include "tests/ScratchFile.h"
 
@@ -52,7 +52,7 @@ TEST_P(PluginHost, KeepsItsStateWhileThePluginComesAndGoes) {
 
     const ScratchFile file("BHID,Dip\n");
     for (int time = 0; time < 2; ++time) {
-        // As it opens its first display, GTK sets a handler of its own.
+        // GTK sets a handler of its own when it opens its first display.
         const bool hasDisplay = gdk_display_get_default() != nullptr;
         XSetErrorHandler(onXError);
         void *plugin = dlopen(IMPORT_PLUGIN, RTLD_NOW | RTLD_LOCAL);

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// The dialog for a person who hears it: another program does everything through the library that
-// screen readers use.
+// The dialog for a person who hears it: another program does everything through the screen readers'
+// library.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-// A host that itself runs on the toolkit: with an application object and windows of its own, some
-// of them with the identifiers of the dialog's controls, and with dialogs that it runs itself.
+// A host that is written with the toolkit: it has an application object, windows with identifiers
+// of the dialog's controls among others, and runs dialogs itself.
 
 #include "person/DialogRun.h"
 #include "tests/ScratchFile.h"
@@ -27,7 +27,7 @@ public:
     ~HostApplication() override { hasEnded = true; }
 };
 
-/// Does `work` in the main loop of such a host, which ends with its only window, and the toolkit
+/// Does `work` in the main loop of such a host. The loop ends with its only window, and the toolkit
 /// with the host.
 void inHost(const std::function<void(wxFrame &)> &work) {
     auto *application = new HostApplication;
@@ -38,7 +38,7 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     for (int id = 1; id <= 10; ++id) {
         new wxButton(frame, id, "Import");
     }
-    // As soon as somebody could have asked for it.
+    // The earliest moment at which someone could request it.
     frame->Bind(wxEVT_ACTIVATE, [&work, frame, isDone = false](wxActivateEvent &event) mutable {
         event.Skip();
         if (event.GetActive() && !std::exchange(isDone, true)) {
@@ -55,7 +55,7 @@ void inHost(const std::function<void(wxFrame &)> &work) {
     EXPECT_TRUE(hasEnded);
 }
 
-/// A dialog that brings in columns of its own.
+/// A dialog with columns of its own.
 class DerivedDialog : public wxImportCSVDialog {
 public:
     using wxImportCSVDialog::loadHeader;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// A host's plug-in: the only part of it that knows the library, and whoever answers the dialog.
+// A host's plug-in: the only part that uses the library, with the person who answers the dialog.
 
 #include "person/DialogRun.h"
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-// Another program on the screen, from which text is dragged: its window offers one of its arguments
-// after the other, and those that begin with a blank under a name that tells no encoding. It says
-// when it is ready and when a drag is over, and ends after the last one.
+// Another program, from which text is dragged. Its window offers its arguments one after the other;
+// those that begin with a blank, under a format without an encoding. It reports when it is ready
+// and when a drag is over, and ends after the last one.
 //
-// It takes drags too, if they may move what is dragged, but finishes none of them. Asked for what
-// it has on the clipboard, it is slow the first time and hangs the second; under Wayland, where
-// nobody asks twice for the same, it hangs at once.
+// It accepts drags that may move their data, but never finishes one. It answers the first clipboard
+// request slowly and hangs at the second; under Wayland, where nobody requests the same data twice,
+// it hangs at once.
 
 #include <cstdlib>
 #include <cstring>
