@@ -59,10 +59,10 @@ void letRowsBeNarrower(wxSizer &sizer, int missing) {
 
 } // namespace
 
-ScreenColumn::ScreenColumn(const wxWindow &dialog)
+VisibleColumn::VisibleColumn(const wxWindow &dialog)
     : wxBoxSizer(wxVERTICAL), m_room(contentRoom(dialog).x) {}
 
-void ScreenColumn::RepositionChildren(const wxSize &minSize) {
+void VisibleColumn::RepositionChildren(const wxSize &minSize) {
     const wxSize whole = m_size;
     m_size.x = std::min(whole.x, std::max(m_room, minSize.x));
     wxBoxSizer::RepositionChildren(minSize);

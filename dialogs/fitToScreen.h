@@ -8,9 +8,9 @@ namespace columnimport {
 
 /// The content of a dialog, from top to bottom. If the frame is wider than the screen, the items at
 /// the right edge stay in view.
-class ScreenColumn : public wxBoxSizer {
+class VisibleColumn : public wxBoxSizer {
 public:
-    explicit ScreenColumn(const wxWindow &dialog);
+    explicit VisibleColumn(const wxWindow &dialog);
 
     void RepositionChildren(const wxSize &minSize) override;
 

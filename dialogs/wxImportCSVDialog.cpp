@@ -59,7 +59,7 @@ wxImportCSVDialog::~wxImportCSVDialog() = default;
 
 void wxImportCSVDialog::create() {
     columnimport::chooseLanguage();
-    auto *sizer = new columnimport::ScreenColumn(*this);
+    auto *sizer = new columnimport::VisibleColumn(*this);
     createHeaderDlg(sizer);
     createMainDlg(sizer);
 }

@@ -20,5 +20,5 @@ wxImportODBCDialog::~wxImportODBCDialog() = default;
 
 void wxImportODBCDialog::create() {
     columnimport::chooseLanguage();
-    createMainDlg(new columnimport::ScreenColumn(*this));
+    createMainDlg(new columnimport::VisibleColumn(*this));
 }

@@ -18,7 +18,7 @@ FileListKeys::FileListKeys(ListBoxSource &files, ListCtrlSource &matches)
     files.Bind(wxEVT_KEY_DOWN, &FileListKeys::onKeyDown, this);
     files.Bind(wxEVT_CHAR_HOOK, &FileListKeys::onReturn, this);
     files.Bind(wxEVT_CHAR, &FileListKeys::onCharacter, this);
-    hearReturn(files);
+    forwardReturn(files);
 }
 
 void FileListKeys::onKeyDown(wxKeyEvent &event) {

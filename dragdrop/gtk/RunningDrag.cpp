@@ -30,7 +30,8 @@ public:
     explicit WaylandPointer(GdkDisplay *display)
         : m_pointer(wl_seat_get_pointer(
               gdk_wayland_seat_get_wl_seat(gdk_display_get_default_seat(display)))) {
-        wl_proxy_add_dispatcher(reinterpret_cast<wl_proxy *>(m_pointer), note, nullptr, &m_hasLeft);
+        wl_proxy_add_dispatcher(reinterpret_cast<wl_proxy *>(m_pointer), onEvent, nullptr,
+                                &m_hasLeft);
     }
 
     ~WaylandPointer() {
@@ -45,8 +46,8 @@ public:
     bool hasLeft() const { return m_hasLeft; }
 
 private:
-    static int note(const void *, void *pointer, std::uint32_t, const wl_message *event,
-                    wl_argument *) {
+    static int onEvent(const void *, void *pointer, std::uint32_t, const wl_message *event,
+                       wl_argument *) {
         if (event->name == std::string_view("leave")) {
             *static_cast<bool *>(wl_pointer_get_user_data(static_cast<wl_pointer *>(pointer))) =
                 true;

@@ -12,7 +12,7 @@ namespace columnimport {
 /// The check marks in a list of names. Each entry has space for one before its name, so that the
 /// mark stays visible beside a name that is cut:
 ///
-///     ✓ HOLE     a screen reader is told "HOLE, in use"
+///     ✓ HOLE     a screen reader reads "HOLE, in use"
 ///       AU       "AU"
 ///
 /// The mark is drawn, so no font has to have it.

@@ -26,7 +26,7 @@ gboolean passReturnOn(GtkWidget *, GdkEvent *event, void *list) {
 } // namespace
 
 // The toolkit handles Return itself before it sends any key event.
-void hearReturn(wxListBox &list) {
+void forwardReturn(wxListBox &list) {
     g_signal_connect(list.m_focusWidget, "event", G_CALLBACK(passReturnOn), &list);
 }
 

@@ -34,10 +34,11 @@ wxColour textOn(const wxColour &ground) {
 
 /// How well `ground` serves. More than the wanted contrast is no better.
 double worth(const wxColour &ground, const wxColour &background, const wxColour &hover) {
-    constexpr double told = 3.2;
-    constexpr double read = 4.6;
-    return std::min({contrast(ground, background) / told, contrast(ground, hover) / told,
-                     contrast(ground, textOn(ground)) / read, 1.0});
+    constexpr double markContrast = 3.2;
+    constexpr double textContrast = 4.6;
+    return std::min({contrast(ground, background) / markContrast,
+                     contrast(ground, hover) / markContrast,
+                     contrast(ground, textOn(ground)) / textContrast, 1.0});
 }
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace columnimport {
 
 // The toolkit sends the event by itself here.
-void hearReturn(wxListBox &) {}
+void forwardReturn(wxListBox &) {}
 
 void goToEntry(wxListBox &list, int row) {
     list.SetSelection(row);

@@ -14,7 +14,7 @@ namespace {
 /// The exit code of a quit that the host posted during the run.
 std::optional<int> quitCode;
 
-LRESULT CALLBACK noteQuit(int code, WPARAM isTaken, LPARAM number) {
+LRESULT CALLBACK recordQuit(int code, WPARAM isTaken, LPARAM number) {
     const auto *message = reinterpret_cast<const MSG *>(number);
     if (code == HC_ACTION && isTaken == PM_REMOVE && message->message == WM_QUIT) {
         quitCode = static_cast<int>(message->wParam);
@@ -26,7 +26,7 @@ LRESULT CALLBACK noteQuit(int code, WPARAM isTaken, LPARAM number) {
 class QuitWatch {
 public:
     QuitWatch()
-        : m_hook(SetWindowsHookExW(WH_GETMESSAGE, noteQuit, nullptr, GetCurrentThreadId())) {
+        : m_hook(SetWindowsHookExW(WH_GETMESSAGE, recordQuit, nullptr, GetCurrentThreadId())) {
         quitCode.reset();
     }
     ~QuitWatch() { UnhookWindowsHookEx(m_hook); }
