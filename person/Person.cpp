@@ -119,7 +119,7 @@ void Person::typeDelimiter(char character) {
 }
 
 void Person::waitForDialog() {
-    poll("the dialog stands", [] { return read(dialogStands); });
+    poll("the dialog is ready", [] { return read(isDialogReady); });
     m_hand->findDialog();
 }
 

@@ -14,7 +14,7 @@
 // all but `makeHand` and `onUserInterface` on the user-interface thread.
 
 /// From now on, ends the program when the platform complains about a call by the toolkit.
-void endOnComplaints();
+void abortOnWarnings();
 
 /// The hand for the screen that the dialogs are shown on.
 std::unique_ptr<Hand> makeHand();
@@ -27,7 +27,7 @@ void onUserInterface(const std::function<void()> &work);
 void handleEvents();
 
 /// Whether the dialog is shown, has the keyboard, and has its final place and size.
-bool dialogStands();
+bool isDialogReady();
 
 /// Whether programs place their own windows on this screen.
 bool placesWindows();

@@ -28,7 +28,7 @@ FrameWatch::FrameWatch(std::vector<GtkWidget *> widgets, std::function<bool()> i
     : m_widgets(std::move(widgets)), m_waitingFor(m_widgets), m_isNew(std::move(isNew)),
       m_done(std::move(done)) {
     for (GtkWidget *widget : m_widgets) {
-        g_signal_connect_after(widget, "draw", G_CALLBACK(noteDraw), this);
+        g_signal_connect_after(widget, "draw", G_CALLBACK(onDraw), this);
     }
 }
 
@@ -47,7 +47,7 @@ void FrameWatch::disconnect() {
     }
 }
 
-gboolean FrameWatch::noteDraw(GtkWidget *widget, void *, void *self) {
+gboolean FrameWatch::onDraw(GtkWidget *widget, void *, void *self) {
     auto &watch = *static_cast<FrameWatch *>(self);
     // A control that could not draw its content yet has asked to be drawn again.
     if (!watch.m_isNew() || !canBeSeen(widget) || wxTheApp->HasPendingEvents()) {

@@ -28,7 +28,7 @@ public:
     FrameWatch &operator=(const FrameWatch &) = delete;
 
 private:
-    static gboolean noteDraw(GtkWidget *widget, void *cairo, void *self);
+    static gboolean onDraw(GtkWidget *widget, void *cairo, void *self);
     static void endFrame(GdkFrameClock *clock, void *self);
     static gboolean finish(void *self);
     void disconnect();

@@ -40,28 +40,28 @@ wxPoint originOf(GdkWindow *window) {
 }
 
 /// The state of this process's drags.
-struct DragNotes {
+struct DragState {
     bool isRunning = false;
     std::optional<wxPoint> place;
 };
 
-DragNotes dragNotes;
+DragState dragState;
 
-gboolean noteBegin(GSignalInvocationHint *, unsigned, const GValue *, void *) {
-    dragNotes.isRunning = true;
-    dragNotes.place.reset();
+gboolean onDragBegin(GSignalInvocationHint *, unsigned, const GValue *, void *) {
+    dragState.isRunning = true;
+    dragState.place.reset();
     return TRUE;
 }
 
-gboolean noteMotion(GSignalInvocationHint *, unsigned, const GValue *values, void *) {
+gboolean onDragMotion(GSignalInvocationHint *, unsigned, const GValue *values, void *) {
     GdkWindow *target = gtk_widget_get_window(GTK_WIDGET(g_value_get_object(&values[0])));
-    dragNotes.place = originOf(target) - openDialog().ClientToScreen(wxPoint()) +
+    dragState.place = originOf(target) - openDialog().ClientToScreen(wxPoint()) +
                       wxPoint(g_value_get_int(&values[2]), g_value_get_int(&values[3]));
     return TRUE;
 }
 
-gboolean noteEnd(GSignalInvocationHint *, unsigned, const GValue *, void *) {
-    dragNotes.isRunning = false;
+gboolean onDragEnd(GSignalInvocationHint *, unsigned, const GValue *, void *) {
+    dragState.isRunning = false;
     return TRUE;
 }
 
@@ -72,9 +72,9 @@ void onSignal(const char *signal, GSignalEmissionHook hook) {
 void watchDrags() {
     static std::once_flag isWatched;
     std::call_once(isWatched, [] {
-        onSignal("drag-begin", noteBegin);
-        onSignal("drag-motion", noteMotion);
-        onSignal("drag-end", noteEnd);
+        onSignal("drag-begin", onDragBegin);
+        onSignal("drag-motion", onDragMotion);
+        onSignal("drag-end", onDragEnd);
     });
 }
 
@@ -91,7 +91,7 @@ void addTo(void *frame, GtkWidget *part) {
 } // namespace
 
 // The environment variable for it would come too late: it is read when the program is loaded.
-void endOnComplaints() {
+void abortOnWarnings() {
     g_log_set_always_fatal(
         static_cast<GLogLevelFlags>(G_LOG_FATAL_MASK | G_LOG_LEVEL_CRITICAL | G_LOG_LEVEL_WARNING));
 }
@@ -117,7 +117,7 @@ void handleEvents() {
 
 // The window manager gives the frame its place and its size in steps, and the controls follow. A
 // button that moves under the pointer would not know of the press.
-bool dialogStands() {
+bool isDialogReady() {
     if (!isDialogOpen() || !openDialog().IsActive()) {
         return false;
     }
@@ -166,13 +166,13 @@ void pressCloseBox() {
 }
 
 bool isDragRunning() {
-    return dragNotes.isRunning;
+    return dragState.isRunning;
 }
 
-// A drop counts where the compositor has been told that it is taken, and that takes its time.
+// A drop counts once the compositor knows that it is accepted, which takes a while.
 std::optional<wxPoint> placeOfDrag() {
     gdk_display_sync(gdk_display_get_default());
-    return dragNotes.place;
+    return dragState.place;
 }
 
 // A mark is visible by its highlight.

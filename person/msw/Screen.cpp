@@ -56,7 +56,7 @@ const HWND mailbox = makeMailbox();
 /// The pointer's place at the last move that the user-interface thread has handled.
 POINT lastMove = {};
 
-LRESULT CALLBACK noteMove(int code, WPARAM isTaken, LPARAM number) {
+LRESULT CALLBACK recordMove(int code, WPARAM isTaken, LPARAM number) {
     const auto *message = reinterpret_cast<const MSG *>(number);
     if (code == HC_ACTION && isTaken == PM_REMOVE && message->message == WM_MOUSEMOVE) {
         lastMove = message->pt;
@@ -66,14 +66,14 @@ LRESULT CALLBACK noteMove(int code, WPARAM isTaken, LPARAM number) {
 
 void watchMoves() {
     static const HHOOK hook =
-        SetWindowsHookExW(WH_GETMESSAGE, noteMove, nullptr, GetCurrentThreadId());
+        SetWindowsHookExW(WH_GETMESSAGE, recordMove, nullptr, GetCurrentThreadId());
     static_cast<void>(hook);
 }
 
 } // namespace
 
 // The platform does not complain; its calls fail.
-void endOnComplaints() {}
+void abortOnWarnings() {}
 
 std::unique_ptr<Hand> makeHand() {
     return std::make_unique<WineHand>();
@@ -94,7 +94,7 @@ void handleEvents() {
     }
 }
 
-bool dialogStands() {
+bool isDialogReady() {
     watchMoves();
     return isDialogOpen() && openDialog().IsActive();
 }

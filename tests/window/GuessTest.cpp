@@ -107,7 +107,7 @@ TEST_F(Guess, IsConfirmedByADoubleClickOrControlAndReturn) {
 TEST_F(Guess, IsExplainedByATip) {
     originsAfter([](Person &person) {
         const auto tip = [] { return matchList().GetToolTipText().utf8_string(); };
-        person.hoverAt(Person::matchRow(0), "both names are told",
+        person.hoverAt(Person::matchRow(0), "both names are shown",
                        [&tip] { return tip() == "Similar names: HOLE_ID and holename"; });
         person.hoverAt(Person::matchRow(2), "nothing is", [&tip] { return tip().empty(); });
     });

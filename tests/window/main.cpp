@@ -19,7 +19,7 @@ void failTest(const wxString &file, int line, const wxString &, const wxString &
 } // namespace
 
 int main(int argumentCount, char **arguments) {
-    endOnComplaints();
+    abortOnWarnings();
     std::setlocale(LC_ALL, "");
     wxSetAssertHandler(failTest);
     testing::InitGoogleTest(&argumentCount, arguments);

@@ -114,8 +114,8 @@ TEST_F(Look, ShowsACutNameInATooltipAndEllipsizesThePreview) {
             return [&list, tip] { return list.GetToolTipText() == tip; };
         };
         wxListBox &files = fileList();
-        person.hoverAt(Person::fileRow(1), "the whole name is told", tipIs(files, cut));
-        person.hoverAt(Person::fileRow(0), "nothing is told", tipIs(files, ""));
+        person.hoverAt(Person::fileRow(1), "the whole name is shown", tipIs(files, cut));
+        person.hoverAt(Person::fileRow(0), "there is no tooltip", tipIs(files, ""));
         onUserInterface([] {
             EXPECT_FALSE(isShownAsUsed(1));
             const int room = fileList().GetCharHeight();
@@ -127,8 +127,8 @@ TEST_F(Look, ShowsACutNameInATooltipAndEllipsizesThePreview) {
         });
         person.drag(Person::fileRow(1), Person::matchRow(2));
         wxListCtrl &matches = matchList();
-        person.hoverAt(Person::matchRow(2), "the whole name is told", tipIs(matches, cut));
-        person.hoverAt(Person::matchRow(0), "nothing is told", tipIs(matches, ""));
+        person.hoverAt(Person::matchRow(2), "the whole name is shown", tipIs(matches, cut));
+        person.hoverAt(Person::matchRow(0), "there is no tooltip", tipIs(matches, ""));
         EXPECT_TRUE(read([] { return isShownAsUsed(1); }));
         onUserInterface([] {
             const wxWindow &delimiter = control(wxImportCSVDialog::TXT_DELIMITER);
