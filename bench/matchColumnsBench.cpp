@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// What a proposal costs, copies of the two lists and normalisation included.
+// Measures a proposal, including the copies of both lists and the normalization.
 
 #include <benchmark/benchmark.h>
 

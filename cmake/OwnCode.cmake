@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 
-# What every target of our own code is compiled with.
+# The compile options of all targets of our own code.
 
 set(CMAKE_C_STANDARD 99)
 set(CMAKE_CXX_STANDARD 17)
@@ -11,12 +11,11 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 if(WIN32)
-    # A program finds the DLLs that stand beside it.
+    # A program finds the DLLs beside it.
     set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bin)
 endif()
 
-# The project's root is an include folder of our own code, so that an include names its room:
-# #include "matching/matchColumns.h".
+# Our code includes headers relative to the project's root: #include "matching/matchColumns.h".
 function(columnimport_own_code target)
     target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
     if(MSVC)
@@ -31,7 +30,7 @@ function(columnimport_own_code target)
             -fsanitize=${COLUMNIMPORT_SANITIZERS} -fno-sanitize-recover=all -fno-omit-frame-pointer)
         target_link_options(${target} PRIVATE -fsanitize=${COLUMNIMPORT_SANITIZERS})
     else()
-        # The checked functions exist in optimised code only; the sanitizers check more.
+        # The checked functions exist only in optimized code; the sanitizers check more.
         target_compile_options(${target} PRIVATE
             "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
     endif()

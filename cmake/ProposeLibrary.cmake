@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# The C API without the dialogs, for a host that only proposes: it loads neither the toolkit nor
-# what that loads. Neither library needs the other. Where the toolkit is linked into the library, that
-# one alone serves both.
+# The C API without the dialogs, for a host that needs only proposals: it does not load the toolkit.
+# Neither library needs the other. If the toolkit is linked into the library, there is only that one.
 
 add_library(columnimport_propose SHARED)
 add_library(columnimport::propose ALIAS columnimport_propose)

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# The library that only proposes, beside the module for Python that calls it: under a name without a
-# version, and with the C++ library inside, so that it needs no package of the system.
+# The library of proposals, beside the Python module that calls it. Its name has no version, and the
+# C++ library is linked into it, so that it needs no system packages.
 
 include(cmake/ProposeLibrary.cmake)
 set_property(TARGET columnimport_propose PROPERTY VERSION)

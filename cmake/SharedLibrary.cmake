@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 
-# The library that a host loads: the dialogs, with the matcher and the text tools linked in.
+# The library that a host loads, with the dialogs, the matcher and the C API.
 
 include(GenerateExportHeader)
 
@@ -59,7 +59,7 @@ target_link_libraries(columnimport PRIVATE
     columnimport_c_api columnimport_matching columnimport_delimited columnimport_languages
     columnimport_names columnimport_toolkit)
 if(WIN32)
-    # The name that the platform's libraries have, whatever the compiler's own custom is.
+    # The platform's usual name for a library, not the compiler's.
     set_target_properties(columnimport PROPERTIES PREFIX "" IMPORT_PREFIX "")
     target_sources(columnimport PRIVATE ${catalogue_resources})
 else()
@@ -71,8 +71,8 @@ else()
         readers/gtk/AccessibleRow.cpp)
     include(cmake/ProposeLibrary.cmake)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
-    # The toolkit never leaves a process, and its objects know ours: so the library stays too when a
-    # host closes it.
+    # The toolkit can't be unloaded, and its objects refer to ours. So the library stays loaded too
+    # when a host closes it.
     target_link_options(columnimport PRIVATE
         -Wl,--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map -Wl,--no-undefined
         -Wl,-z,relro -Wl,-z,now -Wl,-z,nodelete)
@@ -80,8 +80,8 @@ else()
         LINK_DEPENDS ${PROJECT_SOURCE_DIR}/cmake/exports.map)
 endif()
 
-# The library for what looks inside: it shares the toolkit with it. Where the toolkit is linked into
-# the library, nobody else meets its objects, and this is the same code once more.
+# The library for tests and programs that look inside, which share the toolkit with it. If the toolkit
+# is linked into the library, nothing outside can share it, so this compiles the same code again.
 if(WIN32)
     add_library(columnimport_inside STATIC $<TARGET_OBJECTS:columnimport>)
     target_compile_definitions(columnimport_inside INTERFACE COLUMNIMPORT_STATIC_DEFINE)
@@ -95,7 +95,7 @@ else()
     add_library(columnimport_inside INTERFACE)
     target_link_libraries(columnimport_inside INTERFACE
         columnimport::columnimport columnimport_toolkit)
-    # The same for a host that has this project as a part of its own and runs the dialogs itself.
+    # The same for a host that builds this project as a part of its own and runs the dialogs itself.
     add_library(columnimport::dialogs ALIAS columnimport_inside)
 endif()
 

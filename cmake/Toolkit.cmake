@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 
-# The toolkit of the dialogs, and the platform's name in the folders that hold what differs.
+# The toolkit of the dialogs, and the name of the folders with the platform's code.
 
 find_package(wxWidgets 3.2 REQUIRED COMPONENTS core base)
 
@@ -13,7 +13,7 @@ else()
     pkg_check_modules(GTK REQUIRED IMPORTED_TARGET gtk+-3.0 wayland-client x11)
 endif()
 
-# The toolkit's headers are not ours to warn about.
+# No warnings about the toolkit's headers.
 add_library(columnimport_toolkit INTERFACE)
 target_include_directories(columnimport_toolkit SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
 target_compile_definitions(columnimport_toolkit INTERFACE ${wxWidgets_DEFINITIONS})

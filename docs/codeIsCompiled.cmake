@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
 
-# Fails unless each block of code in a document stands, word for word, in a source that is compiled
-# or run.
+# Fails unless each code block of a document is word for word in a source that is compiled or run.
 #   cmake -D document=FILE -D sources=FILE[;FILE...] -P codeIsCompiled.cmake
 
 cmake_minimum_required(VERSION 3.25)

@@ -1,7 +1,7 @@
 /* SPDX-License-Identifier: MIT */
 
-/* Imports a file of collars into a database of SQLite: the dialog of the library, and then each row
-   by the fields that were matched, in one transaction. */
+/* Imports a file of collars into an SQLite database: shows the library's dialog, then inserts the
+   matched fields of each row, in one transaction. */
 /*     sqlite_host HOLES.sqlite COLLARS.csv */
 
 #include <columnimport.h>
@@ -17,7 +17,7 @@
 
 enum { column_count = 4, most_fields = 1000 };
 
-/* What the table holds, and what that is called in files besides what the library knows. */
+/* The table's columns, with words for them that the library does not know. */
 static const struct {
     const char *name;
     bool is_required;
@@ -44,8 +44,8 @@ static columnimport_import *new_import(const char *path) {
     return import;
 }
 
-/* Cuts a line in place and gives the number of its fields. Double quotes protect delimiters; line
-   ends they don't, here. */
+/* Splits a line in place and returns the number of its fields. Double quotes protect delimiters,
+   but not line ends. */
 static int32_t cut(char *line, char delimiter, char **fields) {
     int32_t count = 0;
     char *to = line;
@@ -67,7 +67,7 @@ static int32_t cut(char *line, char delimiter, char **fields) {
     return count;
 }
 
-/* Binds a field to the statement, or tells why the row is refused. */
+/* Binds a field to the statement; returns the reason if the row is refused, or else null. */
 static const char *bind(sqlite3_stmt *insertion, int32_t column, const char *text) {
     if (*text == '\0') {
         sqlite3_bind_null(insertion, column + 1);
@@ -101,14 +101,14 @@ static bool insert(sqlite3 *database, sqlite3_stmt *insertion, columnimport_impo
         return false;
     }
     const bool is_inserted = sqlite3_step(insertion) == SQLITE_DONE;
-    if (!is_inserted) { /* a hole of that name, say */
+    if (!is_inserted) { /* for example, the hole exists already */
         printf("line %d: %s\n", line_number, sqlite3_errmsg(database));
     }
     sqlite3_reset(insertion);
     return is_inserted;
 }
 
-/* Imports the rows as the dialog was left. All are in the table afterwards, or none. */
+/* Imports the rows with the user's matches: all of them, or none if the file can't be read. */
 static bool import_rows(sqlite3 *database, columnimport_import *import, const char *path) {
     FILE *file = fopen(path, "r");
     if (file == NULL) {

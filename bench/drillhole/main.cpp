@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-// Imports a file of assays as the program does, on the thread of the database beside a main loop.
+// Imports a file of assays as the program does: on the database's thread, beside a main loop.
 //   drillhole_bench ASSAYS.csv DATABASE
-// Prints the rows taken, the peak of the memory in kB, and the longest time in milliseconds that
-// the main loop was kept waiting.
+// Prints the number of imported rows, the peak memory in kB, and the main loop's longest wait in
+// milliseconds.
 
 #include "drillhole/database/connection.h"
 #include "drillhole/database/importRows.h"

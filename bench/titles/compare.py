@@ -145,7 +145,7 @@ def edit_distance(a, b):
     return -Levenshtein.distance(a.lower(), b.lower())
 
 
-# How two names are scored elsewhere, and the least scores to try.
+# How other importers score two names, and the thresholds to try.
 ELSEWHERE = {
     "the same in small letters": (equality, [1]),
     "edit distance of at most {}": (edit_distance, range(-8, 1)),

@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# Four Debian packages: the library for the machine that a host runs on, the part of it that proposes
-# without a window, the module for Python, and what a host is built with.
+# Four Debian packages: the library for machines that run a host, the library of proposals, the Python
+# module, and the files for building a host.
 # `cpack` in a build of the preset "package" makes them.
 
 set(soversion ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
@@ -26,14 +26,14 @@ set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_NAME ${library_package})
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SHLIBDEPS ON)
-# GTK draws the mark of the check box from a picture in SVG.
+# GTK draws the check box's mark from an SVG picture.
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_RECOMMENDS librsvg2-common)
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION
 "An application shows the dialog over its window when a user brings in a
 delimited file or a database table. It proposes from the names which column
 fits which column of the application, and the user corrects the proposal by
 drag and drop. It knows the vocabulary of drill holes.")
-# The index of libraries is renewed by the package manager itself, once for all packages.
+# The package manager updates the index of libraries, once for all packages.
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/dropScripts.cmake)
 foreach(component LIBRARY PROPOSE)
     string(TOLOWER ${component} name)
@@ -76,9 +76,9 @@ set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION
 guides, with which an application that uses the library is built. One that runs
 the dialogs itself needs libwxgtk3.2-dev too.")
 
-# What Debian wants of every package.
+# Debian requires these files in every package.
 configure_file(${CMAKE_CURRENT_LIST_DIR}/changelog.in changelog @ONLY)
-# Without the time: the same sources give the same packages.
+# Without timestamps, so that the same sources give the same packages.
 execute_process(COMMAND gzip --best --no-name --force --keep ${CMAKE_CURRENT_BINARY_DIR}/changelog
                 COMMAND_ERROR_IS_FATAL ANY)
 foreach(component library propose python development)

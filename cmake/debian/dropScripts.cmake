@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# cpack gives a package with a library two scripts that call ldconfig. The package's trigger does
-# that, and Debian wants no scripts for it: so each package is packed again without them.
+# cpack adds two scripts that call ldconfig to a package with a library. The package's trigger does
+# that already, and Debian forbids the scripts. This packs each package again without them.
 foreach(package IN LISTS CPACK_PACKAGE_FILES)
     set(content ${CPACK_TOPLEVEL_DIRECTORY}/content)
     file(REMOVE_RECURSE ${content})

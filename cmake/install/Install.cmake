@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
 
-# What a host gets: the library, its public headers, and what CMake and pkg-config find them by.
-# The components are those of the packages: "library" is needed where a host runs, "propose" where one
-# runs that only proposes, "python" where that is written in Python, "development" where one is built.
+# Installs the library, its public headers, and the files for CMake and pkg-config. Each component is a
+# package: "library" for running a host, "propose" for a host that needs only proposals, "python" for a
+# host in Python, "development" for building a host.
 
 include(CMakePackageConfigHelpers)
 
@@ -32,14 +32,14 @@ configure_package_config_file(${CMAKE_CURRENT_LIST_DIR}/columnimportConfig.cmake
     columnimportConfig.cmake
     INSTALL_DESTINATION ${columnimport_config_folder}
     NO_SET_AND_CHECK_MACRO)
-# As long as the major version is 0, a new minor version may break a host.
+# While the major version is 0, a new minor version may break a host.
 write_basic_package_version_file(columnimportConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES
         ${CMAKE_CURRENT_BINARY_DIR}/columnimportConfig.cmake
         ${CMAKE_CURRENT_BINARY_DIR}/columnimportConfigVersion.cmake
     DESTINATION ${columnimport_config_folder} COMPONENT development)
 
-# The file names its places from where it stands itself, so that the tree can be moved.
+# The paths in this file are relative to it, so that the installed tree can be moved.
 set(pkgconfig_folder ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
     BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_folder}

@@ -1,7 +1,6 @@
 # SPDX-License-Identifier: MIT
 
-# Removes what `cmake --install` put in place, by the list that it left in the build folder, and the
-# folders of ours that are empty then.
+# Removes the files that `cmake --install` listed in the build folder, and then our empty folders.
 #   cd BUILD && cmake -P uninstall.cmake
 if(NOT EXISTS install_manifest.txt)
     message(FATAL_ERROR "Nothing was installed from this build.")

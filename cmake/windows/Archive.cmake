@@ -1,8 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# `cpack` makes a ZIP of what is installed: the DLL, its import libraries, the headers, the files for
-# CMake, the module for Python, and the documents.
-# A host that MSVC builds links an import library of its form.
+# `cpack` makes a ZIP of the installed files: the DLL, its import libraries, the headers, the CMake
+# files, the Python module and the documents. One import library has MSVC's format.
 find_program(LLVM_DLLTOOL llvm-dlltool REQUIRED)
 file(STRINGS ${PROJECT_SOURCE_DIR}/docs/exported-symbols.txt functions REGEX "^columnimport_")
 list(JOIN functions "\n" functions)

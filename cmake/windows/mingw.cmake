@@ -1,7 +1,7 @@
 # SPDX-License-Identifier: MIT
 
-# Compiles for 64-bit Windows with Debian's cross-compiler, and runs what is built under Wine. The
-# folder that cmake/windows/toolkit prints is expected in COLUMNIMPORT_TOOLKIT.
+# Compiles for 64-bit Windows with Debian's cross-compiler, and runs programs under Wine.
+# COLUMNIMPORT_TOOLKIT must be the folder that cmake/windows/toolkit prints.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
@@ -16,8 +16,8 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
-# A program or library brings the compiler's own libraries along, and asks for no DLL but the
-# system's. The guard of the stack is one of them.
+# Links the compiler's libraries into each program and library, including the stack protector, so that
+# these need only DLLs of the system.
 foreach(kind EXE SHARED MODULE)
     set(CMAKE_${kind}_LINKER_FLAGS_INIT "-static -fstack-protector-strong")
 endforeach()

@@ -3,7 +3,7 @@
 #include "SavedMatches.h"
 
 bool SavedMatches::import(columnimport::HostWindow window, const std::string &fileName) {
-    // The dialog writes its outcome after Cancel too, so it gets copies.
+    // The dialog writes its results after Cancel too, so it gets copies.
     bool useSavedMatches = true;
     std::vector<std::string> matches = m_matches;
     char delimiter = m_delimiter;

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-/// What a host keeps of one source from one import to the next.
+/// What a host saves about one source between imports.
 class SavedMatches {
 public:
     bool import(columnimport::HostWindow window, const std::string &fileName);

@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-/// For each application column the place of its field in a row of the file, or -1.
+/// The index of each application column's field in a row of the file, or -1.
 ///
-/// `titles` is the first line, cut as the dialog cut it. Two columns of the same name can't be told
-/// apart by it: the first is taken.
+/// `titles` is the first line, split as the dialog splits it. Of two columns with the same name,
+/// the first is taken.
 std::vector<int> placesOf(const std::vector<std::string> &matches,
                           const std::vector<std::string> &titles, bool firstLineHoldsTitles) {
     std::vector<int> places;

@@ -35,7 +35,7 @@ std::string contentOf(const std::string &path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// Leaves a picture of the dialog with its frame, as the screen has it when it is at rest.
+/// Saves a picture of the dialog with its frame, once the screen no longer changes.
 void takePicture(const std::string &name) {
     const wxRect frame = read(frameOfDialog);
     const std::string path = pictures + '/' + name + ".png";
@@ -44,7 +44,7 @@ void takePicture(const std::string &name) {
             << '+' << frame.y << " +repage -strip -define png:exclude-chunks=date,time '" << path
             << "'";
     std::string before;
-    poll("two pictures of " + name + " are the same", [&] {
+    poll("two pictures of " + name + " are equal", [&] {
         if (std::system(command.str().c_str()) != 0) { // NOLINT(cert-env33-c): all of it is ours
             throw GivenUp("no picture: " + command.str());
         }

@@ -4,7 +4,7 @@
 //     <!-- table: scores -->
 //     <!-- end of table -->
 //   write_tables PAGE...           writes them
-//   write_tables --check PAGE...   fails if one is not as the matcher has it
+//   write_tables --check PAGE...   fails if a table differs from the matcher's results
 
 #include "docs/tables/tables.h"
 

@@ -67,7 +67,7 @@ struct Ballot {
     std::size_t app = 0;
 };
 
-/// The vote of a file column, by the rule.
+/// The vote of a file column.
 Ballot ballotOf(const std::string &fileColumn, const Names &appColumns) {
     Ballot ballot;
     for (std::size_t app = 0; app < appColumns.size(); ++app) {

@@ -4,13 +4,13 @@
 
 #include <string>
 
-// The tables of the documents that tell what the matcher does, made by the matcher itself.
+// The documents' tables about the matcher, made by the matcher itself.
 
 /// One row per class of the synonym table, as Markdown.
 std::string synonymsTable();
 
-/// Pairs of names with their scores, and what the scores are made of.
+/// Pairs of names with their scores and the reasons for them.
 std::string scoresTable();
 
-/// How each column of a file of assays votes, and what becomes of its vote.
+/// The vote of each column of a file of assays, and its result.
 std::string votesTable();
