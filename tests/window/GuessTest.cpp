@@ -45,6 +45,7 @@ protected:
             },
             [this] { return columnimport_show(import.get(), nullptr) == columnimport_ok; });
         std::vector<int> origins;
+        origins.reserve(4);
         for (int column = 0; column < 4; ++column) {
             origins.push_back(columnimport_match_origin(import.get(), column));
         }
