@@ -20,16 +20,15 @@ add_library(columnimport SHARED
     dialogs/sentences.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
-    dragdrop/${platform}/RowMarks.cpp
     dragdrop/${platform}/UseMarks.cpp
     dragdrop/${platform}/listBox.cpp
     dragdrop/ChangeQueue.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
+    dragdrop/RowMatch.cpp
     dragdrop/TextDropTarget.cpp
+    dragdrop/controls.cpp
     dragdrop/dragText.cpp
-    dragdrop/rowsText.cpp
-    dragdrop/tip.cpp
     host/${platform}/HostStandIn.cpp
     host/${platform}/X11Owner.cpp
     host/${platform}/modalLoop.cpp
@@ -64,9 +63,10 @@ if(WIN32)
     target_sources(columnimport PRIVATE ${catalogue_resources})
 else()
     target_sources(columnimport PRIVATE
-        dragdrop/gtk/ForeignText.cpp
+        dragdrop/gtk/RowMarks.cpp
         dragdrop/gtk/RunningDrag.cpp
         dragdrop/gtk/dragLabel.cpp
+        dragdrop/gtk/dragParts.cpp
         dragdrop/gtk/markColours.cpp
         readers/gtk/AccessibleRow.cpp)
     include(cmake/ProposeLibrary.cmake)

@@ -21,7 +21,7 @@ ChangeQueue::Hold ChangeQueue::hold() {
     return m_hold;
 }
 
-// A change may hold the queue again; the others keep waiting.
+// A change may hold the queue again. Then the others keep waiting.
 void ChangeQueue::release(const Change &first) {
     m_hold.reset();
     first();

@@ -8,23 +8,23 @@
 
 namespace columnimport {
 
-/// Keeps a person's changes to the matching in order. While a text is on its way from the clipboard
-/// the queue is held, and later changes wait:
+/// Keeps a person's changes to the matching in order. While a paste waits for the clipboard, the
+/// queue is held and later changes wait:
 ///
-///     a person       the queue                        row 0 reads
-///     Control, V     held for the text                HOLE
-///     Control, Z     the undo waits                   HOLE
-///                    the text comes: released         the text
-///                    the undo runs                    HOLE
+///     key       the queue                          row 0 reads
+///     Ctrl+V    held until the text arrives        HOLE
+///     Ctrl+Z    the undo waits                     HOLE
+///               the text arrives: released         the text
+///               the undo runs                      HOLE
 class ChangeQueue {
 public:
     using Change = std::function<void()>;
     using Hold = std::weak_ptr<void>;
 
-    /// Runs `change` at once, or after those that are waiting.
+    /// Runs `change` at once, or after the waiting changes if the queue is held.
     void run(Change change);
 
-    /// Makes later changes wait. The result expires with `release`, `clear` or the queue's end.
+    /// Makes later changes wait. The result expires at `release`, at `clear` or with the queue.
     Hold hold();
     bool isHeld() const { return m_hold != nullptr; }
 

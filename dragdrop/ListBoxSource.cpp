@@ -6,7 +6,6 @@
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
 #include "dragdrop/listBox.h"
-#include "dragdrop/tip.h"
 
 namespace columnimport {
 
@@ -20,9 +19,9 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
         m_secondClick.pressAgain(HitTest(event.GetPosition()));
         onLeftDown(event);
     });
-    // A screen reader activates an entry this way.
+    // Screen readers activate an entry this way.
     Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent &event) { pick(event.GetInt()); });
-    // The control would select an entry with any button.
+    // Otherwise the control selects an entry with any button.
     for (const auto &press :
          {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
         Bind(press, [](wxMouseEvent &) {});
@@ -59,7 +58,7 @@ wxString ListBoxSource::GetString(unsigned row) const {
     return m_names[row];
 }
 
-// The control does not see the press, so it does not take the focus by itself.
+// The control does not get the press, so it does not take the focus by itself.
 void ListBoxSource::onLeftDown(wxMouseEvent &event) {
     SetFocus();
     const int row = HitTest(event.GetPosition());

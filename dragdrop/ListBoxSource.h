@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "UseMarks.h" // of the platform
 #include "dragdrop/SecondClick.h"
+#include "dragdrop/UseMarks.h"
 
 #include <cstdint>
 #include <functional>
@@ -17,34 +17,33 @@ namespace columnimport {
 
 /// The list of file columns, from which names are dragged onto rows of the match list.
 ///
-/// It handles the left button itself: a press selects an entry, and the first move with the button
-/// down over an entry drags its text. A double click picks an entry. None of this changes the list.
-/// A check mark stands before each name that the match list holds; it is not part of the entry's
-/// text.
+/// It handles the left button itself: a press selects an entry, the first move with the button down
+/// over an entry drags its text, and a double click picks the entry. A check mark precedes each
+/// name that the match list uses; it is not part of the entry's text.
 class ListBoxSource : public wxListBox {
 public:
     ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
     ~ListBoxSource() override;
 
-    /// Calls `picked` with the text of each entry that is picked from now on.
+    /// Calls `picked` with the text of each picked entry.
     void onPick(std::function<void(const wxString &text)> picked) { m_picked = std::move(picked); }
 
-    /// Picks the entry `row`, or nothing if there is none.
+    /// Picks the entry `row`, unless it is wxNOT_FOUND.
     void pick(int row);
 
-    /// Replaces all entries by `names`, none of which is in use.
+    /// Replaces all entries by `names`, without check marks.
     void showNames(const wxArrayString &names);
 
-    /// Marks the columns at these positions, and no others, as in use.
+    /// Puts check marks before the names at exactly these positions.
     void showUse(const std::unordered_set<std::int32_t> &used);
     bool isUsed(unsigned row) const { return m_useMarks.isUsed(row); }
 
     const wxArrayString &names() const { return m_names; }
 
-    /// Selects the entry `row`; the arrow keys go on from it.
+    /// Selects the entry `row`; the arrow keys continue from it.
     void goTo(int row);
 
-    /// The name in an entry.
+    /// The name of an entry.
     wxString GetString(unsigned row) const override;
 
 private:

@@ -4,8 +4,6 @@
 
 #include "dragdrop/controls.h"
 #include "dragdrop/dragText.h"
-#include "dragdrop/rowsText.h"
-#include "dragdrop/tip.h"
 #include "languages/translated.h"
 
 #include <algorithm>
@@ -22,7 +20,7 @@ ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &p
         m_secondClick.pressAgain(static_cast<int>(rowAt(event.GetPosition())));
         onLeftDown(event);
     });
-    // The control would select rows with any button.
+    // Otherwise the control selects rows with any button.
     for (const auto &press :
          {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
         Bind(press, [](wxMouseEvent &) {});
@@ -90,7 +88,7 @@ bool ListCtrlSource::isGuess(long row) const {
 }
 
 void ListCtrlSource::applyMatchFont(long row) {
-    // Some list controls return an invalid font for a row that was never given one.
+    // Some list controls return an invalid font for a row whose font was never set.
     wxFont font = GetItemFont(row);
     if (!font.IsOk()) {
         font = GetFont();
@@ -150,7 +148,7 @@ void ListCtrlSource::exchange(const Rows &rows, std::vector<RowMatch> &matches) 
 }
 
 void ListCtrlSource::assign(const wxString &text) {
-    // The marks count as they are now; the current row counts when the change is made.
+    // Takes the marks as they are now, but the current row as it is when the change is made.
     m_changes.run([this, text, marked = markedRows()] {
         const auto unused = [this](long row) { return isUnused(row); };
         Rows rows = marked.empty() ? chosenRows() : marked;
@@ -280,7 +278,7 @@ ListCtrlSource::Rows ListCtrlSource::chosenRows() const {
     return rows;
 }
 
-// The control does not see the press, since its own selection would mix with the marks; so it does
+// The control does not get the press, since its own selection would mix with the marks. So it does
 // not take the focus by itself.
 void ListCtrlSource::onLeftDown(wxMouseEvent &) {
     SetFocus();
@@ -345,7 +343,7 @@ void ListCtrlSource::showTip(const wxPoint &position, long row) {
     while (position.x >= right && column + 1 < GetColumnCount()) {
         right += GetColumnWidth(++column);
     }
-    // The list leaves some pixels free at both ends of a text.
+    // The control leaves some pixels free at both ends of a text.
     tipWhereCut(*this, GetItemText(row, column), GetColumnWidth(column) - GetCharWidth());
 }
 

@@ -20,23 +20,23 @@
 
 namespace columnimport {
 
-/// The match list: one row per application column, with the matched file column's name in its first
-/// column. The rows are the only record of the current matching. They hold shown texts; `names`
-/// maps them to bytes. A row in bold reads "Not used", a row in italics is a guess.
+/// The match list: one row per application column, with the name of its file column in the first
+/// column. The rows are the only record of the matching. They hold shown texts, which `names` maps
+/// to bytes. Rows in bold read "Not used", rows in italics are guesses.
 ///
-/// A person's changes reach the rows only through `write`, `assign` and `confirm`, whether by drop,
-/// key, double click or paste. The list reports every change to its listeners, and knows none of
-/// them.
+/// Drops, keys, double clicks and pastes change rows only through `write`, `assign` and `confirm`.
+/// The list reports every change to its listeners, and knows none of them.
 ///
 /// A row has three states, independent of each other:
-///  - marked: it belongs to the user's multiple selection. A click marks one row, Control adds a
-///    row, Shift adds the range from the row clicked last; a click below the rows clears all marks.
-///  - hover: the row under the pointer, shown only while no row is marked; at most one.
-///  - current: the row that the keys are at; at most one.
+///  - marked: part of the user's multiple selection. A click marks one row, Control adds a row,
+///  Shift
+///    adds the range from the row clicked last; a click below the rows clears all marks.
+///  - hover: under the pointer, shown only while no row is marked; at most one row.
+///  - current: the keyboard's row; at most one.
 ///
-/// For example, after a click on row 2 and a Shift-click on row 4 the rows 2, 3 and 4 are marked,
-/// and no row is in hover. Dragging row 3 onto the list of file columns then clears all three
-/// matches; dragging row 7 first leaves row 7 alone marked.
+/// For example, a click on row 2 and a Shift-click on row 4 mark rows 2, 3 and 4, and no row is in
+/// hover. Dragging row 3 onto the list of file columns then clears all three matches; dragging
+/// row 7 would first mark row 7 alone.
 class ListCtrlSource : public wxListCtrl {
 public:
     using Rows = std::vector<long>;
@@ -46,17 +46,17 @@ public:
 
     // ---- What the rows hold ----
 
-    /// Replaces all rows. `names` are those of the source from now on, and must outlive the rows.
+    /// Replaces all rows. `names` are the names of their source, and must outlive them.
     void showRows(const std::vector<RowMatch> &matches, const wxArrayString &applications,
                   ShownNames &names);
 
-    /// The names of the source's columns; to be called once rows have been shown.
+    /// The names of the source's columns. Call it only once rows have been shown.
     ShownNames &names() const { return *m_names; }
 
     /// The match text of `row`, as the bytes of a file column's name or "Not used".
     std::string getMatchText(int row) const;
 
-    /// What stands in `row`.
+    /// The match of `row`.
     SourceMatch getMatch(int row) const;
     RowMatch rowMatch(long row) const;
     std::vector<RowMatch> rowMatches() const;
@@ -73,29 +73,29 @@ public:
 
     // ---- Changing them ----
 
-    /// Writes a text into `rows` as the person's choice, in its turn. Skips rows that hold it
-    /// already and rows that are gone; if none is left, nothing changes.
+    /// Writes a text into `rows` as the person's choice, in the order of the queue. Skips rows that
+    /// hold it already and rows that are gone; if none is left, nothing changes.
     void write(const Rows &rows, const wxString &text);
 
-    /// The same with the text of "Not used".
+    /// Writes "Not used" into `rows`.
     void clearMatches(const Rows &rows) { write(rows, m_names->textOf(ShownNames::noColumn)); }
 
-    /// Writes a text into the marked rows or else the current one; before any row was chosen, into
-    /// the first that reads "Not used". Then makes the next such row the current one and clears the
-    /// marks, ready for the next name.
+    /// Writes a text into the marked rows, or else into the current one, or else into the first one
+    /// that reads "Not used". Then clears the marks and goes to the next row that reads "Not used",
+    /// ready for the next name.
     void assign(const wxString &text);
 
     /// Makes the guesses in `rows` the person's choice.
     void confirm(const Rows &rows);
 
-    /// The queue in which all these changes are made.
+    /// The queue that keeps all changes in order.
     ChangeQueue &changes() { return m_changes; }
 
-    /// Calls `changed` after rows have been written, by undo too.
+    /// Calls `changed` after each change of rows, including undo and redo.
     void onChange(std::function<void(const Rows &)> changed) { m_changed = std::move(changed); }
 
-    /// Calls `written` after a change by the person. The step swaps the rows' matches with those
-    /// before: run once it undoes the change, run again it redoes it.
+    /// Calls `written` after each change by the person, with a step that undoes the change when run
+    /// once and redoes it when run again.
     void onWrite(std::function<void(std::function<void()> step)> written) {
         m_written = std::move(written);
     }
@@ -107,7 +107,7 @@ public:
     int countMarkedRows() const { return static_cast<int>(markedRows().size()); }
     Rows markedRows() const;
 
-    /// Marks the rows from `one` to `other`, both included, in either order. Ignores rows behind
+    /// Marks the rows from `one` to `other`, both included, in either order. Ignores rows beyond
     /// the last one.
     void markRows(long one, long other);
 
@@ -118,59 +118,59 @@ public:
 
     long currentRow() const;
 
-    /// The row from which Shift and a key mark a range. It survives a refresh.
+    /// The row from which Shift and a key mark a range; kept across refreshes.
     long keyAnchor() const { return m_keyAnchor; }
     void setKeyAnchor(long row) { m_keyAnchor = row; }
 
-    /// Makes `row` the current one and brings it into view; the anchor of the keys stays.
+    /// Makes `row` the current one and scrolls to it. The anchor stays.
     void moveTo(long row);
 
-    /// The same, moves the anchor to `row`, and highlights the row.
+    /// Moves to `row`, makes it the anchor, and highlights it.
     void goTo(long row);
 
-    /// Goes to the next guess behind `row`, if there is one, and clears the marks.
+    /// Clears the marks and goes to the next guess behind `row`, if there is one.
     void goToNextGuess(long row);
 
-    /// The marked rows, or else the current one, or none before a row was chosen.
+    /// The marked rows, or else the current one, if any.
     Rows chosenRows() const;
 
     // ---- The view ----
 
-    /// The row at `position`, in the coordinates of the list's mouse and drag events, or
-    /// wxNOT_FOUND.
+    /// The row at `position`, in the coordinates of the list's mouse and drag events; wxNOT_FOUND
+    /// if there is none.
     long rowAt(const wxPoint &position) const;
 
     /// The row that is being dragged, or wxNOT_FOUND.
     long draggedRow() const { return m_draggedRow; }
 
     /// Scrolls by one row if the pointer is at the upper or lower edge of the rows. The edge is
-    /// thin, so that a drop on the first or last row in view does not scroll by accident.
+    /// thin, so that a drop on the first or last visible row does not scroll.
     void scrollAtEdge();
 
-    /// Lays out the rows at once. The control waits until the toolkit is idle, and with very many
-    /// file columns the other list keeps it busy; the rows would stay blank until then.
+    /// Lays out the rows at once. The control itself waits for the toolkit to be idle, and a very
+    /// long list of file columns keeps the toolkit busy: the rows would stay blank meanwhile.
     void layOutRows() { OnInternalIdle(); }
 
 private:
-    /// Gives `rows` these matches as one change, and skips rows that hold theirs already.
+    /// Gives `rows` these matches as one change. Skips rows that hold theirs already.
     void change(const Rows &rows, const std::vector<RowMatch> &matches);
 
     /// Swaps each of `matches` with what its row holds.
     void exchange(const Rows &rows, std::vector<RowMatch> &matches);
 
-    /// The next row behind `row` that `isWanted`, from the first row on after the last; or
-    /// wxNOT_FOUND.
+    /// The next row behind `row` that `isWanted`, wrapping at the end; wxNOT_FOUND if there is
+    /// none.
     template <typename Wanted>
     long nextRow(long row, const Wanted &isWanted) const;
 
-    /// The first marked row behind `row`, or wxNOT_FOUND, which starts at the first row.
+    /// The first marked row behind `row`, which may be wxNOT_FOUND; wxNOT_FOUND if there is none.
     long nextMarkedRow(long row) const { return m_marks.next(row); }
 
     void onLeftDown(wxMouseEvent &event);
     void onLeftUp(wxMouseEvent &event);
     void onMouseMove(wxMouseEvent &event);
 
-    /// Explains a guess in a tooltip, or gives the whole text at `position` if it is cut.
+    /// Sets the tooltip: it explains a guess, or shows the text at `position` in full if it is cut.
     void showTip(const wxPoint &position, long row);
 
     ShownNames *m_names = nullptr;
@@ -180,7 +180,7 @@ private:
     ChangeQueue m_changes;
     RowMarks m_marks;
     SecondClick m_secondClick;
-    std::int32_t m_lastClickedRow = wxNOT_FOUND; // the anchor of a Shift range; survives a refresh
+    std::int32_t m_lastClickedRow = wxNOT_FOUND; // anchor of a Shift-click; kept across refreshes
     long m_keyAnchor = wxNOT_FOUND;
     long m_draggedRow = wxNOT_FOUND;
 };

@@ -4,6 +4,8 @@
 
 #include "names/ColumnMatch.h"
 
+#include <cstddef>
+
 #include <wx/string.h>
 
 namespace columnimport {
@@ -12,5 +14,8 @@ namespace columnimport {
 struct RowMatch : ColumnMatch {
     wxString text;
 };
+
+/// The text for `count` rows, the first of which reads `first`: "Au g/t", or "Au g/t (3 rows)".
+wxString rowsText(const wxString &first, std::size_t count);
 
 } // namespace columnimport

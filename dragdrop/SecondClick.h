@@ -4,15 +4,15 @@
 
 namespace columnimport {
 
-/// Tells a double click on a row from a drag. A double click is two clicks on one row, and counts
-/// when the button goes up; a press that begins a drag is no click.
+/// Distinguishes a double click on a row from a drag. A double click is two clicks on one row, and
+/// counts when the button goes up. A press that begins a drag is not a click.
 ///
 ///     press AA, release, press AA again, release           a double click
 ///     press AA, release, press AA again, drag              a click and a drag
 ///     drag AA, press AA, release                           a drag and a click
 class SecondClick {
 public:
-    /// The system reports the second press of a double click.
+    /// Call it when the system reports the second press of a double click.
     void pressAgain(int row) { m_isPressedAgain = row >= 0 && row == m_clicked; }
 
     /// Whether the release over `row` completes a double click.

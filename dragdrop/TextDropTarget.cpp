@@ -37,7 +37,7 @@ bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     }
     auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);
     const long row = list.rowAt(wxPoint(x, y));
-    // A row dropped on itself is a click with a trembling hand.
+    // A row dropped on itself is a click with an unsteady mouse.
     if (row >= 0 && row != list.draggedRow()) {
         list.write({row}, list.names().textOfForeign(text));
     }

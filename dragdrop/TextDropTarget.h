@@ -8,17 +8,16 @@ namespace columnimport {
 
 class ListCtrlSource;
 
-/// Receives text that is dropped on one of the two lists, from the dialog or from any program.
+/// Receives text dropped on one of the two lists, from the dialog itself or from any program.
 ///
-/// On the match list the text is written into the row under the pointer. On the list of file
-/// columns, whose target knows the match list, the text is ignored: all marked rows of the match
-/// list become "Not used".
+/// A drop on the match list writes the text into the row under the pointer. A drop on the list of
+/// file columns ignores the text and sets all marked rows of the match list to "Not used".
 ///
 /// A move along the very edge of the match list scrolls it by a row, so that a drag reaches rows
 /// out of view. The row in the hover state is always the one that a drop would write to.
 class TextDropTarget : public wxTextDropTarget {
 public:
-    /// `owner` is the control that will get and own the target.
+    /// `owner` is the list that will own the target.
     explicit TextDropTarget(wxWindow &owner);
     ~TextDropTarget() override;
 

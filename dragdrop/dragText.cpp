@@ -13,7 +13,7 @@ namespace columnimport {
 
 namespace {
 
-/// Delays the closing of the window until its own end. A window that closes during a drag never
+/// Keeps the window from closing while this object lives. A window that closes during a drag never
 /// answers the drop, and the drag would wait minutes for it.
 class DelayedClose {
 public:

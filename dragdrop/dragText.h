@@ -8,15 +8,14 @@ class wxWindow;
 
 namespace columnimport {
 
-/// Whether the left button is down now and was down when `move` was made. A move that is handled
-/// late may be older than the press; taken for a drag, it would lose the Control or Shift of a
-/// click.
+/// Whether the left button is down now and was down at the time of `move`. A move that is handled
+/// late may be older than the press; if it began a drag, a click with Control or Shift would be
+/// lost.
 bool movedWithButtonDown(const wxMouseEvent &move);
 
-/// Drags `text` out of `source` until it is dropped or cancelled. Shows `shown` beside the pointer
-/// meanwhile, and delays the closing of the window.
-///
-/// To be called from the handler of the mouse event that begins the drag.
+/// Drags `text` out of `source` until it is dropped or cancelled. Meanwhile shows `shown` beside
+/// the pointer and keeps the window from closing. Call it from the handler of the mouse event that
+/// begins the drag.
 void dragText(wxWindow &source, const wxString &text, const wxString &shown);
 
 } // namespace columnimport

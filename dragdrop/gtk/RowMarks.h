@@ -10,10 +10,8 @@ class wxListCtrl;
 
 namespace columnimport {
 
-/// Which rows of a list control are marked, and their highlight.
-///
-/// The control has no such state here: the marks are kept beside it, shown in the colours of the
-/// rows, and dropped with the rows.
+/// Which rows of a list control are marked. Here the control has no state for this, so this class
+/// keeps the marks, shows them in the colours of the rows, and drops them with the rows.
 class RowMarks {
 public:
     explicit RowMarks(wxListCtrl &list);
@@ -30,7 +28,7 @@ public:
 private:
     wxListCtrl &m_list;
     std::function<void(long)> m_changed;
-    std::vector<bool> m_marked; // rows behind its end are not marked
+    std::vector<bool> m_marked; // rows beyond its end are not marked
 };
 
 } // namespace columnimport

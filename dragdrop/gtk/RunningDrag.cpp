@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: MIT
 
-// This relies on members of the toolkit's drop source that are public but not documented.
-// `m_widget`, in which the drag begins, exists from the start. When a drag begins, `m_dragContext`
-// is set to GTK's own drag, a window for an icon is made and never destroyed, `m_iconWindow`, and a
-// loop runs until `m_waiting` is false. So a high-priority idle call that is added before the drag
-// is the first thing to run in that loop; if the toolkit begins no drag, it runs later, without
-// one.
+// This relies on undocumented public members of the toolkit's drop source. `m_widget`, where the
+// drag begins, exists from the start. To begin a drag, the toolkit sets `m_dragContext` to GTK's
+// own drag, creates a window for an icon, `m_iconWindow`, which it never destroys, and runs a loop
+// until `m_waiting` is false. So a high-priority idle call added before the drag runs first in that
+// loop. If the toolkit begins no drag, the call runs later, without one.
 
 #include "RunningDrag.h"
-
-#include "dragLabel.h"
 
 #include <string_view>
 #include <utility>
@@ -22,9 +19,8 @@
 
 namespace columnimport {
 
-/// A pointer of our own beside the toolkit's, which leaves the program when a drag begins. Make it
-/// only if the screen has a pointer: a compositor disconnects a program that asks for a missing
-/// one.
+/// A pointer of our own beside the toolkit's. It leaves the program when a drag begins. Create it
+/// only if the seat has a pointer: a compositor disconnects a program that asks for a missing one.
 class WaylandPointer {
 public:
     explicit WaylandPointer(GdkDisplay *display)
@@ -61,8 +57,8 @@ private:
 
 namespace {
 
-// Reports the failure as handled; otherwise the label would fly back to its start and take the
-// presses on its way.
+// Reports the failure as handled. Otherwise GTK animates the label back to where the drag began,
+// and the label takes button presses on its way.
 gboolean reportHandled(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
     return TRUE;
 }
@@ -75,10 +71,10 @@ bool hasPointer(GdkDisplay *display) {
 
 } // namespace
 
-// Two lines of text are higher than a row. Not every Wayland compositor honours an offset from the
+// Two lines of text are taller than a row. Some Wayland compositors ignore an offset from the
 // pointer, so there the label has a transparent margin instead.
 RunningDrag::RunningDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown)
-    : m_drag(drag), m_label(makeDragLabel(shown)), m_right(source.GetCharWidth()),
+    : m_drag(drag), m_label(makeLabel(shown)), m_right(source.GetCharWidth()),
       m_below(2 * source.GetCharHeight()),
       m_due(g_idle_add_full(G_PRIORITY_HIGH, begin, this, nullptr)),
       m_failing(
@@ -123,21 +119,21 @@ int RunningDrag::begin(void *self) {
     return G_SOURCE_REMOVE;
 }
 
-// A Wayland compositor silently starts no drag if the button is up by then. The toolkit would wait
-// for its end for ever.
+// A Wayland compositor silently ignores a drag if the button is up by then, and the toolkit would
+// wait for it for ever.
 void RunningDrag::endIfIgnored() {
     if (m_pointer == nullptr) {
         return;
     }
-    // The compositor has answered all requests when this returns.
+    // Returns once the compositor has answered all requests.
     gdk_display_sync(gtk_widget_get_display(m_drag.m_widget));
     if (!m_pointer->hasLeft()) {
         gtk_drag_cancel(m_drag.m_dragContext);
     }
 }
 
-// The program that receives the drop may hang. GTK would wait five minutes for it, and the toolkit
-// keeps all events from the dialog meanwhile.
+// The receiving program may hang. GTK would wait five minutes for it, and meanwhile the dialog gets
+// no events.
 void RunningDrag::limitDrop(GdkDragContext *, int, void *self) {
     constexpr unsigned milliseconds = 2000;
     static_cast<RunningDrag *>(self)->m_due = g_timeout_add(milliseconds, endUnfinished, self);

@@ -16,19 +16,22 @@ namespace columnimport {
 
 class WaylandPointer;
 
-/// Adds to the toolkit's drag a label beside the pointer, and an end if the screen ignores the drag
-/// or the receiving program hangs. The label keeps clear of the row under the pointer, whose
-/// highlight shows where the drop will go.
+/// Adds a label beside the pointer to the toolkit's drag, and ends the drag if the compositor
+/// ignores it or the receiving program hangs. The label leaves the row under the pointer visible,
+/// whose highlight shows where the drop will go.
 class RunningDrag {
 public:
-    /// Make it before `drag` begins and keep it until the end. `source` is the window in which the
-    /// drag begins, `shown` the label's text.
+    /// Create it before `drag` begins, and keep it until the drag ends. `source` is the window that
+    /// the drag starts in, `shown` the label's text.
     RunningDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown);
     ~RunningDrag();
     RunningDrag(const RunningDrag &) = delete;
     RunningDrag &operator=(const RunningDrag &) = delete;
 
 private:
+    /// Makes the label. The caller owns a reference.
+    static GtkWidget *makeLabel(const wxString &text);
+
     static int begin(void *self);
     void endIfIgnored();
     static void limitDrop(GdkDragContext *, int, void *self);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "UseMarks.h"
+#include "dragdrop/UseMarks.h"
 
 #include "languages/translated.h"
 
@@ -12,8 +12,8 @@ namespace columnimport {
 
 namespace {
 
-/// Shows a name with space before it. A screen reader gets the cell's text, which has words for the
-/// mark; only the name is measured and drawn.
+/// A cell that shows a name with space before it. Screen readers get the cell's text, which
+/// describes the mark in words; only the name is measured and drawn.
 struct NameCell {
     GtkCellRendererText parent;
     int room;         // before the name
@@ -44,7 +44,7 @@ void getPreferredWidth(GtkCellRenderer *cell, GtkWidget *widget, int *least, int
     }
 }
 
-/// Draws a check mark in the middle of `area`, in the colour of its text.
+/// Draws a check mark in the middle of `area`, in the text colour. No font needs to have it.
 void drawMark(cairo_t *context, GtkWidget *widget, const GdkRectangle &area) {
     GtkStyleContext *style = gtk_widget_get_style_context(widget);
     GdkRGBA colour;
@@ -90,7 +90,7 @@ GType cellType() {
     return type;
 }
 
-/// Called after the cell has got the text of its entry.
+/// Called after the cell has received the text of its entry.
 void markCell(GtkCellLayout *, GtkCellRenderer *cell, GtkTreeModel *model, GtkTreeIter *entry,
               void *marks) {
     GtkTreePath *path = gtk_tree_model_get_path(model, entry);

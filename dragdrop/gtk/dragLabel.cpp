@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragLabel.h"
+#include "RunningDrag.h"
 
 #include <gtk/gtk.h>
 #include <wx/settings.h>
@@ -15,7 +15,7 @@ wxString cssColour(wxSystemColour colour) {
 
 } // namespace
 
-GtkWidget *makeDragLabel(const wxString &text) {
+GtkWidget *RunningDrag::makeLabel(const wxString &text) {
     GtkWidget *label = gtk_label_new(text.utf8_str());
     gtk_label_set_single_line_mode(GTK_LABEL(label), TRUE);
     gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
@@ -31,7 +31,7 @@ GtkWidget *makeDragLabel(const wxString &text) {
                                    GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
     g_object_unref(provider);
     gtk_widget_show(label);
-    // Otherwise its window would make a label that can be cut as narrow as an ellipsis.
+    // Without a size request, the window would shrink a label that may be cut to its ellipsis.
     int width = 0;
     gtk_widget_get_preferred_width(label, nullptr, &width);
     gtk_widget_set_size_request(label, width, -1);

@@ -25,7 +25,7 @@ gboolean passReturnOn(GtkWidget *, GdkEvent *event, void *list) {
 
 } // namespace
 
-// The toolkit handles Return itself before it sends any key event.
+// The toolkit handles Return before it sends any key event.
 void forwardReturn(wxListBox &list) {
     g_signal_connect(list.m_focusWidget, "event", G_CALLBACK(passReturnOn), &list);
 }

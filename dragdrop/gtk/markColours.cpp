@@ -16,7 +16,7 @@ double linear(unsigned char part) {
     return share <= 0.04045 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
 }
 
-/// The relative luminance, as guidelines for accessible content define it.
+/// The relative luminance, as defined by the guidelines for accessible web content.
 double luminance(const wxColour &colour) {
     return 0.2126 * linear(colour.Red()) + 0.7152 * linear(colour.Green()) +
            0.0722 * linear(colour.Blue());
@@ -32,8 +32,8 @@ wxColour textOn(const wxColour &ground) {
     return contrast(*wxBLACK, ground) > contrast(*wxWHITE, ground) ? *wxBLACK : *wxWHITE;
 }
 
-/// How well `ground` serves. More than the wanted contrast is no better.
-double worth(const wxColour &ground, const wxColour &background, const wxColour &hover) {
+/// How well `ground` fits as the colour of a marked row: at most 1, with all wanted contrasts.
+double fitness(const wxColour &ground, const wxColour &background, const wxColour &hover) {
     constexpr double markContrast = 3.2;
     constexpr double textContrast = 4.6;
     return std::min({contrast(ground, background) / markContrast,
@@ -49,15 +49,15 @@ double contrast(const wxColour &one, const wxColour &other) {
     return std::max(a, b) / std::min(a, b);
 }
 
-// Tries the tones of the hover's colour towards black and white, in steps too small to see; takes
-// the nearest one that serves, or else the best.
+// Tries the tones between the hover colour and black or white, in steps too small to see. Takes the
+// nearest one with all wanted contrasts, or else the best.
 MarkColours markColours(const wxColour &background, const wxColour &hover) {
     wxColour best = hover;
     constexpr int steps = 50;
     for (int step = 1; step <= steps; ++step) {
         for (const wxColour &end : {*wxBLACK, *wxWHITE}) {
             const wxColour tone = mixed(hover, end, static_cast<double>(step) / steps);
-            if (worth(tone, background, hover) > worth(best, background, hover)) {
+            if (fitness(tone, background, hover) > fitness(best, background, hover)) {
                 best = tone;
             }
         }

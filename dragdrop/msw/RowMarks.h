@@ -2,21 +2,27 @@
 
 #pragma once
 
-class wxListCtrl;
+#include <wx/listctrl.h>
 
 namespace columnimport {
 
-/// Which rows of a list control are marked. The control has a state for it here, which it shows and
-/// drops with the rows.
+/// Which rows of a list control are marked. Here the native control has a state for this: it shows
+/// the marks, and drops them with the rows.
 class RowMarks {
 public:
     explicit RowMarks(wxListCtrl &list) : m_list(list) {}
 
-    void set(long row, bool marked);
-    bool isMarked(long row) const;
+    void set(long row, bool marked) {
+        m_list.SetItemState(row, marked ? wxLIST_STATE_DROPHILITED : 0, wxLIST_STATE_DROPHILITED);
+    }
+    bool isMarked(long row) const {
+        return m_list.GetItemState(row, wxLIST_STATE_DROPHILITED) != 0;
+    }
 
     /// The first marked row behind `row`, or -1.
-    long next(long row) const;
+    long next(long row) const {
+        return m_list.GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_DROPHILITED);
+    }
 
 private:
     wxListCtrl &m_list;

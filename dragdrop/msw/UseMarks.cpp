@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "UseMarks.h"
+#include "dragdrop/UseMarks.h"
 
 #include <wx/listbox.h>
 #include <wx/vector.h>
@@ -9,8 +9,9 @@ namespace columnimport {
 
 namespace {
 
-constexpr int roomInDialogUnits = 9; // a quarter of an average character's width each
+constexpr int roomInDialogUnits = 9; // four of them are as wide as an average character
 
+// The native control only shows text: an entry is the mark or nothing, a tab, and the name.
 wxString entryText(const wxString &name, bool isUsed) {
     constexpr wchar_t checkMark = 0x2713;
     return (isUsed ? wxString(checkMark) : wxString()) + '\t' + name;
@@ -21,6 +22,8 @@ wxString entryText(const wxString &name, bool isUsed) {
 UseMarks::UseMarks(wxListBox &list) : m_list(list) {
     list.MSWSetTabStops(wxVector<int>(1, roomInDialogUnits));
 }
+
+UseMarks::~UseMarks() = default;
 
 void UseMarks::showNames(const wxArrayString &names) {
     m_list.Clear();

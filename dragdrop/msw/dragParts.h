@@ -10,8 +10,8 @@ class wxWindow;
 
 namespace columnimport {
 
-// The classes of a drag that differ between platforms. The toolkit's own classes are enough here:
-// texts are Unicode, cursors follow the pointer, and each drag ends.
+// The classes of a drag that differ between platforms. On Windows the toolkit's own classes are
+// enough: texts are Unicode, the cursor shows the drag, and each drag ends.
 
 using UnicodeText = wxTextDataObject;
 

@@ -6,7 +6,7 @@
 
 namespace columnimport {
 
-// The toolkit sends the event by itself here.
+// On Windows the toolkit sends the event itself.
 void forwardReturn(wxListBox &) {}
 
 void goToEntry(wxListBox &list, int row) {

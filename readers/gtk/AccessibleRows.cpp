@@ -4,7 +4,7 @@
 
 #include "AccessibleRow.h"
 #include "dragdrop/ListCtrlSource.h"
-#include "dragdrop/rowsText.h"
+#include "dragdrop/RowMatch.h"
 #include "readers/rowText.h"
 
 #include <gtk/gtk-a11y.h>

@@ -9,13 +9,13 @@ class wxListBox;
 
 namespace columnimport {
 
-/// The check marks in a list of names. Each entry has space for one before its name, so that the
-/// mark stays visible beside a name that is cut:
+/// The check marks in a list of names. They precede the names, so that a long name does not hide
+/// its mark:
 ///
 ///     ✓ HOLE     a screen reader reads "HOLE, in use"
 ///       AU       "AU"
 ///
-/// The mark is drawn, so no font has to have it.
+/// Each platform has a file of its own for it.
 class UseMarks {
 public:
     /// `list` must outlive this object.
@@ -30,7 +30,7 @@ public:
     void set(unsigned row, bool isUsed);
     bool isUsed(unsigned row) const { return row < m_isUsed.size() && m_isUsed[row]; }
 
-    /// The room before a name, in pixels.
+    /// The space before a name, in pixels.
     int width() const;
 
 private:

@@ -1,10 +1,15 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragdrop/tip.h"
+#include "dragdrop/controls.h"
 
-#include <wx/window.h>
+#include <wx/event.h>
 
 namespace columnimport {
+
+void pressOkSoon(wxWindow &inside) {
+    wxCommandEvent ok(wxEVT_BUTTON, wxID_OK);
+    wxGetTopLevelParent(&inside)->GetEventHandler()->AddPendingEvent(ok);
+}
 
 void setTip(wxWindow &list, const wxString &tip) {
     if (tip == list.GetToolTipText()) {

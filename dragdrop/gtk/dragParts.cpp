@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "ForeignText.h"
+#include "dragParts.h"
 
 #include "names/nameText.h"
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragdrop/rowsText.h"
+#include "dragdrop/RowMatch.h"
 
 #include "languages/translated.h"
 
