@@ -41,9 +41,7 @@ add_library(columnimport SHARED
     keyboard/${platform}/clipboardText.cpp
     keyboard/FileListKeys.cpp
     keyboard/MatchListKeys.cpp
-    keyboard/Paste.cpp
     keyboard/clipboard.cpp
-    keyboard/findTyped.cpp
     readers/${platform}/AccessibleRows.cpp
     readers/${platform}/describe.cpp
     readers/rowText.cpp)

@@ -7,11 +7,40 @@
 #include "dragdrop/controls.h"
 #include "dragdrop/listBox.h"
 #include "keyboard/clipboard.h"
-#include "keyboard/findTyped.h"
 
+#include <algorithm>
+
+#include <wx/arrstr.h>
 #include <wx/time.h>
 
 namespace columnimport {
+
+namespace {
+
+/// The next of `names` that begins with `typed`, or else the next one that contains it, ignoring
+/// case; wxNOT_FOUND if there is none. Starts at `selected`, which may be wxNOT_FOUND, and wraps at
+/// the end. A single character starts behind `selected`, so that typing it again moves on.
+///
+///     with {"AU", "CU", "AG", "ZN_AU"}:  "a" finds 0, then 2, then 0;  "ag" finds 2;  "n_" finds 3
+int findTyped(const wxArrayString &names, const wxString &typed, int selected) {
+    const wxString wanted = typed.Lower();
+    const std::size_t count = names.size();
+    const int from = std::max(selected + (typed.length() == 1 ? 1 : 0), 0);
+    int containing = wxNOT_FOUND;
+    for (std::size_t step = 0; step < count; ++step) {
+        const std::size_t row = (static_cast<std::size_t>(from) + step) % count;
+        const std::size_t place = names[row].Lower().find(wanted);
+        if (place == 0) {
+            return static_cast<int>(row);
+        }
+        if (place != wxString::npos && containing == wxNOT_FOUND) {
+            containing = static_cast<int>(row);
+        }
+    }
+    return containing;
+}
+
+} // namespace
 
 FileListKeys::FileListKeys(ListBoxSource &files, ListCtrlSource &matches)
     : m_files(files), m_matches(matches) {
@@ -30,7 +59,7 @@ void FileListKeys::onKeyDown(wxKeyEvent &event) {
     }
 }
 
-// The control would handle Return like a double click.
+// Otherwise the control handles Return like a double click.
 void FileListKeys::onReturn(wxKeyEvent &event) {
     if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
         event.Skip();
@@ -48,7 +77,7 @@ void FileListKeys::onCharacter(wxKeyEvent &event) {
         event.Skip();
         return;
     }
-    constexpr int pause = 1500; // after which typing begins anew
+    constexpr int pause = 1500; // milliseconds, after which typing starts afresh
     const wxLongLong now = wxGetUTCTimeMillis();
     if (now - m_typedAt > pause) {
         m_typed.clear();

@@ -11,9 +11,9 @@ namespace columnimport {
 class ListBoxSource;
 class ListCtrlSource;
 
-/// The keys of the list of file columns. Control and Return picks the entry, as a double click
-/// does, and Control and C copies its name. Typing selects the next entry that begins with what is
-/// typed, or else the next one that contains it.
+/// The keys of the list of file columns. Ctrl+Return picks the selected entry, like a double click.
+/// Ctrl+C copies its name. Typing selects the next entry that begins with the typed text, or else
+/// the next one that contains it.
 class FileListKeys : public wxEvtHandler {
 public:
     /// Attaches itself to `files`. Both lists must outlive this object.
@@ -27,7 +27,7 @@ private:
     ListBoxSource &m_files;
     ListCtrlSource &m_matches;
     wxString m_typed;
-    wxLongLong m_typedAt; // when its last character was typed, in milliseconds
+    wxLongLong m_typedAt; // time of its last character, in milliseconds
 };
 
 } // namespace columnimport

@@ -16,8 +16,8 @@ MatchListKeys::MatchListKeys(ListCtrlSource &list) : m_list(list), m_paste(list.
     list.Bind(wxEVT_CHAR, &MatchListKeys::onCharacter, this);
 }
 
-// As in any list: an arrow key alone clears the marks, with Shift it marks from the anchor, and
-// with Control it changes no mark.
+// As in any list, an arrow key alone clears the marks, with Shift it marks from the anchor, and
+// with Control it keeps the marks.
 void MatchListKeys::moveCurrentRow(long row, const wxKeyEvent &key) {
     if (m_list.GetItemCount() == 0) {
         return;
@@ -83,7 +83,7 @@ std::optional<long> MatchListKeys::targetOf(int key) const {
     }
 }
 
-// Applies to the rows that are chosen now, even if the change waits for its turn.
+// Applies to the rows that are chosen now, even if the change has to wait.
 bool MatchListKeys::edit(const wxKeyEvent &key) {
     const ListCtrlSource::Rows rows = m_list.chosenRows();
     switch (key.GetKeyCode()) {
@@ -122,7 +122,7 @@ void MatchListKeys::onKeyDown(wxKeyEvent &event) {
     }
 }
 
-// The control or the dialog would handle Return first.
+// The control or the dialog would take Return before its key event arrives.
 void MatchListKeys::onReturn(wxKeyEvent &event) {
     if (event.GetKeyCode() != WXK_RETURN && event.GetKeyCode() != WXK_NUMPAD_ENTER) {
         event.Skip();
@@ -134,11 +134,11 @@ void MatchListKeys::onReturn(wxKeyEvent &event) {
     }
 }
 
-// The control would select the row that begins with the typed character.
+// Otherwise the control selects the row that begins with the typed character.
 void MatchListKeys::onCharacter(wxKeyEvent &event) {
     event.Skip(event.HasModifiers() || event.GetUnicodeKey() < WXK_SPACE);
     if (event.GetKeyCode() == WXK_SPACE && event.AltDown()) {
-        // Alt and Space belong to the window manager; a control that gets them selects a row.
+        // The window manager takes Alt+Space; a control that gets it nevertheless selects a row.
         m_list.CallAfter([this] { showCurrentRow(); });
     }
 }

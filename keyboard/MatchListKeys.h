@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "keyboard/Paste.h"
+#include "keyboard/clipboard.h"
 
 #include <optional>
 
@@ -12,8 +12,8 @@ namespace columnimport {
 
 class ListCtrlSource;
 
-/// The keys of the match list. The arrow keys move the current row and highlight it. A key that
-/// writes does so in the marked rows, or else in the current one.
+/// The keys of the match list. The arrow keys move the current row and highlight it. Keys that
+/// change matches apply to the marked rows, or else to the current one.
 class MatchListKeys : public wxEvtHandler {
 public:
     /// Attaches itself to `list`, which must outlive this object.
@@ -24,14 +24,14 @@ private:
     void onReturn(wxKeyEvent &event);
     void onCharacter(wxKeyEvent &event);
 
-    /// Handles a key that changes or copies a row's text; false if it is another key.
+    /// Handles a key that changes or copies a row's text; returns false for any other key.
     bool edit(const wxKeyEvent &key);
 
-    /// The row to which a key moves, which may be out of range; none for other keys.
+    /// The row that a key moves to, which may be out of range; none for other keys.
     std::optional<long> targetOf(int key) const;
 
-    /// Moves the current row to `row` or to the nearest one there is. Control and Shift of `key`
-    /// count.
+    /// Moves the current row to `row`, or to the first or last one. Marks rows as Control and Shift
+    /// of `key` demand.
     void moveCurrentRow(long row, const wxKeyEvent &key);
 
     void showCurrentRow();

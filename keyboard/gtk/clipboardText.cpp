@@ -38,7 +38,7 @@ void takeFormats(GtkClipboard *clipboard, GdkAtom *formats, int count, void *ask
 
 } // namespace
 
-// The toolkit's own clipboard would block, up to half a minute for each format.
+// The toolkit's own clipboard would block for up to half a minute per format.
 void requestClipboardText(const TextAnswer &answer) {
     gtk_clipboard_request_targets(gtk_clipboard_get(GDK_SELECTION_CLIPBOARD), takeFormats,
                                   std::make_unique<TextAnswer>(answer).release());

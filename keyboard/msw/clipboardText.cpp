@@ -14,7 +14,7 @@ namespace columnimport {
 
 namespace {
 
-/// The clipboard while it is open. Any program may have it open for a moment.
+/// Opens the clipboard while it lives. Tries again if another program has it open for a moment.
 class OpenedClipboard {
 public:
     OpenedClipboard() {
@@ -49,8 +49,8 @@ private:
     bool m_isOpen = false;
 };
 
-/// A request. A thread of its own answers it by a message to the window below, and does not touch
-/// the toolkit: the host may end or replace its application meanwhile.
+/// A request, answered by a thread of its own with a message to the window below. The thread does
+/// not use the toolkit: the host may end or replace its application meanwhile.
 struct Request {
     TextAnswer answer;
     std::optional<std::wstring> text;
@@ -68,7 +68,7 @@ LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM word, LPARAM number
     return 0;
 }
 
-/// An invisible window on the user-interface thread, for one message.
+/// An invisible window on the user-interface thread that receives one message.
 HWND newMessageWindow() {
     static const ATOM windowClass = [] {
         WNDCLASSW description = {};
@@ -94,7 +94,7 @@ void answerRequest(std::unique_ptr<Request> request, HWND window) {
 
 } // namespace
 
-// Windows offers only a blocking call, so a thread makes it. The thread may outlive the dialog, but
+// Windows has only a blocking call, so a thread makes it. The thread may outlive the dialog, but
 // not this library, which stays in the process.
 void requestClipboardText(const TextAnswer &answer) {
     HWND window = newMessageWindow();
