@@ -8,16 +8,20 @@ class wxWindow;
 namespace columnimport {
 
 class ListBoxSource;
+class ListCtrlSource;
+
+/// The name of a row for a screen reader: "gold: Au g/t", or "gold: Au g/t, a guess".
+wxString rowText(const ListCtrlSource &list, long row);
 
 // Descriptions of single controls for screen readers. Each platform has a file of its own.
 
 /// Gives `control` its name for screen readers.
 void setAccessibleName(wxWindow &control, const wxString &name);
 
-/// The same for the list of file columns, whose entries say which of them are in use.
+/// Names the list of file columns, and its entries with "in use" if they are.
 void describeFileColumns(ListBoxSource &list, const wxString &name);
 
-/// Has a screen reader announce the text of `control` whenever it is shown.
+/// Lets screen readers announce the text of `control` each time it is shown.
 void announceWhenShown(wxWindow &control);
 
 } // namespace columnimport

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "readers/rowText.h"
+#include "readers/describe.h"
 
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"

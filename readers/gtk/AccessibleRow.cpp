@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-#include "AccessibleRow.h"
+// The items of AccessibleRows.
 
 #include "AccessibleRows.h"
 #include "dragdrop/ListCtrlSource.h"
-#include "readers/rowText.h"
+#include "readers/describe.h"
 
 #include <atk/atk.h>
 
@@ -14,7 +14,7 @@ namespace {
 
 struct Item {
     AtkObject parent;
-    AccessibleRows *rows; // null when the row has gone
+    AccessibleRows *rows; // null once the row is gone
     long row;
 };
 
@@ -123,16 +123,16 @@ GType itemType() {
 
 } // namespace
 
-AtkObject *makeAccessibleRow(AccessibleRows &rows, AtkObject *list, long row) {
+AtkObject *AccessibleRows::makeItem(long row) {
     auto *object = static_cast<AtkObject *>(g_object_new(itemType(), nullptr));
-    itemOf(object).rows = &rows;
+    itemOf(object).rows = this;
     itemOf(object).row = row;
     atk_object_set_role(object, ATK_ROLE_LIST_ITEM);
-    atk_object_set_parent(object, list);
+    atk_object_set_parent(object, m_accessible);
     return object;
 }
 
-void retireAccessibleRow(AtkObject *item) {
+void AccessibleRows::retireItem(AtkObject *item) {
     itemOf(item).rows = nullptr;
     atk_object_notify_state_change(item, ATK_STATE_DEFUNCT, TRUE);
 }

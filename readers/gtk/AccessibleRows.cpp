@@ -2,10 +2,9 @@
 
 #include "AccessibleRows.h"
 
-#include "AccessibleRow.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/RowMatch.h"
-#include "readers/rowText.h"
+#include "readers/describe.h"
 
 #include <gtk/gtk-a11y.h>
 
@@ -16,7 +15,7 @@ namespace {
 /// The accessible object of the widget.
 struct RowList {
     GtkWidgetAccessible parent;
-    AccessibleRows *rows; // null when the list control has gone
+    AccessibleRows *rows; // null once the list control is gone
 };
 
 AccessibleRows *rowsOf(void *accessible) {
@@ -39,7 +38,7 @@ AtkObject *refItem(AtkObject *accessible, int row) {
     return ATK_OBJECT(g_object_ref(rowsOf(accessible)->item(row)));
 }
 
-// The items come and go, so a reader must not fetch them all first.
+// MANAGES_DESCENDANTS keeps a reader from fetching all items, which come and go.
 AtkStateSet *refStates(AtkObject *accessible) {
     AtkStateSet *states = parentClass()->ref_state_set(accessible);
     const AccessibleRows *rows = rowsOf(accessible);
@@ -235,7 +234,7 @@ RowMarks &AccessibleRows::marks() const {
 AtkObject *AccessibleRows::item(long row) {
     AtkObject *&known = m_items[row];
     if (known == nullptr) {
-        known = makeAccessibleRow(*this, m_accessible, row);
+        known = makeItem(row);
     }
     return known;
 }
@@ -269,7 +268,7 @@ void AccessibleRows::reportCurrentRow(long row) {
 void AccessibleRows::forgetItems() {
     m_reportedRow = wxNOT_FOUND;
     for (const auto &[row, item] : m_items) {
-        retireAccessibleRow(item);
+        retireItem(item);
         g_object_unref(item);
     }
     m_items.clear();

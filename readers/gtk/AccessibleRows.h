@@ -16,9 +16,8 @@ namespace columnimport {
 class ListCtrlSource;
 class RowMarks;
 
-/// The rows of the match list for a screen reader. The list control draws them itself, so that a
-/// reader would find one empty area. An invisible widget in that area stands for the rows: it is a
-/// list, and each row is an item of it.
+/// The rows of the match list for a screen reader. The list control draws them itself, so a reader
+/// would find one empty area. An invisible widget in that area represents them as a list of items.
 ///
 ///     gold is to get Au g/t       an item "gold: Au g/t"
 ///     the same as a guess         an item "gold: Au g/t, a guess"
@@ -26,22 +25,20 @@ class RowMarks;
 ///     the row is marked           the item is selected
 ///     the keyboard is at it       the item has the focus
 ///
-/// An item is made when a reader first asks for it, and is retired with its row: many rows cost
+/// An item is created when a reader first asks for it and retired with its row, so rows cost
 /// nothing where no reader runs.
 ///
-/// It is an event handler, so that events that the control sends while it is destroyed no longer
-/// reach it.
+/// It is an event handler, so that it gets no events from a control that is being destroyed.
 class AccessibleRows : public wxEvtHandler {
 public:
-    /// Attaches itself to `list`, which must outlive this object. `name` tells the list from other
-    /// lists.
+    /// Attaches itself to `list`, which must outlive this object. `name` is the list's name.
     AccessibleRows(ListCtrlSource &list, const wxString &name);
     ~AccessibleRows() override;
     AccessibleRows(const AccessibleRows &) = delete;
     AccessibleRows &operator=(const AccessibleRows &) = delete;
 
-    /// Has the reader announce what `rows` hold now, wherever the focus is. `rows` must not be
-    /// empty.
+    /// Lets the reader announce the present texts of `rows`, wherever the focus is. `rows` must not
+    /// be empty.
     void announce(const std::vector<long> &rows);
 
     // For the items.
@@ -51,6 +48,12 @@ public:
     bool hasFocus() const;
 
 private:
+    /// Creates the item of `row`. The caller owns a reference; a reader may keep one longer.
+    AtkObject *makeItem(long row);
+
+    /// Reports to readers that still have `item` that its row is gone.
+    static void retireItem(AtkObject *item);
+
     void reportMark(long row);
     void reportCurrentRow(long row);
     void onCurrentRow(wxListEvent &event);

@@ -16,7 +16,7 @@ void setName(GtkWidget *widget, const wxString &name) {
 
 } // namespace
 
-// A list is several widgets, and the reader stops at the one that takes the keys.
+// A list consists of several widgets, and a reader stops at the one that takes the keys.
 void setAccessibleName(wxWindow &control, const wxString &name) {
     setName(control.GetHandle(), name);
     if (control.m_focusWidget != nullptr) {
@@ -27,7 +27,7 @@ void setAccessibleName(wxWindow &control, const wxString &name) {
     }
 }
 
-// The cells of the list have words for their marks.
+// The cells of the list describe their check marks in words.
 void describeFileColumns(ListBoxSource &list, const wxString &name) {
     setAccessibleName(list, name);
 }

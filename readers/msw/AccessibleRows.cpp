@@ -3,7 +3,7 @@
 #include "AccessibleRows.h"
 
 #include "dragdrop/ListCtrlSource.h"
-#include "readers/rowText.h"
+#include "readers/describe.h"
 
 #include <wx/access.h>
 
@@ -13,7 +13,7 @@ namespace columnimport {
 
 namespace {
 
-/// Child number 1 is row 0; the list itself is number 0. A reader may ask for a child that is gone.
+/// Child 0 is the list itself, child 1 is row 0. A reader may ask for a child that is gone.
 class Rows : public wxAccessible {
 public:
     Rows(ListCtrlSource &list, const wxString &name)
@@ -66,7 +66,7 @@ void AccessibleRows::announce(const std::vector<long> &rows) {
 
 #else
 
-// A toolkit built without accessibility leaves readers the native control.
+// Without accessibility in the toolkit, readers get the native control.
 AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &) : m_list(list) {}
 
 void AccessibleRows::announce(const std::vector<long> &) {}

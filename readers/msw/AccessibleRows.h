@@ -10,8 +10,8 @@ namespace columnimport {
 
 class ListCtrlSource;
 
-/// The rows of the match list for a screen reader. The native control has an item for each, but
-/// names it after its first column alone and does not know that it can be marked.
+/// The rows of the match list for a screen reader. The native control has an item for each row, but
+/// names it after the first column alone and has no marks.
 ///
 ///     gold is to get Au g/t       an item "gold: Au g/t"
 ///     the same as a guess         an item "gold: Au g/t, a guess"
@@ -19,11 +19,10 @@ class ListCtrlSource;
 ///     the row is marked           the item is selected
 class AccessibleRows {
 public:
-    /// Attaches itself to `list`, which must outlive this object. `name` tells the list from other
-    /// lists.
+    /// Attaches itself to `list`, which must outlive this object. `name` is the list's name.
     AccessibleRows(ListCtrlSource &list, const wxString &name);
 
-    /// Has the reader announce what `rows` hold now. `rows` must not be empty.
+    /// Lets the reader announce the present texts of `rows`, which must not be empty.
     void announce(const std::vector<long> &rows);
 
 private:

@@ -30,7 +30,7 @@ private:
     wxString m_name;
 };
 
-/// Child number 1 is row 0; the list itself is number 0. A reader may ask for a child that is gone.
+/// Child 0 is the list itself, child 1 is row 0. A reader may ask for a child that is gone.
 class FileColumns : public Named {
 public:
     FileColumns(ListBoxSource &list, const wxString &name) : Named(list, name), m_list(list) {}
@@ -66,7 +66,7 @@ void describeFileColumns(ListBoxSource &list, const wxString &name) {
 
 #else
 
-// A toolkit built without accessibility leaves readers the native controls.
+// Without accessibility in the toolkit, readers get the native controls.
 void setAccessibleName(wxWindow &, const wxString &) {}
 
 void describeFileColumns(ListBoxSource &, const wxString &) {}
