@@ -30,9 +30,10 @@ class Guess : public testing::Test {
 protected:
     Guess() : file("HOLE_ID,Samp_From,To,Lith\n") {
         columnimport_set_file(import.get(), file.path().c_str());
-        for (const char *name : {"holename", "fromdepth", "todepth", "gold"}) {
+        for (const char *name : {"holename", "fromdepth", "todepth", "litho"}) {
             columnimport_add_column(import.get(), name);
         }
+        columnimport_set_similar(import.get(), 3, 0); // which would be a guess
     }
 
     /// The origins after `steps` and OK.
@@ -112,17 +113,6 @@ TEST_F(Guess, IsExplainedByATip) {
                        [&tip] { return tip() == "Similar names: HOLE_ID and holename"; });
         person.hoverAt(Person::matchRow(2), "nothing is", [&tip] { return tip().empty(); });
     });
-}
-
-TEST_F(Guess, IsNotMadeForAColumnThatRefusesIt) {
-    columnimport_set_similar(import.get(), 1, 0);
-    runWithPerson(
-        [](Person &person) {
-            expectGuesses({0});
-            EXPECT_EQ(matchTexts()[1], "Not used");
-            pressOk(person);
-        },
-        [this] { return columnimport_show(import.get(), nullptr) == columnimport_ok; });
 }
 
 TEST(LikelyDelimiter, IsOfferedAndTakenByAClickOrAKey) {

@@ -94,23 +94,6 @@ TEST(ToolkitHost, KeepsItsApplicationItsLoopAndItsWindows) {
     });
 }
 
-TEST(ToolkitHost, RunsTheDialogForAFileItself) {
-    const ScratchFile file("BHID;Dip\n");
-    inHost([&file](wxFrame &frame) {
-        wxImportCSVDialog dialog(&frame, "Import", {"holename", "dip", "remark"}, file.path(),
-                                 false, {}, ',', true);
-        EXPECT_TRUE(runItself(dialog, [](Person &person) {
-            person.typeDelimiter(';');
-            pressOk(person);
-        }));
-        for (int times = 0; times < 2; ++times) {
-            EXPECT_EQ(dialog.getColumnNames(), (Names{"BHID", "Dip", ""}));
-        }
-        EXPECT_EQ(dialog.getDelimiter(), ';');
-        EXPECT_TRUE(dialog.isFirstLineHeader());
-    });
-}
-
 TEST(ToolkitHost, RunsTheDialogForATableItself) {
     inHost([](wxFrame &frame) {
         wxImportODBCDialog dialog(&frame, "Import", {"holename", "dip"}, "no file", true, {},
@@ -126,7 +109,7 @@ TEST(ToolkitHost, RunsTheDialogForATableItself) {
     });
 }
 
-TEST(ToolkitHost, RefreshesADerivedDialogFromItsOwnColumns) {
+TEST(ToolkitHost, RunsADerivedDialogThatRefreshesItsOwnColumns) {
     const ScratchFile file("BHID,Dip\n");
     inHost([&file](wxFrame &frame) {
         DerivedDialog dialog(&frame, "Import", {"holename", "dip", "depth"}, file.path(), false, {},
@@ -152,5 +135,7 @@ TEST(ToolkitHost, RefreshesADerivedDialogFromItsOwnColumns) {
             pressOk(person);
         }));
         EXPECT_EQ(dialog.getColumnNames(), depth);
+        EXPECT_EQ(dialog.getDelimiter(), ',');
+        EXPECT_TRUE(dialog.isFirstLineHeader());
     });
 }
