@@ -30,9 +30,14 @@ std::vector<Remark> columnsTaken(const Table &table, const RowLayout &layout) {
             const std::string &name = table.columns[i].name;
             const double factor = layout.factors.empty() ? 1 : layout.factors[i];
             const bool isGuess = !layout.areGuesses.empty() && layout.areGuesses[i];
-            std::vector<std::string> &list = isGuess ? guessed : filled;
-            list.push_back(name + (title == name ? "" : " from " + title) +
-                           (factor == 1 ? "" : ", " + conversionBy(factor)));
+            std::string entry = name;
+            if (title != name) {
+                entry.append(" from ").append(title);
+            }
+            if (factor != 1) {
+                entry.append(", ").append(conversionBy(factor));
+            }
+            (isGuess ? guessed : filled).push_back(std::move(entry));
             nowhere[*position].clear();
         } else {
             unfilled.push_back(table.columns[i].name);

@@ -25,7 +25,7 @@ std::string newFile(const std::string &begin) {
     char day[16];
     std::strftime(day, sizeof day, "_%Y-%m-%d_", std::localtime(&now));
     for (std::size_t number = 1;; ++number) {
-        const std::string path = begin + day + std::to_string(number) + ".csv";
+        std::string path = begin + day + std::to_string(number) + ".csv";
         std::FILE *made = std::fopen(path.c_str(), "wxe");
         if (made != nullptr) {
             std::fclose(made);
