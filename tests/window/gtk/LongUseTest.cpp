@@ -76,7 +76,8 @@ TEST(LongUse, HoldsANameAsLargeAsItsFileNoMoreThanTwice) {
         return usage.ru_maxrss >> 10U;
     };
     const ScratchFile file("");
-    std::filesystem::resize_file(file.path(), 256U << 20U);
+    constexpr unsigned megabytes = 128;
+    std::filesystem::resize_file(file.path(), megabytes << 20U);
     DialogRun run;
     run.fileName = file.path();
     run.appColumns = {"dip"};
@@ -87,7 +88,7 @@ TEST(LongUse, HoldsANameAsLargeAsItsFileNoMoreThanTwice) {
         pressOk(person);
     }));
     EXPECT_EQ(run.delimiter, '|');
-    EXPECT_LT(peakInMegabytes() - before, 2 * 256 + 128);
+    EXPECT_LT(peakInMegabytes() - before, 2 * megabytes + 128);
 }
 
 TEST(LongUse, LeaksNoMemoryDescriptorOrWindow) {
