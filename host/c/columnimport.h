@@ -21,9 +21,9 @@ extern "C" {
 
 /**
  * @file
- * The library's interface for a host in any language and by any compiler: plain C99.
+ * The library's interface in plain C99, for hosts in any language and built by any compiler.
  *
- * An import is an object that the host makes, fills, runs and reads:
+ * An import is an object that the host creates, fills, runs and reads:
  *
  *     columnimport_import *import = columnimport_new();
  *     columnimport_set_title(import, "Import collars");
@@ -36,73 +36,73 @@ extern "C" {
  *     }
  *     columnimport_free(import);
  *
- * Running it is either columnimport_propose, which needs no window, no display and no toolkit, or
- * columnimport_show, which lets a person correct the proposal in a dialog. An import may be filled
- * further and run again; what it was filled with stays.
+ * columnimport_propose runs it without a window, a display or a toolkit. columnimport_show runs it
+ * with a dialog in which the user corrects the proposal. A run keeps the content of the import: it
+ * may be filled further and run again.
  *
- * What comes from a source, its column names and the matches, is bytes of any encoding with their
- * length; there may be zero bytes among them, and a zero byte that does not count follows them. The
- * host's own words, the title and the path are UTF-8 that ends with a zero byte. Columns are
+ * Texts from a source, which are its column names and the matches, are bytes in any encoding, with
+ * their length. They may contain zero bytes, and a zero byte that the length does not count follows
+ * them. The host's names, the title and the path are UTF-8 and end with a zero byte. Columns are
  * counted from 0.
  *
- * Every text that is passed in is copied within the call and stays the caller's. Every text that is
- * given out stays the library's; how long it lives stands at each function. All numbers are signed,
- * and none may be negative where it is passed in.
+ * The library copies every text that is passed in during the call; the caller still owns it. The
+ * library owns every text that it returns; each function documents how long it lives. All numbers
+ * are signed, and no argument may be negative.
  *
- * A null pointer, a number out of range, a text that is no UTF-8, or a call out of order is wrong
- * use: the function changes nothing and gives columnimport_wrong_use, columnimport_invalid or null,
- * and columnimport_message tells in one sentence what is wrong. No exception leaves a function.
+ * A null pointer, a number out of range, a text that is not UTF-8, or a call out of order is wrong
+ * use: the function changes nothing and returns columnimport_wrong_use, columnimport_invalid or
+ * null, and columnimport_message gives the reason in one sentence. No function throws an exception.
  *
- * Threads: one import is for one thread at a time; different imports may be used at the same time.
- * columnimport_show and columnimport_show_over_x11 are for the thread of the user interface alone,
- * everything else for any.
+ * Threads: use an import on one thread at a time; different imports may be used at the same time.
+ * Call columnimport_show and columnimport_show_over_x11 on the user-interface thread; call all
+ * other functions on any thread.
  */
 
-/** One import: the columns on both sides, and what came of the last run. */
+/** One import: the columns of both sides, and the result of the last run. */
 typedef struct columnimport_import columnimport_import;
 
-/** What came of a call. Further values may be added. */
+/** The outcome of a call. Further values may be added. */
 enum {
-    /** All is well; of columnimport_show: the person pressed OK. */
+    /** The call succeeded; for columnimport_show: the user pressed OK. */
     columnimport_ok = 0,
-    /** The person ended the dialog otherwise. The result can be read all the same. */
+    /** The user closed the dialog in another way. The result can be read. */
     columnimport_cancelled = 1,
     /** There is no display to show a dialog on. */
     columnimport_no_display = 2,
     /** Another dialog of the library is open in this process. */
     columnimport_already_open = 3,
-    /** The call was wrong; columnimport_message says what about it. */
+    /** The call was wrong use; columnimport_message gives the reason. */
     columnimport_wrong_use = 4,
-    /** There was no memory, or something unforeseen happened; columnimport_message says what. */
+    /** There was no memory, or an unexpected error; columnimport_message gives the reason. */
     columnimport_failed = 5
 };
 
-/** What stands in the place of a position or another number that is not there. */
+/** Values in place of a missing position or another missing number. */
 enum {
-    /** There is no position: no source column is matched, or none of the source's columns is. Or
-     * there is no origin and no score. */
+    /** There is no position, because no column of the source is matched; or there is no field,
+     * origin, score or likely delimiter. */
     columnimport_none = -1,
-    /** The call was wrong; columnimport_message says what about it. */
+    /** The call was wrong use; columnimport_message gives the reason. */
     columnimport_invalid = -2
 };
 
-/** How an application column came by its match. Further values may be added. */
+/** The origin of a match. Further values may be added. */
 enum {
-    /** The two names are the same, but for capitals and punctuation. */
+    /** The two names are the same except for case and punctuation. */
     columnimport_origin_same = 1,
     /** The library knows the two names as synonyms. */
     columnimport_origin_synonym = 2,
-    /** The source column is called as one of the host's alternatives. */
+    /** The source column's name is one of the host's alternatives. */
     columnimport_origin_alternative = 3,
-    /** The names only resemble each other: a guess, which a person should look at. */
+    /** The names are only similar: a guess, which the user should check. */
     columnimport_origin_similar = 4,
     /** The first line holds no titles, and columns are paired in their order. */
     columnimport_origin_in_order = 5,
-    /** The source has a column of the name that was saved. */
+    /** The source has a column with the saved name. */
     columnimport_origin_saved = 6,
-    /** The person chose it in the dialog. */
+    /** The user chose it in the dialog. */
     columnimport_origin_by_hand = 7,
-    /** The person dragged in a text from another program that names no column of the source. */
+    /** The user dragged or pasted a text from another program that names no source column. */
     columnimport_origin_foreign = 8
 };
 
@@ -121,38 +121,38 @@ columnimport_exported const char *columnimport_version(void);
 columnimport_exported void columnimport_version_numbers(int32_t *major, int32_t *minor,
                                                         int32_t *patch);
 
-/* ---- An import's life ---- */
+/* ---- Creating and freeing an import ---- */
 
 /**
- * Makes an import without columns and without a source. The caller frees it.
+ * Creates an import without columns and without a source. The caller frees it.
  *
  * @return the import; null if there is no memory
  */
 columnimport_exported columnimport_import *columnimport_new(void);
 
 /**
- * Frees an import and every text that it gave out. Of one whose dialog is open nothing is freed
- * before the dialog has ended.
+ * Frees an import and every text that it returned. If its dialog is open, frees it when the dialog
+ * is closed.
  *
- * @param import  the import, which is not to be used again; null does nothing
+ * @param import  the import, which must not be used again; null does nothing
  */
 columnimport_exported void columnimport_free(columnimport_import *import);
 
 /**
- * What was wrong with the last call on this import.
+ * The problem with the last call on this import.
  *
- * @return a sentence in English, UTF-8; empty if nothing was wrong. It lives until the next call on
- *         the import. Of a null import it says that, and lives for ever.
+ * @return a sentence in English, UTF-8; empty if there was no problem. It lives until the next call
+ *         on the import. For a null import, a sentence that says so and lives for ever.
  */
 columnimport_exported const char *columnimport_message(columnimport_import *import);
 
 /* ---- Filling it: the application columns ----
  *
- * Each of these gives columnimport_ok, columnimport_wrong_use or columnimport_failed. While the
- * dialog of the import is open all of them are wrong use. */
+ * Each of these returns columnimport_ok, columnimport_wrong_use or columnimport_failed. While the
+ * dialog of the import is open, all of them are wrong use. */
 
 /**
- * The text of the dialog's title bar. Without one the bar is empty.
+ * Sets the text of the dialog's title bar, which is empty by default.
  *
  * @param import  the import
  * @param title   UTF-8
@@ -161,8 +161,8 @@ columnimport_exported int32_t columnimport_set_title(columnimport_import *import
                                                      const char *title);
 
 /**
- * The size of the dialog's frame in pixels, as it is on a screen of the usual scale. Without one it
- * is 900 by 840 for a file and 900 by 620 for a table, which shows all of either.
+ * Sets the size of the dialog's frame, in pixels at 96 dots an inch. The default is 900 by 840 for
+ * a file and 900 by 620 for a table, which shows all controls.
  *
  * @param import         the import
  * @param width, height  1 or more
@@ -171,8 +171,8 @@ columnimport_exported int32_t columnimport_set_size(columnimport_import *import,
                                                     int32_t height);
 
 /**
- * Adds an application column behind those that were added before. It gets the next number: the
- * first one 0, the second one 1.
+ * Adds an application column after the ones added before. It gets the next number: the first one 0,
+ * the second one 1.
  *
  * @param import  the import
  * @param name    the host's name for it, UTF-8; it may be empty, and names may be equal
@@ -181,9 +181,9 @@ columnimport_exported int32_t columnimport_add_column(columnimport_import *impor
                                                       const char *name);
 
 /**
- * Adds another word of the host's for one of its columns. A source column that is called so, but
- * for capitals and punctuation, counts like one with a synonym that the library itself knows. One
- * that is called like an application column's own name goes there first.
+ * Adds another word for an application column. A source column with this name, except for case and
+ * punctuation, counts like one with a synonym that the library knows. If a source column has an
+ * application column's own name, this name counts first.
  *
  *     columnimport_add_alternative(import, elevation, "RL");
  *
@@ -195,42 +195,40 @@ columnimport_exported int32_t columnimport_add_alternative(columnimport_import *
                                                            int32_t column, const char *name);
 
 /**
- * Says whether the host needs a match for one of its columns. If a required one has none as the
- * person presses OK, or if then one source column stands at two application columns, the dialog
- * says so in one sentence, once; OK again ends it all the same. Where nothing is required, nothing
- * is said.
+ * Sets whether an application column requires a match. If at least one column does, OK checks the
+ * matches: if a required column has none, or one source column is matched to two application
+ * columns, the dialog asks the user once to press OK again.
  *
  * @param import    the import
  * @param column    the number of the application column
- * @param required  0 for no, which it is without this call, or 1
+ * @param required  1 for yes, or 0 for no, the default
  */
 columnimport_exported int32_t columnimport_set_required(columnimport_import *import, int32_t column,
                                                         int32_t required);
 
 /**
- * Says whether one of the host's columns may be matched by a similar name, which is a guess: "Zn %"
- * and ni_pct resemble each other and are different metals. A column that takes none is matched only
- * to a source column that is called so, is a synonym, or is called as one of its alternatives. A
- * source column that it refuses goes to no other column instead. Saved matches and pairs in order
- * are not touched, nor is what a person writes.
+ * Sets whether an application column may be matched by a similar name, which is a guess: "Zn %" and
+ * ni_pct are similar names of different metals. If not, only the same name, a synonym or an
+ * alternative matches. A refused source column is not matched to another column instead. This does
+ * not affect saved matches, pairs in order and the user's own choices.
  *
  * @param import   the import
  * @param column   the number of the application column
- * @param similar  1 for yes, which it is without this call, or 0
+ * @param similar  1 for yes, the default, or 0 for no
  */
 columnimport_exported int32_t columnimport_set_similar(columnimport_import *import, int32_t column,
                                                        int32_t similar);
 
 /**
- * The match of an earlier import, such as columnimport_match_name gave it. If at least one column
- * has one that is not empty and the source has titles, then no proposal is made: each column is
- * matched with the first source column of the very name that was saved for it, and with none where
- * there is no such column or nothing was saved. "Reset to Default" in the dialog proposes afresh.
+ * Sets the match of an earlier import, as columnimport_match_name returned it. If at least one
+ * column has a saved match that is not empty and the source has titles, no proposal is made: each
+ * column is matched to the first source column with exactly its saved name, or to none. "Reset to
+ * Default" in the dialog makes a proposal.
  *
  * @param import  the import
  * @param column  the number of the application column
- * @param name    the name in bytes; null, with a length of 0, takes the saved match back
- * @param length  their number
+ * @param name    the name in bytes; null with a length of 0 removes the saved match
+ * @param length  the number of bytes
  */
 columnimport_exported int32_t columnimport_set_saved_match(columnimport_import *import,
                                                            int32_t column, const char *name,
@@ -239,8 +237,7 @@ columnimport_exported int32_t columnimport_set_saved_match(columnimport_import *
 /* ---- Filling it: the source ---- */
 
 /**
- * Makes a delimited file the source. It is opened and closed again within each run, and only its
- * first lines are read.
+ * Makes a delimited file the source. Each run opens it, reads only its first lines and closes it.
  *
  * @param import  the import
  * @param path    the path, UTF-8
@@ -248,109 +245,109 @@ columnimport_exported int32_t columnimport_set_saved_match(columnimport_import *
 columnimport_exported int32_t columnimport_set_file(columnimport_import *import, const char *path);
 
 /**
- * The byte that parts the fields of the file, taken literally; ',' without this call. A person may
- * change it in the dialog, which does not change what a further run begins with.
+ * Sets the byte that separates the fields of the file, taken literally; the default is ','. If the
+ * user changes it in the dialog, a further run still begins with the value set here.
  */
 columnimport_exported int32_t columnimport_set_delimiter(columnimport_import *import,
                                                          char delimiter);
 
 /**
- * Says whether the first line of the file holds titles. Where it does not, the columns are known by
- * number only and are called Column1, Column2 and so on, and application and source columns are
- * paired in their order. A table always has names, whatever is said here.
+ * Sets whether the first line of the file holds titles. If not, the source columns are called
+ * Column1, Column2 and so on, and are matched to the application columns in order. A table always
+ * has names, whatever is set here.
  *
  * @param import  the import
- * @param holds   0 for no, or 1, which it is without this call
+ * @param holds   1 for yes, the default, or 0 for no
  */
 columnimport_exported int32_t columnimport_set_first_line_holds_titles(columnimport_import *import,
                                                                        int32_t holds);
 
 /**
- * Makes a table the source, of which only the names of its columns are told.
+ * Makes a table with these columns the source.
  *
  * @param import   the import
  * @param names    the columns' names in bytes, in the table's order; may be null if there are none
  * @param lengths  the length of each name; null if each ends with a zero byte
- * @param count    how many there are
+ * @param count    the number of columns
  */
 columnimport_exported int32_t columnimport_set_table(columnimport_import *import,
                                                      const char *const *names,
                                                      const int64_t *lengths, int32_t count);
 
 /**
- * The delimiter that the first line of the file was likely written with, whatever was set: a host
- * may begin with it. Nothing else of the file is read.
+ * The likely delimiter of the file's first line, whatever was set. Reads nothing else of the file.
  *
  *     int32_t likely = columnimport_likely_delimiter(import);
  *     columnimport_set_delimiter(import, likely == columnimport_none ? ',' : (char)likely);
  *
  * @param import  the import, for which a file was set
  * @return the tab, ';', '|', ',' or ' '; columnimport_none if none is likely or the file can't be
- * read; columnimport_invalid after wrong use, as where no file was set, or if there was no memory
+ *         read; columnimport_invalid if no file was set, after other wrong use, or if there was no
+ *         memory
  */
 columnimport_exported int32_t columnimport_likely_delimiter(columnimport_import *import);
 
 /* ---- Running it ----
  *
- * A run drops the result of the one before it and the texts that were given out of it. */
+ * A run discards the result of the one before and the texts that were returned from it. */
 
 /**
- * Matches without a dialog: the result is what columnimport_show would open with. May be called on
- * any thread and without a display.
+ * Matches without a dialog: the result is the same as what columnimport_show opens with. May be
+ * called on any thread and without a display.
  *
- * @return columnimport_ok, also for a file that can't be read, of which columnimport_file_problem
- *         tells; columnimport_wrong_use, as where no source was set; or columnimport_failed
+ * @return columnimport_ok, also if the file can't be read (see columnimport_file_problem);
+ *         columnimport_wrong_use, for example if no source was set; or columnimport_failed
  */
 columnimport_exported int32_t columnimport_propose(columnimport_import *import);
 
 /**
- * Shows the dialog and returns when the person has ended it. The window can't be used meanwhile.
+ * Shows the dialog and returns when the user has closed it. The window can't be used meanwhile.
  *
- * To be called on the thread of the user interface. The first call in a process starts what the
- * dialog needs; a host on GTK keeps its own main loop and its own locale.
+ * To be called on the user-interface thread. The first call in a process initializes the toolkit; a
+ * host on GTK keeps its own main loop and its own locale.
  *
  * @param import  the import
  * @param window  the window that the dialog belongs to, or null. On Linux a GtkWidget of GTK 3 that
- *                is a window or stands in one, on Windows an HWND
- * @return any of the outcomes. The result can be read after columnimport_ok and
- *         columnimport_cancelled, and not after the others
+ *                is a window or is in one, on Windows an HWND
+ * @return any of the outcomes. Only after columnimport_ok and columnimport_cancelled can the result
+ *         be read
  */
 columnimport_exported int32_t columnimport_show(columnimport_import *import, void *window);
 
 /**
- * The same over a window of X11, for a host whose windows are not GTK's: one in Qt or Tk, or in
- * another process. The window manager keeps the dialog above that window and gives the keys to it,
- * and the window takes no click while the dialog is open. It may be destroyed meanwhile; then the
- * dialog stays and can be answered.
+ * The same over an X11 window, for a host whose windows are not GTK's, such as one in Qt or Tk, or
+ * in another process. The window manager keeps the dialog above that window and gives it the keys,
+ * and the window gets no clicks while the dialog is open. If the window is destroyed meanwhile, the
+ * dialog stays open.
  *
- * GLib's default main context is served meanwhile, so that what is attached to it goes on: Qt's
- * windows where Qt uses GLib, as it does by custom; not those of Tk.
+ * GLib's default main context keeps running meanwhile: Qt's windows are served if Qt uses GLib, as
+ * it does by default; those of Tk are not.
  *
- * The display is the X11 display that GTK opens by its custom (the variable DISPLAY), also in a
- * session of Wayland, unless GTK has been started on Wayland in this process.
+ * The display is GTK's default X11 display (the variable DISPLAY), also in a Wayland session,
+ * unless GTK was initialized on Wayland in this process.
  *
  * @param import  the import
- * @param window  the number of the window; any window within a top-level stands for that
- * @return any of the outcomes: columnimport_no_display also where GTK is on Wayland already, and on
- *         Windows; columnimport_wrong_use also where there is no such window
+ * @param window  the number of the window; a child window stands for its top-level
+ * @return any of the outcomes: columnimport_no_display also if GTK is on Wayland already, and on
+ *         Windows; columnimport_wrong_use also if there is no such window
  */
 columnimport_exported int32_t columnimport_show_over_x11(columnimport_import *import,
                                                          int64_t window);
 
 /* ---- Reading it ----
  *
- * All of these speak of the last run. If it came to no result, or there was none, all but
+ * All of these refer to the last run. If it had no result, or there was none, all but
  * columnimport_outcome and columnimport_column_count are wrong use. While the dialog of the import
- * is open there is no result yet. */
+ * is open, there is no result yet. */
 
-/** What the last run returned; columnimport_invalid if there was none. */
+/** The outcome of the last run; columnimport_invalid if there was none. */
 columnimport_exported int32_t columnimport_outcome(columnimport_import *import);
 
 /** The number of application columns that were added; columnimport_invalid for a null import. */
 columnimport_exported int32_t columnimport_column_count(columnimport_import *import);
 
 /**
- * Why the file could not be read.
+ * The reason why the file could not be read.
  *
  * @return the system's reason in UTF-8, such as "No such file or directory"; null if it was read,
  *         or the source is a table. It lives until the import is run again or freed.
@@ -358,8 +355,8 @@ columnimport_exported int32_t columnimport_column_count(columnimport_import *imp
 columnimport_exported const char *columnimport_file_problem(columnimport_import *import);
 
 /**
- * The position of the source column that is matched to an application column. It tells columns
- * apart also where their names are equal or empty, or where they have none.
+ * The position of the source column that is matched to an application column. It distinguishes
+ * columns even if their names are equal or empty, or if they have none.
  *
  * @param import  the import
  * @param column  the number of the application column
@@ -372,30 +369,29 @@ columnimport_exported int32_t columnimport_match_position(columnimport_import *i
 /**
  * The number of the field, in each row of the source, that is matched to an application column.
  *
- * It differs from the position where the first line does. The position counts the line's columns as
- * the dialog cuts them: at each delimiter, also between double quotes, and at a run of tabs or
- * blanks once. The field is counted as a reader of rows does that honours double quotes (RFC 4180):
- * delimiters in a quoted field are text, doubled quotes are one, and a run of tabs is as many
- * delimiters. Of a table it is the position.
+ * The position counts the columns of the first line as the dialog splits it: at each delimiter,
+ * even inside double quotes, and once at a run of tabs or blanks. The field is counted as by a
+ * parser that honours double quotes (RFC 4180): delimiters in a quoted field are text, doubled
+ * quotes are one, and each tab of a run is a delimiter. For a table the field is the position.
  *
  *     "From, m",To,Au    has the columns From | m | To | Au, and they are in the fields 0, 0, 1, 2
  *
- * Readers don't agree where quotes follow blanks and hold a delimiter, where a quote does not close
- * in the line, behind a field with text after its closing quote, behind blanks that separate and
- * stand in a run or at the beginning, and behind a carriage return in the midst of the line. From
- * there on no field is told. A reader that takes a run of blanks as one delimiter has the position.
+ * Parsers disagree if quotes that contain a delimiter follow blanks, if a quote is not closed in
+ * the line, after a field with text behind its closing quote, after separating blanks in a run or
+ * at the beginning, and after a carriage return inside the line. From there on there is no field.
+ * For a parser that treats a run of blanks as one delimiter, use the position.
  *
- * It is told of the first line as the run read it, without a byte-order mark.
+ * The field refers to the first line as the run read it, without a byte-order mark.
  *
  * @param import  the import
  * @param column  the number of the application column
- * @return a number from 0; columnimport_none if no column of the source is matched, or if its field
- *         can't be told; columnimport_invalid after wrong use
+ * @return a number from 0; columnimport_none if no column of the source is matched or parsers
+ *         disagree on its field; columnimport_invalid after wrong use
  */
 columnimport_exported int32_t columnimport_match_field(columnimport_import *import, int32_t column);
 
 /**
- * How an application column came by its match. What tells a guess from a certainty:
+ * The origin of an application column's match, which distinguishes guesses from certain matches:
  *
  *     if (columnimport_match_origin(import, column) == columnimport_origin_similar) {
  *         ask_the_person(column, columnimport_match_score(import, column));
@@ -410,20 +406,20 @@ columnimport_exported int32_t columnimport_match_origin(columnimport_import *imp
                                                         int32_t column);
 
 /**
- * How much the two names of a guess have in common, as the matcher compared them. It counts letters
- * and knows no meaning: a good score makes no guess certain.
+ * The similarity of the two names of a guess, as the matcher compared them. It compares letters and
+ * knows no meaning, so even a good score makes no guess certain.
  *
  * @param import  the import
  * @param column  the number of the application column
  * @return above 0.4 and below 1 if the origin is columnimport_origin_similar; otherwise -1, which
- * is columnimport_none; -2, which is columnimport_invalid, after wrong use
+ *         is columnimport_none; -2, which is columnimport_invalid, after wrong use
  */
 columnimport_exported double columnimport_match_score(columnimport_import *import, int32_t column);
 
 /**
  * The name that is matched to an application column: that of the source column, or Column1, Column2
- * and so on where the first line holds no titles. A text that a person dragged in from another
- * program is a name without a position, unless a source column is called so.
+ * and so on if the first line holds no titles. A text that the user dragged or pasted from another
+ * program has no position, unless a source column has this name.
  *
  * @param      import  the import
  * @param      column  the number of the application column
@@ -435,16 +431,16 @@ columnimport_exported const char *columnimport_match_name(columnimport_import *i
                                                           int32_t column, int64_t *length);
 
 /**
- * The delimiter as it was left.
+ * The delimiter at the end of the run.
  *
  * @return the byte as a number from 0 to 255; columnimport_invalid after wrong use
  */
 columnimport_exported int32_t columnimport_delimiter(columnimport_import *import);
 
 /**
- * Whether the first line holds titles, as it was left.
+ * Whether the first line holds titles, at the end of the run.
  *
- * @return 0 or 1, of a table always 1; columnimport_invalid after wrong use
+ * @return 0 or 1, for a table always 1; columnimport_invalid after wrong use
  */
 columnimport_exported int32_t columnimport_first_line_holds_titles(columnimport_import *import);
 
@@ -452,9 +448,9 @@ columnimport_exported int32_t columnimport_first_line_holds_titles(columnimport_
 columnimport_exported int32_t columnimport_source_column_count(columnimport_import *import);
 
 /**
- * The name of one of the source's columns: a table's, or the field of the file's first line, with
- * or without titles in it, as it is cut at the delimiter as this was left, without blanks around it
- * and without double quotes. A byte-order mark in front of the first one is no part of it.
+ * The name of a source column. For a file it is the field of the first line, whether or not that
+ * holds titles, split at the delimiter of columnimport_delimiter, without surrounding blanks and
+ * double quotes. A byte-order mark before the first name is not part of it.
  *
  * @param      import  the import
  * @param      column  the position of the source column
