@@ -8,26 +8,19 @@
 
 namespace columnimport {
 
-Header readSource(const ImportRequest &request) {
-    if (request.table) {
-        Header table;
-        table.columns = *request.table;
-        table.firstLine = FirstLine::cut;
-        return table;
-    }
-    return readHeader(request.path, request.delimiter, request.byteOrderMark);
-}
-
-std::vector<ColumnMatch> matchSource(ImportRequest &request,
-                                     const std::vector<std::string> &titles) {
-    const bool usesSaved = request.useSavedMatches && holdsAName(request.savedMatches);
-    return openingMatches(request.appColumns, request.alternatives, request.refusesSimilar, titles,
-                          request.holdsTitles, usesSaved ? &request.savedMatches : nullptr);
-}
-
 Opening openImport(ImportRequest request) {
-    Opening opening{readSource(request), {}};
-    opening.matches = matchSource(request, opening.source.columns);
+    Opening opening;
+    Header &source = opening.source;
+    if (request.table) {
+        source.columns = std::move(*request.table);
+        source.firstLine = FirstLine::cut;
+    } else {
+        source = readHeader(request.path, request.delimiter, request.byteOrderMark);
+    }
+    const bool usesSaved = request.useSavedMatches && holdsAName(request.savedMatches);
+    opening.matches = openingMatches(request.appColumns, request.alternatives,
+                                     request.refusesSimilar, source.columns, request.holdsTitles,
+                                     usesSaved ? &request.savedMatches : nullptr);
     return opening;
 }
 
