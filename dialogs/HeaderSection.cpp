@@ -51,7 +51,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     auto *options = new wxStaticBoxSizer(wxVERTICAL, this, translated("Options"));
     auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
     auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("File Preview"));
-    // The toolkit would warn about each handler that it has already.
+    // In a second call the toolkit warns about each handler, since it has them already.
     static std::once_flag imageHandlers;
     std::call_once(imageHandlers, wxInitAllImageHandlers);
     sizer->Add(preview, wxSizerFlags().Border(wxALL, scale(10)));

@@ -89,7 +89,7 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
     auto &matches = *findControl<ListCtrlSource>(*this, matchListId);
     matches.clearMarkedRows();
     SetSelection(row);
-    dragText(*this, matches.names().textForOthers(name), name);
+    dragText(*this, matches.names().textForOthers(name, ShownNames::drag), name);
 }
 
 } // namespace columnimport

@@ -326,7 +326,7 @@ void ListCtrlSource::onMouseMove(wxMouseEvent &event) {
     }
     const wxString name = GetItemText(row, matchColumn);
     m_draggedRow = row;
-    dragText(*this, m_names->textForOthers(name),
+    dragText(*this, m_names->textForOthers(name, ShownNames::drag),
              rowsText(name, static_cast<std::size_t>(countMarkedRows())));
     m_draggedRow = wxNOT_FOUND;
 }

@@ -29,8 +29,7 @@ namespace columnimport {
 ///
 /// A row has three states, independent of each other:
 ///  - marked: part of the user's multiple selection. A click marks one row, Control adds a row,
-///  Shift
-///    adds the range from the row clicked last; a click below the rows clears all marks.
+///    Shift adds the range from the row clicked last; a click below the rows clears all marks.
 ///  - hover: under the pointer, shown only while no row is marked; at most one row.
 ///  - current: the keyboard's row; at most one.
 ///

@@ -39,7 +39,7 @@ bool TextDropTarget::OnDropText(wxCoord x, wxCoord y, const wxString &text) {
     const long row = list.rowAt(wxPoint(x, y));
     // A row dropped on itself is a click with an unsteady mouse.
     if (row >= 0 && row != list.draggedRow()) {
-        list.write({row}, list.names().textOfForeign(text));
+        list.write({row}, list.names().textOfForeign(text, ShownNames::drag));
     }
     return true;
 }

@@ -15,9 +15,10 @@ class X11Owner {
 public:
     /// Why no X11 window can own a dialog here; null if one can. Opens a display on X11 if none is
     /// open yet, and sets the toolkit up.
-    static const char *hindrance();
+    static const char *whyUnavailable();
 
-    /// `window` stands for the top-level that contains it. Call only if there is no hindrance.
+    /// `window` stands for the top-level that contains it. Call it only if `whyUnavailable` is
+    /// null.
     explicit X11Owner(std::uint32_t window);
     ~X11Owner();
     X11Owner(const X11Owner &) = delete;

@@ -53,7 +53,8 @@ FileListKeys::FileListKeys(ListBoxSource &files, ListCtrlSource &matches)
 void FileListKeys::onKeyDown(wxKeyEvent &event) {
     const int row = m_files.GetSelection();
     if (event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C' && row != wxNOT_FOUND) {
-        copyText(m_matches.names().textForOthers(m_files.GetString(static_cast<unsigned>(row))));
+        copyText(m_matches.names().textForOthers(m_files.GetString(static_cast<unsigned>(row)),
+                                                 ShownNames::clipboard));
     } else {
         event.Skip();
     }

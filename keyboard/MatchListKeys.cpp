@@ -59,7 +59,8 @@ void MatchListKeys::markCurrentRow(bool alone) {
 
 void MatchListKeys::copy(long row) {
     if (row >= 0) {
-        copyText(m_list.names().textForOthers(m_list.GetItemText(row, matchColumn)));
+        copyText(m_list.names().textForOthers(m_list.GetItemText(row, matchColumn),
+                                              ShownNames::clipboard));
     }
 }
 
@@ -99,7 +100,7 @@ bool MatchListKeys::edit(const wxKeyEvent &key) {
     case 'V':
         if (key.ControlDown()) {
             m_paste.start([this, rows](const wxString &text) {
-                m_list.write(rows, m_list.names().textOfForeign(text));
+                m_list.write(rows, m_list.names().textOfForeign(text, ShownNames::clipboard));
             });
         }
         return key.ControlDown();

@@ -52,9 +52,10 @@ wxString ShownNames::textOf(std::int32_t position) const {
     return *m_texts.at(static_cast<std::size_t>(position) + 1);
 }
 
-wxString ShownNames::textOfForeign(const wxString &text) {
-    if (!m_left.empty() && text == m_leftAs) {
-        return m_left;
+wxString ShownNames::textOfForeign(const wxString &text, Transfer transfer) {
+    const Departure &last = m_departures[transfer];
+    if (!text.empty() && text == last.leftAs) {
+        return last.shown;
     }
     if (m_entries.count(text.ToStdWstring()) != 0) {
         return text;
@@ -71,14 +72,15 @@ wxString ShownNames::textOfForeign(const wxString &text) {
                : enter(readable(text), noColumn, bytes);
 }
 
-wxString ShownNames::textForOthers(const wxString &text) {
+wxString ShownNames::textForOthers(const wxString &text, Transfer transfer) {
     const auto known = m_entries.find(text.ToStdWstring());
-    m_left = text;
-    m_leftAs = known == m_entries.end() ? text : text.Left(known->second.visibleLength);
-    if (m_leftAs.empty()) {
-        m_leftAs = ' ';
+    Departure &last = m_departures[transfer];
+    last.shown = text;
+    last.leftAs = known == m_entries.end() ? text : text.Left(known->second.visibleLength);
+    if (last.leftAs.empty()) {
+        last.leftAs = ' ';
     }
-    return m_leftAs;
+    return last.leftAs;
 }
 
 std::string ShownNames::bytesOf(const wxString &text) const {

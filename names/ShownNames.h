@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -52,14 +53,18 @@ public:
     /// The text of a column, or of "Not used" for `noColumn`.
     wxString textOf(std::int32_t position) const;
 
-    /// The shown text for a text from outside. It stands for the column with exactly this shown
-    /// text, else for the first column whose name is the same bytes once `encoded`, else for no
-    /// column.
-    wxString textOfForeign(const wxString &text);
+    /// How a text leaves the dialog and comes back.
+    enum Transfer : unsigned char { drag, clipboard };
 
     /// The text that other programs get for the shown `text`: without the invisible number, and a
-    /// blank for an empty name. If it comes back, it stands for the name that left last.
-    wxString textForOthers(const wxString &text);
+    /// blank for an empty name. If it comes back by the same transfer, it stands for the name that
+    /// left last by it.
+    wxString textForOthers(const wxString &text, Transfer transfer);
+
+    /// The shown text for a text from outside. It stands for the name that left last by the same
+    /// transfer if that left as this text, else for the column with exactly this shown text, else
+    /// for the first column whose name is the same bytes once `encoded`, else for no column.
+    wxString textOfForeign(const wxString &text, Transfer transfer);
 
     /// The bytes that a shown text stands for; "Not used" for no column. A text that was never
     /// shown is `encoded`.
@@ -79,6 +84,12 @@ private:
         std::size_t visibleLength; ///< of the text, without its invisible number
     };
 
+    /// A name that left the dialog.
+    struct Departure {
+        wxString shown;
+        wxString leftAs; ///< never empty once a name has left
+    };
+
     using Entries = std::unordered_map<std::wstring, Entry>;
 
     const std::wstring &enter(const wxString &text, std::int32_t position,
@@ -90,8 +101,7 @@ private:
     Entries m_entries;                         ///< by their texts
     std::vector<const std::wstring *> m_texts; ///< "Not used", then those of the columns
     std::unordered_map<std::wstring, std::size_t> m_sharers; ///< how many more share a text
-    wxString m_left;   ///< the shown text of the name that left last
-    wxString m_leftAs; ///< what other programs got for it
+    std::array<Departure, 2> m_departures;                   ///< by transfer, the last one
 };
 
 } // namespace columnimport

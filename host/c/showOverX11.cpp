@@ -21,8 +21,8 @@ std::int32_t columnimport_show_over_x11(columnimport_import *import, std::int64_
         columnimport::outcomeOfRun(import, [window, &owner](columnimport_import &filled) {
             constexpr const char *noWindow = "There is no X11 window of this number.";
             require(window > 0 && window <= UINT32_MAX, noWindow);
-            if (const char *hindrance = X11Owner::hindrance()) {
-                filled.message = hindrance;
+            if (const char *reason = X11Owner::whyUnavailable()) {
+                filled.message = reason;
                 return columnimport_no_display;
             }
             owner = std::make_unique<X11Owner>(static_cast<std::uint32_t>(window));

@@ -83,7 +83,7 @@ struct X11Owner::Native {
     Window shield = None;
 };
 
-const char *X11Owner::hindrance() {
+const char *X11Owner::whyUnavailable() {
     if (gdk_display_get_default() == nullptr) {
         gdk_set_allowed_backends("x11");
         gdk_display_open(nullptr);

@@ -6,7 +6,7 @@ namespace columnimport {
 
 struct X11Owner::Native {};
 
-const char *X11Owner::hindrance() {
+const char *X11Owner::whyUnavailable() {
     return "There is no X11 display.";
 }
 

@@ -46,7 +46,7 @@ std::string faultOf(const std::string &connection) {
     return {};
 }
 
-TEST(Connection, SaysWhatToDoWhenItFails) {
+TEST(Connection, AdvisesThePersonWhenItFails) {
     const char *const cases[][2] = {
         {"sqlite3://db=\"/nowhere/a.sqlite\"", "See that the file and its folder exist"},
         {"sqlite3://db=\"/etc/passwd\"", "is no SQLite database"},

@@ -67,28 +67,33 @@ TEST_P(Locale, GivesTheBytesAndThePositionOfEachColumnBack) {
         ASSERT_FALSE(text.empty()) << "nothing would be dragged";
         ASSERT_LT(text.length(), 512U) << "more than every list control gives back";
         // Dragged or copied, it travels as UTF-8, and comes back as the column that left.
-        const wxString left = names.textForOthers(text);
+        const wxString left = names.textForOthers(text, ShownNames::drag);
         const wxString dropped = wxString::FromUTF8(left.utf8_string());
         ASSERT_FALSE(left.empty());
-        ASSERT_EQ(names.positionOf(names.textOfForeign(dropped)), position);
+        ASSERT_EQ(names.positionOf(names.textOfForeign(dropped, ShownNames::drag)), position);
     }
 }
 
 TEST_P(Locale, GivesForeignTextItsBytes) {
     ShownNames names({"one\ttwo"}, true);
-    const wxString accent =
-        names.textOfForeign(wxString::FromUTF8("plong\xC3\xA9 \xC3\x83\xC2\xA9"));
+    const wxString accent = names.textOfForeign(
+        wxString::FromUTF8("plong\xC3\xA9 \xC3\x83\xC2\xA9"), ShownNames::clipboard);
     EXPECT_EQ(accent, wxString::FromUTF8("plong\xC3\xA9 \xC3\x83\xC2\xA9")) << "shown as given";
     EXPECT_EQ(names.bytesOf(accent),
               isLatin1(GetParam()) ? "plong\xE9 \xC3\xA9" : "plong\xC3\xA9 \xC3\x83\xC2\xA9");
-    EXPECT_EQ(names.bytesOf(names.textOfForeign(wxString::FromUTF8("\xCE\xA9"))), "\xCE\xA9");
-    EXPECT_EQ(names.bytesOf(names.textOfForeign("a\nb")), "a\nb");
-    EXPECT_EQ(names.textOfForeign("a\nb"), names.textOfForeign("a\nb")) << "the same each time";
-    EXPECT_EQ(names.positionOf(names.textOfForeign("one\ttwo")), 0) << "found by its bytes";
+    EXPECT_EQ(
+        names.bytesOf(names.textOfForeign(wxString::FromUTF8("\xCE\xA9"), ShownNames::clipboard)),
+        "\xCE\xA9");
+    EXPECT_EQ(names.bytesOf(names.textOfForeign("a\nb", ShownNames::clipboard)), "a\nb");
+    EXPECT_EQ(names.textOfForeign("a\nb", ShownNames::clipboard),
+              names.textOfForeign("a\nb", ShownNames::clipboard))
+        << "the same each time";
+    EXPECT_EQ(names.positionOf(names.textOfForeign("one\ttwo", ShownNames::clipboard)), 0)
+        << "found by its bytes";
     EXPECT_EQ(names.bytesOf("never seen"), "never seen");
     EXPECT_EQ(names.positionOf(accent), ShownNames::noColumn);
     const std::string page(1 << 20, 'x');
-    EXPECT_EQ(names.bytesOf(names.textOfForeign(page)), page);
+    EXPECT_EQ(names.bytesOf(names.textOfForeign(page, ShownNames::clipboard)), page);
 }
 
 TEST_P(Locale, LeavesNormalisedNamesAsTheyAre) {
@@ -110,16 +115,22 @@ TEST(ShownNames, TellManyColumnsApartThatReadTheSame) {
 TEST(ShownNames, LeaveForOtherProgramsWithoutInvisibleCharacters) {
     ShownNames names({"AU", "AU", ""}, true);
     for (const std::int32_t position : {0, 1}) {
-        EXPECT_EQ(names.textForOthers(names.textOf(position)), "AU");
+        EXPECT_EQ(names.textForOthers(names.textOf(position), ShownNames::clipboard), "AU");
     }
-    EXPECT_EQ(names.positionOf(names.textOfForeign("AU")), 1) << "the one that left last";
-    EXPECT_EQ(names.textForOthers(names.textOf(2)), " ");
-    EXPECT_EQ(names.positionOf(names.textOfForeign("AU")), 0);
+    EXPECT_EQ(names.positionOf(names.textOfForeign("AU", ShownNames::clipboard)), 1)
+        << "copied last";
+    names.textForOthers(names.textOf(0), ShownNames::drag);
+    EXPECT_EQ(names.positionOf(names.textOfForeign("AU", ShownNames::clipboard)), 1)
+        << "a drag in between changes nothing";
+    EXPECT_EQ(names.positionOf(names.textOfForeign("AU", ShownNames::drag)), 0);
+    EXPECT_EQ(names.textForOthers(names.textOf(2), ShownNames::clipboard), " ");
+    EXPECT_EQ(names.positionOf(names.textOfForeign("AU", ShownNames::clipboard)), 0);
 }
 
 TEST(ShownNames, CountColumnsWithoutTitles) {
     ShownNames names({"same", "same"}, false);
     EXPECT_EQ(names.textOf(0), "Column1");
     EXPECT_EQ(names.bytesOf("Column2"), "Column2");
-    EXPECT_EQ(names.positionOf(names.textOfForeign("same")), ShownNames::noColumn);
+    EXPECT_EQ(names.positionOf(names.textOfForeign("same", ShownNames::clipboard)),
+              ShownNames::noColumn);
 }
