@@ -105,6 +105,7 @@ INSTANTIATE_TEST_SUITE_P(InEach, Locale, testing::ValuesIn(locales));
 TEST(ShownNames, TellManyColumnsApartThatReadTheSame) {
     const std::string head(1000, 'x');
     std::vector<std::string> columns;
+    columns.reserve(20000);
     for (int name = 0; name < 20000; ++name) {
         columns.push_back(head + std::to_string(name));
     }
