@@ -15,7 +15,6 @@ add_library(columnimport SHARED
     dialogs/ImportLists.cpp
     dialogs/MatchingSection.cpp
     dialogs/StatusLine.cpp
-    dialogs/arrowBitmap.cpp
     dialogs/fitToScreen.cpp
     dialogs/sentences.cpp
     dialogs/wxImportCSVDialog.cpp

@@ -47,7 +47,7 @@ DelimiterField::DelimiterField(wxWindow *parent, wxWindowID id, char delimiter, 
     Bind(wxEVT_CONTEXT_MENU, &DelimiterField::onContextMenu, this);
 }
 
-// After the control's own response, which moves the cursor.
+// The control's own response, which moves the cursor, comes first.
 void DelimiterField::selectSoon() {
     CallAfter([this] { SelectAll(); });
 }

@@ -8,8 +8,8 @@ namespace columnimport {
 
 /// The field for the delimiter: one character, taken literally.
 ///
-/// A click into it or Tab selects its character, so that the next one replaces it. Its menu offers
-/// the usual delimiters by name: press the right button, the menu key or the arrow down.
+/// A click into it or Tab selects the character, so that the next one typed replaces it. The right
+/// button, the menu key and the down arrow open a menu of the usual delimiters.
 class DelimiterField : public wxTextCtrl {
 public:
     DelimiterField(wxWindow *parent, wxWindowID id, char delimiter, const wxSize &size);
@@ -19,7 +19,7 @@ private:
     void onKeyDown(wxKeyEvent &event);
     void onContextMenu(wxContextMenuEvent &event);
 
-    /// Shows the menu at `position` in the field, and takes the choice as if it were typed.
+    /// Shows the menu at `position` in the field, and enters the choice as if typed.
     void offer(const wxPoint &position);
 };
 

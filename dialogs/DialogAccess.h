@@ -14,18 +14,18 @@ namespace columnimport {
 
 struct Header;
 
-/// A run's access to a dialog, beyond its public members.
+/// Access to a dialog beyond its public members, for a run.
 struct DialogAccess {
-    /// To be called before `create`.
+    /// Call it before `create`.
     static void setOptions(wxImportCSVDialog &dialog, ImportOptions options);
 
-    /// The matches as the match list shows them, one for each row.
+    /// The matches in the match list, one per row.
     static std::vector<SourceMatch> matches(wxImportCSVDialog &dialog);
 
-    /// Moves the columns of the source, as they were cut last, out of a dialog that has ended.
+    /// Moves the source columns, as last read, out of a dialog that has ended.
     static std::vector<std::string> takeSourceColumns(wxImportCSVDialog &dialog);
 
-    /// The report on the file's first line, without its columns.
+    /// What reading the first line gave, without the columns.
     static const Header &header(const wxImportCSVDialog &dialog);
 };
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The half of the dialog that only a delimited file needs: the preview and the options.
+// The section for delimited files alone: the preview and the options.
 
 #include "dialogs/wxImportCSVDialog.h"
 
@@ -29,7 +29,7 @@ using columnimport::translated;
 
 namespace {
 
-/// Gives `text` the largest font, up to the usual size, at which `lines` lines fit into `height`.
+/// Gives `text` a fixed-width font, shrunk until `lines` lines fit into `height`.
 void fitLines(wxStaticText &text, int lines, int height) {
     wxFont font = text.GetFont();
     font.SetFamily(wxFONTFAMILY_TELETYPE);
@@ -51,7 +51,7 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
     auto *options = new wxStaticBoxSizer(wxVERTICAL, this, translated("Options"));
     auto *delimiterRow = new wxBoxSizer(wxHORIZONTAL);
     auto *preview = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("File Preview"));
-    // In a second call the toolkit warns about each handler, since it has them already.
+    // A second call would make the toolkit warn about each handler.
     static std::once_flag imageHandlers;
     std::call_once(imageHandlers, wxInitAllImageHandlers);
     sizer->Add(preview, wxSizerFlags().Border(wxALL, scale(10)));
@@ -81,8 +81,8 @@ void wxImportCSVDialog::createHeaderDlg(wxBoxSizer *sizer) {
                                   wxDefaultPosition, previewSize);
     fitLines(*text, columnimport::previewLines, previewSize.y);
     columnimport::cutLongLines(*text);
-    // SetLabelText, since an ampersand in a file is an ampersand. A new label makes a static text
-    // as large as itself, and the box around it would be fitted to that.
+    // SetLabelText shows ampersands literally. A new label resizes the static text to fit, and the
+    // box around it would follow, so the size is set again.
     text->SetLabelText(columnimport::previewText(columnimport::readPreview(
         m_fileName, columnimport::lengthToShow, m_options->byteOrderMark)));
     text->SetSize(previewSize);

@@ -38,8 +38,6 @@ ImportLists::ImportLists(wxImportCSVDialog &dialog, ListBoxSource &files, ListCt
     dialog.Bind(wxEVT_CHAR_HOOK, &ImportLists::onKey, this);
 }
 
-ImportLists::~ImportLists() = default;
-
 void ImportLists::makeRoom() {
     if (m_shown && !m_shown->isSmallEnoughToKeep()) {
         m_history.clear();
@@ -50,7 +48,7 @@ void ImportLists::makeRoom() {
 }
 
 void ImportLists::refresh(const std::vector<ColumnMatch> &opening) {
-    // A text that is still on its way was meant for the old rows.
+    // A paste under way was meant for the old rows.
     m_matches.changes().clear();
     m_history.clear();
     makeRoom();
@@ -107,7 +105,7 @@ void ImportLists::show() {
 void ImportLists::offerDelimiter() {
     const std::optional<LikelyDelimiter> &likely = m_shown->header.likely;
     m_status.offer(likely ? offerOf(likely->delimiter) : wxString(), [this, likely] {
-        // As if it were typed. The field takes the focus, since the button disappears.
+        // As if typed. The field takes the focus, since the button disappears.
         auto &field = *findControl<wxTextCtrl>(m_dialog, wxImportCSVDialog::TXT_DELIMITER);
         field.SetFocus();
         field.SetValue(wxString(likely->delimiter));
@@ -118,7 +116,7 @@ void ImportLists::showStatus() {
     const std::vector<RowMatch> rows = m_matches.rowMatches();
     const wxString problem = headerSentence(m_shown->header);
     m_status.show(StatusLine::source, problem);
-    // The line has room for three lines, and guesses from wrongly cut names need no check.
+    // Guesses from wrongly cut names need no check, and the status line has room for three lines.
     m_status.show(StatusLine::guesses, problem.empty() ? guessSentence(rows) : wxString());
     if (m_hasAskedBack) {
         m_status.show(StatusLine::required,

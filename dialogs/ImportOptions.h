@@ -9,8 +9,8 @@
 
 namespace columnimport {
 
-/// The host's options beyond the arguments of the constructor. The lists are by application column
-/// and may be shorter.
+/// The host's options beyond the arguments of the constructor. Each list has an entry per
+/// application column; entries at the end may be missing.
 struct ImportOptions {
     std::vector<std::vector<std::string>> alternatives;
     std::vector<bool> required;

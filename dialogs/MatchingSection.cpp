@@ -1,15 +1,13 @@
 // SPDX-License-Identifier: MIT
 
-// The half of a dialog that both kinds of source share: the list of file columns, the match list,
-// and their refreshes.
+// The section that both dialogs share: the list of file columns, the match list, and their refresh.
 
 #include "dialogs/wxImportCSVDialog.h"
 
 #include "dialogs/ImportLists.h"
 #include "dialogs/ImportOptions.h"
 #include "dialogs/StatusLine.h"
-#include "dialogs/arrowBitmap.h"
-#include "dialogs/fitToScreen.h"
+#include "dialogs/arrow.xpm"
 #include "dialogs/screen.h"
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
@@ -21,6 +19,7 @@
 #include <wx/bitmap.h>
 #include <wx/button.h>
 #include <wx/checkbox.h>
+#include <wx/image.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/statbox.h>
@@ -37,9 +36,24 @@ static_assert(wxImportCSVDialog::COLUMN_MATCH == columnimport::matchColumn);
 
 namespace {
 
-/// The check box for the first line, or null: a table has none.
+/// The check box for the first line; null for a table.
 wxCheckBox *firstLineBoxOf(wxWindow &dialog) {
     return findControl<wxCheckBox>(dialog, wxImportCSVDialog::CHECK_HEADER);
+}
+
+/// The arrow between the two lists, in the text colour of `window`. It uses an alpha channel, since
+/// the toolkit leaks one picture of a masked bitmap for each control that shows it.
+wxBitmap arrowBitmap(const wxWindow &window, const wxSize &size) {
+    wxImage arrow(arrow_xpm);
+    arrow.InitAlpha();
+    const wxColour colour = window.GetForegroundColour();
+    arrow.SetRGB(wxRect(arrow.GetSize()), colour.Red(), colour.Green(), colour.Blue());
+    const double scale = window.GetContentScaleFactor();
+    const wxSize onScreen = size * scale;
+    if (onScreen != arrow.GetSize()) {
+        arrow.Rescale(onScreen.x, onScreen.y, wxIMAGE_QUALITY_HIGH);
+    }
+    return wxBitmap(arrow, wxBITMAP_SCREEN_DEPTH, scale);
 }
 
 } // namespace
@@ -48,9 +62,8 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     const columnimport::Scale scale(*this);
     auto *rematch = new wxButton(this, BTN_REMATCH, translated("Reset to Default"));
     auto *matching = new wxStaticBoxSizer(wxHORIZONTAL, this, translated("Column Matching"));
-    auto *arrow = new wxStaticBitmap(
-        matching->GetStaticBox(), wxID_ANY,
-        columnimport::arrowBitmap(*matching->GetStaticBox(), scale(wxSize(50, 50))));
+    auto *arrow = new wxStaticBitmap(matching->GetStaticBox(), wxID_ANY,
+                                     arrowBitmap(*matching->GetStaticBox(), scale(wxSize(50, 50))));
     auto *buttons = CreateStdDialogButtonSizer(wxOK | wxCANCEL);
     auto *files = new ListBoxSource(matching->GetStaticBox(), LISTBOX_FILE, wxDefaultPosition,
                                     scale(wxSize(250, 450)));
@@ -60,7 +73,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
     auto *rematchRow = new wxBoxSizer(wxHORIZONTAL);
     if (m_status != nullptr) {
         rematchRow->AddStretchSpacer();
-    } else { // a table has no options for the line to stand beside
+    } else { // a table has no options to put the line beside
         m_status = new columnimport::StatusLine(*this);
         rematchRow->Add(m_status, columnimport::besideControls(scale(10)));
     }
@@ -87,7 +100,7 @@ void wxImportCSVDialog::createMainDlg(wxBoxSizer *sizer) {
 
     columnimport::fitToScreen(*this, *sizer);
     SetSizerAndFit(sizer);
-    // In a smaller frame the controls keep their sizes and are cut off.
+    // In a smaller frame, the controls keep their sizes and are cut off.
     SetVirtualSize(sizer->GetMinSize());
     wxCommandEvent refresh;
     onCheckHeader(refresh);

@@ -11,21 +11,17 @@
 
 namespace columnimport {
 
-/// What both lists show, and all that they were filled from. A refresh replaces it as a whole; undo
-/// restores the one before.
-///
-///     delimiter   comma, in the place of the semicolon that the dialog has now
-///     names       BHID and Depth, in the place of "BHID,Depth"
-///     rows        "hole: BHID", in the place of "hole: Not used"
+/// What both lists show, and everything that they were filled from. A refresh replaces it as a
+/// whole, and undo restores the former value.
 struct ShownImport {
     char delimiter;
     bool useSavedMatches;
     std::vector<std::string> savedMatches;
     Header header; ///< without its columns, which are in `names`
     ShownNames names;
-    std::vector<RowMatch> rows; ///< while the lists show another import; else the lists have them
+    std::vector<RowMatch> rows; ///< stale while shown: the match list has them
 
-    /// Whether undo may keep it. Names as large as a file would stay in memory.
+    /// Whether undo may keep it: names as large as a file would waste memory.
     bool isSmallEnoughToKeep() const {
         constexpr std::size_t most = 16U << 20U;
         std::size_t bytes = 0;

@@ -14,7 +14,7 @@ namespace columnimport {
 
 namespace {
 
-// After the last of the dialog's own identifiers.
+// The dialog's own identifiers end at 10.
 constexpr int textId = 11;
 constexpr int buttonId = 12;
 

@@ -12,12 +12,12 @@ class wxStaticText;
 
 namespace columnimport {
 
-/// The status line of a dialog, in the space that the controls leave free. It has one sentence per
-/// topic, in the order of the topics, and a button for an offer. It requests no space, so that
-/// nothing moves when a sentence comes or goes. A screen reader announces each change.
+/// The status line of a dialog, in the space that the controls leave free: a sentence per topic, in
+/// the order of the topics, and a button for an offer. It requests no space, so that nothing moves
+/// when a sentence appears or disappears. A screen reader announces each change.
 ///
 ///     status.show(StatusLine::source, "The file is empty.");
-///     status.show(StatusLine::source, {}); // takes the sentence back
+///     status.show(StatusLine::source, {}); // clears the sentence
 class StatusLine : public wxBoxSizer {
 public:
     enum Topic : unsigned char { source, required, guesses };
@@ -34,13 +34,13 @@ public:
 
 private:
     wxStaticText *m_text;
-    wxButton *m_button = nullptr; // exists while something is offered
+    wxButton *m_button = nullptr; // null if nothing is offered
     std::array<wxString, 3> m_sentences;
     wxString m_shown;
     std::function<void()> m_take; // what the button does
 };
 
-/// The flags with which the line is added to a row of controls, `gap` pixels beside them.
+/// The flags for adding the line to a row of controls, `gap` pixels beside them.
 wxSizerFlags besideControls(int gap);
 
 } // namespace columnimport

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: MIT
 
-#include "dialogs/fitToScreen.h"
-
 #include "dialogs/screen.h"
+
 #include "dialogs/wxImportCSVDialog.h"
 #include "dragdrop/controls.h"
 
@@ -17,7 +16,7 @@ namespace columnimport {
 
 namespace {
 
-/// Lowers both lists by `missing`, but leaves five rows and the headings; returns the rest.
+/// Lowers both lists by `missing`, but not below five rows and the headings; returns the rest.
 int lowerLists(wxWindow &files, wxWindow &matches, int missing) {
     const int least = Scale(matches)(150);
     const int lower = std::min(missing, matches.GetMinSize().y - least);
@@ -27,7 +26,7 @@ int lowerLists(wxWindow &files, wxWindow &matches, int missing) {
     return missing - lower;
 }
 
-/// Removes as many lines from the preview as are missing; one stays.
+/// Removes lines from the preview until it is lower by `missing`, but keeps one.
 void lowerPreview(wxStaticText &preview, int missing) {
     const int lineHeight = preview.GetCharHeight();
     const int lines = std::max((preview.GetMinSize().y - missing) / lineHeight, 1);
@@ -37,8 +36,8 @@ void lowerPreview(wxStaticText &preview, int missing) {
     preview.SetMinSize(wxSize(preview.GetMinSize().x, lines * lineHeight));
 }
 
-/// Narrows the match list by `missing`, but leaves a third, and each of its columns by half of
-/// that.
+/// Narrows the match list by `missing`, but keeps a third of it. Each of its columns loses half of
+/// that width.
 void narrowMatches(wxListCtrl &matches, int missing) {
     const wxSize size = matches.GetMinSize();
     const int narrower = std::min(missing, size.x * 2 / 3);

@@ -17,7 +17,7 @@ namespace columnimport {
 
 namespace {
 
-/// An offer for a delimiter that the first line contains.
+/// The texts for a delimiter that the first line contains.
 struct Offer {
     char delimiter;
     Plural count;

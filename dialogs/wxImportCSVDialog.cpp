@@ -5,7 +5,7 @@
 #include "delimited/readHeader.h"
 #include "dialogs/ImportLists.h"
 #include "dialogs/ImportOptions.h"
-#include "dialogs/fitToScreen.h"
+#include "dialogs/screen.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
@@ -14,7 +14,7 @@
 
 #include <utility>
 
-// For hosts that bind one to a reference.
+// Hosts may bind references to these.
 const int wxImportCSVDialog::BTN_ADD;
 const int wxImportCSVDialog::LISTBOX_FILE;
 const int wxImportCSVDialog::LISTBOX_MATCH;

@@ -24,8 +24,8 @@ class TextDropTarget;
 /// The dialog in which a user matches the columns of a delimited text file to the application
 /// columns of the host.
 ///
-/// A host without the toolkit runs it through `wxImportCSVDialogPeer`. A host that has its own
-/// `wxWindow` may run it itself, on its user-interface thread and one dialog at a time:
+/// Hosts without the toolkit run it through `wxImportCSVDialogPeer`. A host with a `wxWindow` of
+/// its own may run it directly, on its user-interface thread and one dialog at a time:
 ///
 ///     wxImportCSVDialog dialog(frame, "Import assays", {"holename", "from", "to", "Au"},
 ///                              "assays.csv", false, {}, ',', true);
@@ -34,11 +34,11 @@ class TextDropTarget;
 ///         std::vector<std::string> matches = dialog.getColumnNames(); // "HOLE", "From (m)", ...
 ///     }
 ///
-/// The matches live only as the texts of the match list, which has one row per application column:
-/// the name of the file column, or "Not used". Drops, keys and double clicks write into these rows.
-/// Every refresh (the check box, another delimiter, "Reset to Default", or a call of
-/// `onCheckHeader`) fills the list anew from the members and drops what the user changed by hand.
-/// Control and Z undoes one change after the other, up to the last refresh and including it.
+/// The texts of the match list are the only record of the matches. It has one row per application
+/// column, which reads the name of the file column or "Not used". Drops, keys and double clicks
+/// write into these rows. Every refresh (the check box, another delimiter, "Reset to Default", or a
+/// call of `onCheckHeader`) refills the list from the members and drops the user's changes. Ctrl+Z
+/// undoes one change after the other, back to the last refresh and including it.
 class COLUMNIMPORT_EXPORT wxImportCSVDialog : public wxDialog {
 public:
     static const int BTN_ADD = 1;           ///< no control has it
@@ -48,21 +48,22 @@ public:
     static const int TEXT_FILE_PREVIEW = 5; ///< the first lines of the file
     static const int CHECK_HEADER = 6;      ///< "First Line contain title"
     static const int TXT_DELIMITER = 7;     ///< the field delimiter, one character
-    static const int BTN_OK = 8;            ///< no control has it: the button is wxID_OK
-    static const int BTN_CANCEL = 9;        ///< no control has it: it is wxID_CANCEL
+    static const int BTN_OK = 8;            ///< no control has it: OK is wxID_OK
+    static const int BTN_CANCEL = 9;        ///< no control has it: Cancel is wxID_CANCEL
     static const int BTN_REMATCH = 10;      ///< "Reset to Default"
 
     static const int COLUMN_MATCH = 0; ///< column of the match list: the file column's name
     static const int COLUMN_APP = 1;   ///< column of the match list: the application column
 
-    /// Stores the values of one import; no file is touched and no control is built before `create`.
+    /// Stores the values of one import. Opens no file and builds no control; `create` does.
     ///
     /// @param parent          owner of the dialog; may be null
     /// @param title           text of the title bar
     /// @param appColumns      the application columns, one row of the match list each
     /// @param fileName        path of the file, UTF-8; one that can't be read gives empty lists
-    /// @param useSavedMatches whether `savedMatches` are shown instead of a new proposal; of no
-    ///                        effect if they hold no name, or if `firstLineHeader` is false
+    /// @param useSavedMatches whether to show `savedMatches` instead of a new proposal; no effect
+    /// if
+    ///                        they hold no name, or if `firstLineHeader` is false
     /// @param savedMatches    for each application column the name of a file column, or an empty
     ///                        string; entries beyond the application columns are dropped
     /// @param delimiter       the field delimiter to start with, one byte taken literally
@@ -75,54 +76,53 @@ public:
     wxImportCSVDialog(const wxImportCSVDialog &) = delete;
     wxImportCSVDialog &operator=(const wxImportCSVDialog &) = delete;
 
-    /// Builds the controls, reads the file's head and fills both lists. To be called once, after
-    /// the constructor and before `ShowModal`.
+    /// Builds the controls, reads the first lines of the file and fills both lists. Call it once,
+    /// after the constructor and before `ShowModal`.
     virtual void create();
 
-    /// The matches as the match list shows them, one per row and in the order of the application
-    /// columns; an empty string where the row reads "Not used". To be called after `create`, as
-    /// often as wanted.
+    /// The matches in the match list, one per row in the order of the application columns; an empty
+    /// string if the row reads "Not used". Call it after `create`, as often as you like.
     std::vector<std::string> getColumnNames();
 
     /// The delimiter in force: the last one typed, or the constructor's.
     char getDelimiter() const;
 
-    /// Whether the first line holds titles, as the check box said at the last refresh.
+    /// Whether the first line holds titles, as of the last refresh.
     bool isFirstLineHeader() const;
 
-    /// Always false. The result of `ShowModal` tells OK from everything else.
+    /// Always false. The result of `ShowModal` shows whether the user pressed OK.
     bool isOk() const;
 
 protected:
     /// Builds the preview and the options on top of `sizer`, and reads the file.
     void createHeaderDlg(wxBoxSizer *sizer);
 
-    /// Builds both lists and the buttons below what `sizer` holds, installs the sizer and fills the
-    /// lists. Runs last.
+    /// Builds both lists and the buttons below the items of `sizer`, installs the sizer and fills
+    /// the lists. Call it last.
     void createMainDlg(wxBoxSizer *sizer);
 
-    /// Reads `m_fileSchema` from the first line of the file. Touches no control: the lists and the
-    /// status line follow at the next `onCheckHeader`.
+    /// Reads `m_fileSchema` from the first line of the file. Changes no control: the next
+    /// `onCheckHeader` updates the lists and the status line.
     void loadHeader();
 
-    /// The first lines of the file as raw bytes, each with one line feed. The preview shows only
-    /// the heads of long lines.
+    /// The first lines of the file as raw bytes, each with one line feed. The preview cuts long
+    /// lines.
     std::string getFilePreview();
 
     /// Refreshes both lists from the members: by position, from the saved matches or with a
-    /// proposal. Ignores the event. Call it after `setFileSchema` or `loadHeader`, too.
+    /// proposal. Ignores the event. Call it after `setFileSchema` or `loadHeader` too.
     void onCheckHeader(wxCommandEvent &event);
 
-    /// Takes the first byte typed as the delimiter and reads the file again if it is another one.
+    /// Takes the first byte in the field as the delimiter. If it is new, reads the file again.
     void onTxtDelimiter(wxCommandEvent &event);
 
     /// Drops the saved matches for good and makes a new proposal.
     void onBtnRematch(wxCommandEvent &event);
 
-    /// Shows the rows that read "Not used" in bold and the others at normal weight.
+    /// Shows rows that read "Not used" in bold and guesses in italics.
     void applyListBoxMatchFont();
 
-    /// Replaces the file columns. Touches no control, like `loadHeader`.
+    /// Replaces the file columns. Changes no control, like `loadHeader`.
     void setFileSchema(std::vector<std::string> fileSchema);
 
 private:

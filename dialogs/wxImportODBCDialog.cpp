@@ -2,7 +2,7 @@
 
 #include "dialogs/wxImportODBCDialog.h"
 
-#include "dialogs/fitToScreen.h"
+#include "dialogs/screen.h"
 #include "languages/translated.h"
 
 #include <utility>

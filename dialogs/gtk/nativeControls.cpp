@@ -8,9 +8,9 @@
 
 namespace columnimport {
 
-// Themes give an entry more padding and a greater least height than this one has. A character with
-// ascenders and descenders takes two thirds of the height. A gap on the right keeps the frame
-// around the entry in view.
+// Themes give entries more padding and a greater minimum height. A character with ascenders and
+// descenders fits at two thirds of the height. A margin on the right keeps the frame around the
+// entry visible.
 void fitOneCharacter(wxTextCtrl &control) {
     const int height = control.GetMinSize().y;
     const wxString rules =

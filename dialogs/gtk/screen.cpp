@@ -13,7 +13,7 @@ namespace columnimport {
 
 namespace {
 
-constexpr double usualResolution = 96; // dots an inch
+constexpr double usualResolution = 96; // dots per inch
 
 double resolution(const wxWindow &window) {
     const double known = gdk_screen_get_resolution(gtk_widget_get_screen(window.GetHandle()));
@@ -36,7 +36,7 @@ wxSize frameRoom(const wxWindow &dialog) {
             area.y + area.height - std::max(place.y, area.y)};
 }
 
-// The thickness of a frame is unknown before it is shown: title bars are 20 to 40 pixels high.
+// A frame's borders are unknown before it is shown; title bars are 20 to 40 pixels high.
 wxSize contentRoom(const wxWindow &dialog) {
     return frameRoom(dialog) - Scale(dialog)(wxSize(10, 40));
 }

@@ -10,7 +10,7 @@ namespace columnimport {
 // The native control shows its character at any height.
 void fitOneCharacter(wxTextCtrl &) {}
 
-// By default the native control wraps its lines; with this style it cuts them at its edge.
+// By default the native control wraps lines; with this style it cuts them at its edge.
 void cutLongLines(wxStaticText &text) {
     const LONG_PTR style = GetWindowLongPtrW(text.GetHWND(), GWL_STYLE);
     SetWindowLongPtrW(text.GetHWND(), GWL_STYLE, (style & ~SS_TYPEMASK) | SS_LEFTNOWORDWRAP);

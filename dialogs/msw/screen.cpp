@@ -9,7 +9,7 @@
 
 namespace columnimport {
 
-// It is 1 if the host lets the system enlarge its windows.
+// The factor is 1 if the host lets the system enlarge its windows.
 Scale::Scale(const wxWindow &window) : m_ratio(window.GetDPIScaleFactor()) {}
 
 wxSize frameRoom(const wxWindow &dialog) {
