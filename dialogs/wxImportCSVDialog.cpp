@@ -10,7 +10,7 @@
 #include "dragdrop/controls.h"
 #include "languages/translated.h"
 #include "matching/openingMatches.h"
-#include "names/columnName.h"
+#include "names/ColumnMatch.h"
 
 #include <utility>
 

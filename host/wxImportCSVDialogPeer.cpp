@@ -5,7 +5,7 @@
 #include "host/c/columnimport.h"
 #include "host/runImport.h"
 #include "host/toolkit.h"
-#include "names/columnName.h"
+#include "names/ColumnMatch.h"
 
 #include <utility>
 

@@ -2,8 +2,10 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace columnimport {
 
@@ -11,10 +13,10 @@ namespace columnimport {
 enum class MatchOrigin : unsigned char {
     none,        ///< there is no match
     same,        ///< both names are equal once normalised
-    synonym,     ///< the library knows the two names as synonyms
+    synonym,     ///< the names are synonyms of the field
     alternative, ///< one of the host's alternatives names the source column
     similar,     ///< the names only resemble each other: a guess
-    inOrder,     ///< the first line holds no titles, and columns are paired by position
+    inOrder,     ///< columns are paired by position, since the first line holds no titles
     saved,       ///< the source has a column of the saved name
     byHand,      ///< the person chose it
     foreign,     ///< the person dropped or pasted a text that names no source column
@@ -23,7 +25,7 @@ enum class MatchOrigin : unsigned char {
 /// The score of a match that is not a guess.
 inline constexpr double noScore = -1.0;
 
-/// Which source column an application column is matched to, and why.
+/// The source column that an application column is matched to, and why.
 struct ColumnMatch {
     std::int32_t position = -1; ///< of the source column; -1 if there is none
     MatchOrigin origin = MatchOrigin::none;
@@ -37,5 +39,15 @@ struct SourceMatch : ColumnMatch {
 
     bool isNone() const { return position < 0 && name.empty(); }
 };
+
+/// The match text of an application column without a match.
+inline constexpr const char *notUsed = "Not used";
+
+/// The name of a source column in an import: its title, or without titles "Column1" at position 0,
+/// "Column2" at 1 and so on.
+inline std::string columnName(const std::vector<std::string> &titles, bool holdsTitles,
+                              std::size_t position) {
+    return holdsTitles ? titles[position] : "Column" + std::to_string(position + 1);
+}
 
 } // namespace columnimport

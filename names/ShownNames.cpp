@@ -3,7 +3,7 @@
 #include "names/ShownNames.h"
 
 #include "languages/translated.h"
-#include "names/columnName.h"
+#include "names/ColumnMatch.h"
 #include "names/nameText.h"
 
 #include <algorithm>
@@ -29,7 +29,7 @@ ShownNames::ShownNames(std::vector<std::string> titles, bool holdsTitles)
     : m_titles(std::move(titles)), m_holdsTitles(holdsTitles) {
     m_entries.reserve(m_titles.size() + 1);
     m_texts.reserve(m_titles.size() + 1);
-    // `notUsed` as a literal, so that the catalogue tool finds it.
+    // A literal instead of `notUsed`, so that the catalogue tool finds it.
     m_texts.push_back(&enter(translated("Not used"), noColumn, notUsed));
     for (std::size_t position = 0; position < m_titles.size(); ++position) {
         const wxString text = m_holdsTitles ? shownText(m_titles[position])
@@ -109,7 +109,7 @@ const std::wstring &ShownNames::enter(const wxString &text, std::int32_t positio
     const std::wstring &visible = text.ToStdWstring();
     const std::wstring shared = visible.empty() ? invisible(1) : visible;
     std::wstring shown = shared;
-    // A name may contain zero-width characters itself, so a number can be taken already.
+    // A name may contain zero-width characters itself, so a number may be taken already.
     while (m_entries.count(shown) != 0) {
         shown = shared + invisible(++m_sharers[shared]);
     }

@@ -14,13 +14,13 @@
 
 namespace columnimport {
 
-/// The texts that show the columns of a source, and the columns and bytes that a shown text stands
-/// for.
+/// Maps the columns of a source to the texts that show them, and shown texts back to columns and
+/// bytes.
 ///
 /// A name is bytes, in any encoding or none. Its shown text is decoded as well as possible, cut if
-/// it is long, and has stand-ins for control characters. No two columns share a text: names that
-/// would read the same, and a column called "Not used", get a number in zero-width characters. No
-/// text is empty, since an empty one can't be dragged.
+/// too long, and has stand-ins for control characters. No two columns share a text: names that
+/// would read the same, and a column called "Not used", get an invisible number in zero-width
+/// characters. No text is empty, since an empty text can't be dragged.
 ///
 ///     position  name               shown as
 ///     none                         Not used, in the language of the dialog
@@ -32,13 +32,13 @@ namespace columnimport {
 ///     5         Not used           Not used and an invisible 1
 ///     6         no byte at all     an invisible 1
 ///
-/// The match list holds these texts. They keep their meaning when the process's locale changes.
+/// The match list holds these texts. They keep their meaning if the process's locale changes.
 class ShownNames {
 public:
-    /// The position if there is no column.
+    /// The position of "Not used".
     static constexpr std::int32_t noColumn = -1;
 
-    /// The source's first line has the fields `titles`. If it holds no titles, the columns are
+    /// `titles` are the fields of the source's first line. If they are not titles, the columns are
     /// called "Column1" and so on.
     ShownNames(std::vector<std::string> titles, bool holdsTitles);
     ShownNames(const ShownNames &) = delete;
@@ -66,14 +66,14 @@ public:
     /// for the first column whose name is the same bytes once `encoded`, else for no column.
     wxString textOfForeign(const wxString &text, Transfer transfer);
 
-    /// The bytes that a shown text stands for; "Not used" for no column. A text that was never
-    /// shown is `encoded`.
+    /// The bytes that a shown text stands for; "Not used" for no column. For a text that was never
+    /// shown, `encoded(text)`.
     std::string bytesOf(const wxString &text) const;
 
     /// The position of the column that a shown text stands for, or `noColumn`.
     std::int32_t positionOf(const wxString &text) const;
 
-    /// Whether a shown text stands for the bytes "Not used": for no column, or for one of that
+    /// Whether a shown text stands for the bytes "Not used": for no column, or for a column of that
     /// name.
     bool isUnused(const wxString &text) const;
 
@@ -81,7 +81,7 @@ private:
     struct Entry {
         std::int32_t position;
         std::string foreignBytes;  ///< of a text without a column
-        std::size_t visibleLength; ///< of the text, without its invisible number
+        std::size_t visibleLength; ///< length of the text without its invisible number
     };
 
     /// A name that left the dialog.

@@ -8,8 +8,8 @@
 namespace columnimport {
 
 bool isUtf8(std::string_view bytes) {
-    // By the number of bytes after the first: the leading bits of the first byte, and the least
-    // character that needs so many bytes.
+    // Indexed by the number of bytes after the first: the leading bits of the first byte, and the
+    // smallest character that needs as many bytes.
     constexpr struct {
         unsigned mask, lead;
         std::uint32_t least;

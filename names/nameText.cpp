@@ -16,14 +16,14 @@ namespace {
 constexpr wchar_t ellipsis = L'\x2026';
 
 /// Whether `text` is valid Unicode. The toolkit and some locales also decode surrogates and
-/// characters beyond Unicode.
+/// characters beyond U+10FFFF.
 bool isUnicode(const wxString &text) {
     const std::string bytes = text.utf8_string();
     return !bytes.empty() && isUtf8(bytes);
 }
 
-/// A visible stand-in for an invisible character, or the character itself. The fonts of a plain
-/// Debian and of Windows have all stand-ins.
+/// A visible stand-in for an invisible character, or else the character itself. The fonts of a
+/// plain Debian and of Windows contain all stand-ins.
 wxUniChar standIn(wxUniChar character) {
     constexpr wxUint32 arrow = 0x2192;
     constexpr wxUint32 paragraph = 0xB6;
@@ -50,7 +50,7 @@ std::string_view head(std::string_view bytes) {
     return bytes.substr(0, length);
 }
 
-/// `bytes` as text; if they are too long, their head and an ellipsis.
+/// `bytes` as text; cut, with an ellipsis, if they are too long.
 wxString decodedHead(std::string_view bytes) {
     const std::string_view shown = head(bytes);
     wxString text = decoded(std::string(shown));

@@ -5,7 +5,7 @@
 #include "host/c/Import.h"
 
 #include "host/openImport.h"
-#include "names/columnName.h"
+#include "names/ColumnMatch.h"
 
 #include <utility>
 
