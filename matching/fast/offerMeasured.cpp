@@ -6,7 +6,6 @@
 #include <cassert>
 
 #include "matching/blendedMeasure.h"
-#include "matching/fast/longestRun.h"
 
 namespace columnimport {
 
@@ -20,7 +19,49 @@ std::size_t sharedBytes(const PreparedName &a, const PreparedName &b) {
     return shared;
 }
 
-/// `longestRunAbove` for a name with masks; costs at most the text's length times the run's.
+/// The length of the common run around the equal bytes `a[i]` and `b[j]`.
+std::size_t runAround(std::string_view a, std::size_t i, std::string_view b, std::size_t j) {
+    std::size_t before = 0;
+    while (before < std::min(i, j) && a[i - before - 1] == b[j - before - 1]) {
+        ++before;
+    }
+    std::size_t behind = 1;
+    while (behind < std::min(a.size() - i, b.size() - j) && a[i + behind] == b[j + behind]) {
+        ++behind;
+    }
+    return before + behind;
+}
+
+/// The length of the longest run of bytes that two texts have in common, if it is longer than
+/// `floor`; `floor` if it is not. The order of the texts makes no difference.
+///
+/// The search steps through the longer text by the best length so far, so a high floor saves most
+/// of the work. It costs at most the product of the lengths, divided by the run's length for texts
+/// that have little in common, and no memory.
+///
+///     longestRunByProbes(0, "hole_id", "holename") == 4
+///     longestRunByProbes(5, "hole_id", "holename") == 5, since none is longer
+std::size_t longestRunByProbes(std::size_t floor, std::string_view a, std::string_view b) {
+    const auto [name, text] = std::minmax(a, b, [](std::string_view one, std::string_view other) {
+        return one.size() < other.size();
+    });
+    // A run longer than `best` covers one of the bytes that are best + 1 apart in the text, so only
+    // these are looked up in the name.
+    std::size_t best = floor;
+    for (std::size_t probe = best; probe < text.size(); probe += best + 1) {
+        for (std::size_t at = name.find(text[probe]); at != std::string_view::npos;
+             at = name.find(text[probe], at + 1)) {
+            const std::size_t room =
+                std::min(at, probe) + std::min(name.size() - at, text.size() - probe);
+            if (room > best) {
+                best = std::max(best, runAround(name, at, text, probe));
+            }
+        }
+    }
+    return best;
+}
+
+/// The same for a name with masks; costs at most the text's length times the run's.
 ///
 /// Reads a window one byte longer than the best run backwards. The mask keeps the positions of the
 /// name where all that was read matches. Once none is left, no longer run can begin up to the byte
@@ -48,7 +89,7 @@ std::size_t longestRunAbove(std::size_t floor, const PreparedName &a, const Prep
         return longestRunByMasks(floor, a, b.bytes);
     }
     return b.isMasked() ? longestRunByMasks(floor, b, a.bytes)
-                        : columnimport::longestRunAbove(floor, a.bytes, b.bytes);
+                        : longestRunByProbes(floor, a.bytes, b.bytes);
 }
 
 } // namespace

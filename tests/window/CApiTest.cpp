@@ -84,7 +84,7 @@ TEST_F(CApi, AsksOnceForColumnsThatTheHostRequires) {
                   pressOk(person);
                   poll("it is asked for", [] { return sentence().find("gold is needed") == 0; });
                   person.drag(Person::fileRow(1), Person::matchRow(1));
-                  poll("OK asks", [] { return sentence().find("HOLE stands at both") == 0; });
+                  poll("the column that is used twice is named", [] { return sentence().find("HOLE stands at both") == 0; });
                   person.drag(Person::fileRow(2), Person::matchRow(1));
                   poll("all is well", [] { return sentence().empty(); });
                   person.drag(Person::fileRow(1), Person::matchRow(1));
