@@ -2,8 +2,6 @@
 
 #include "delimited/SourceFile.h"
 
-#include "delimited/openRegularFile.h"
-
 #include <algorithm>
 #include <cerrno>
 

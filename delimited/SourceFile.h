@@ -12,6 +12,14 @@
 
 namespace columnimport {
 
+/// Opens the regular file `path` (UTF-8) for binary reading, shared with other programs. The caller
+/// closes it.
+///
+/// Never waits for a pipe or a device. Returns null if the file can't be opened or is not a regular
+/// one, and sets `fault` to the system's reason if there is one. Each platform has a file of its
+/// own.
+std::FILE *openRegularFile(const std::string &path, std::error_code &fault);
+
 /// A delimited file, open for reading only and shared with other programs, read line by line.
 ///
 /// `path` is UTF-8. Anything but a regular file (a folder, a device, a pipe) counts as a file that

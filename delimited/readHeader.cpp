@@ -12,6 +12,18 @@
 
 namespace columnimport {
 
+namespace {
+
+/// Removes the mark from the first line of a file if `mark` asks for that.
+void removeUnwantedMark(std::string &firstLine, ByteOrderMark mark) {
+    constexpr const char *bytes = "\xEF\xBB\xBF";
+    if (mark == ByteOrderMark::dropped && firstLine.compare(0, 3, bytes) == 0) {
+        firstLine.erase(0, 3);
+    }
+}
+
+} // namespace
+
 Header readHeader(const std::string &path, char delimiter, ByteOrderMark mark) {
     Header header;
     SourceFile file(path);

@@ -2,7 +2,6 @@
 
 #pragma once
 
-#include "delimited/ByteOrderMark.h"
 #include "delimited/likelyDelimiter.h"
 
 #include <cstddef>
@@ -13,6 +12,12 @@
 #include <vector>
 
 namespace columnimport {
+
+/// Whether the byte-order mark that some programs write before a UTF-8 file is kept.
+enum class ByteOrderMark : unsigned char {
+    kept,   ///< it is part of the first line
+    dropped ///< it is skipped
+};
 
 /// What the first line of a file turned out to be.
 enum class FirstLine : unsigned char {

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "delimited/ByteOrderMark.h"
+#include "delimited/readHeader.h"
 #include "names/ColumnMatch.h"
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "delimited/openRegularFile.h"
+#include "delimited/SourceFile.h"
 
 #include <cerrno>
 
