@@ -33,7 +33,7 @@ bool isWrong(Import *import, const char *text) {
 
 } // namespace
 
-TEST_F(CApiCall, RefusesBadArgumentsWithAnErrorAndASentence) {
+TEST_F(CApiCall, ReportsBadArgumentsWithAMessage) {
     columnimport_add_column(import, "gold");
     const char *names[] = {"Au", nullptr};
     const std::int64_t lengths[] = {2, -1};
@@ -86,7 +86,7 @@ TEST_F(CApiCall, RefusesBadArgumentsWithAnErrorAndASentence) {
     columnimport_free(nullptr);
 }
 
-TEST_F(CApiCall, ProposesForAFileWhatTheDialogOpensWith) {
+TEST_F(CApiCall, ProposesTheMatchesThatTheDialogOpensWith) {
     const ScratchFile file("\xEF\xBB\xBF\"HOLE;1\" ; RL;;Au\0g/t;RL\n"s);
     for (const char *name : {"hole", "collar", "gold", "end"}) {
         columnimport_add_column(import, name);

@@ -24,7 +24,7 @@ TEST(ReadHeader, CutsTheFirstLineAndDropsTheQuotes) {
     }
 }
 
-TEST(ReadHeader, TellsTheLikelyDelimiterWhereItsOwnIsNotInTheLine) {
+TEST(ReadHeader, ReportsTheLikelyDelimiterIfTheLineLacksTheGivenOne) {
     const ScratchFile file("BHID\tFrom\tTo\r\n1;2;3;4\n");
     const Header undelimited = readHeader(file.path(), ';');
     ASSERT_TRUE(undelimited.likely);
@@ -52,14 +52,14 @@ TEST(ReadPreview, GivesTenLinesAtMostEachWithOneLineFeed) {
     }
 }
 
-TEST(FileHead, HoldsALongLineWholeOrAsMuchAsIsAskedFor) {
+TEST(FileHead, HoldsALongLineUpToTheRequestedLength) {
     const std::string line(200000, 'x');
     const ScratchFile file(line + "\nabc\r\nabcd\r\n" + line);
     EXPECT_EQ(readHeader(file.path(), ',').columns, Fields{line});
     EXPECT_EQ(readPreview(file.path(), 4), "xxxx\nabc\nabcd\nxxxx\n");
 }
 
-TEST(FileHead, IsEmptyWhereNoFileCanBeRead) {
+TEST(FileHead, IsEmptyIfTheFileCannotBeRead) {
     const std::string folder = std::filesystem::temp_directory_path().u8string();
     // A read of a device might never return.
     for (const std::string &path :

@@ -8,7 +8,7 @@
 
 using namespace std::string_literals;
 
-TEST(IsUtf8, HoldsUpToTheEndsOfEachForm) {
+TEST(IsUtf8, AcceptsOnlyTheRangeOfEachLength) {
     EXPECT_TRUE(columnimport::isUtf8("a\0\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xED\x9F\xBF\xEE\x80\x80"
                                      "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"s));
     for (const char *bytes :

@@ -6,7 +6,7 @@
 
 using namespace columnimport;
 
-TEST(LikelyDelimiter, IsWhatPartsTheTitlesAndNotWhatStandsInThem) {
+TEST(LikelyDelimiter, SeparatesTitlesAndIsNotPartOfThem) {
     const struct {
         std::string line;
         char delimiter; // 0 for none

@@ -90,7 +90,7 @@ std::int32_t agreedField(const std::vector<Fields> &readings, const std::string 
 
 } // namespace
 
-TEST(QuotedFields, ArePlainWhereTheTwoCountAlikeAndNoneWhereReadersDiffer) {
+TEST(QuotedFields, CountQuotedTextOnceAndEndWhereReadersDiffer) {
     const struct {
         std::string line;
         char delimiter;
@@ -115,7 +115,7 @@ TEST(QuotedFields, ArePlainWhereTheTwoCountAlikeAndNoneWhereReadersDiffer) {
 }
 
 // Each text byte is another letter, so that a column can be found in a reader's fields.
-TEST(QuotedFields, AreThoseInWhichAllReadersHaveTheColumn) {
+TEST(QuotedFields, AreTheFieldsOnWhichAllReadersAgree) {
     std::mt19937 random(26); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same lines each time
     for (const char delimiter : {',', '\t', ' ', '"'}) {
         const std::string bytes = std::string("xx\"\" \r") + delimiter + delimiter;

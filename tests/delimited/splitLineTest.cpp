@@ -35,7 +35,7 @@ TEST(PopField, LeavesTheTrimmedRestAndNothingBehindTheLastField) {
     EXPECT_EQ(rest, "");
 }
 
-TEST(TrimLeftAndRight, TakeOnlyTheGivenBytesOffTheirOwnEnd) {
+TEST(TrimLeftAndRight, RemoveOnlyTheGivenBytesFromTheirEnd) {
     EXPECT_EQ(trimRight("xyaxy", "xy"), "xya");
     EXPECT_EQ(trimLeft("xyaxy", "xy"), "axy");
     EXPECT_EQ(trimRight("xyx", "xy") + trimLeft("xyx", "xy"), "");

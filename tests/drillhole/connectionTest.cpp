@@ -25,7 +25,7 @@ TEST(Connection, IsShownWithoutItsPassword) {
     }
 }
 
-TEST(Connection, TakesAPasswordThatNobodySeesAgain) {
+TEST(Connection, NeverShowsItsPassword) {
     for (const std::string kind : {"postgresql://host=a", "odbc://DSN=a", "odbc://DSN=a;"}) {
         for (const std::string password : {"geheim", "ge'h ei}m", "ge\\heim;x"}) {
             const std::string connection = withPassword(kind, password);
@@ -63,7 +63,7 @@ TEST(Connection, AdvisesThePersonWhenItFails) {
     }
 }
 
-TEST(Connection, WaitsForASilentServerNoLongerThanItSays) {
+TEST(Connection, GivesUpASilentServerAfterItsTimeout) {
     const int silent = socket(AF_INET, SOCK_STREAM, 0);
     sockaddr_in place{};
     socklen_t size = sizeof place;

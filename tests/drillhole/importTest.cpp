@@ -75,7 +75,7 @@ protected:
     Session m_holes;
 };
 
-TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
+TEST_F(ImportTest, ImportsWhatFitsAndReportsTheRest) {
     const Match dipFirst = matchOf({1, 2, 3, 0});
     importText("survey",
                "Dip,Hole,At,Az\n-60,LR-1,0,90\n-60,LR-3,0,90\n-59,LR-2,10,n\n-58,LR-2,10,91\n",
@@ -93,7 +93,7 @@ TEST_F(ImportTest, TakesWhatFitsAndReportsTheRest) {
     EXPECT_EQ(read(report).size(), 143U) << "which another import wrote";
 }
 
-TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
+TEST_F(ImportTest, UsesTheDialogsDelimiterAndFirstLine) {
     const Match quotedTitles = matchOf({1, 3, 4, 5});
     const struct {
         const char *text;
@@ -119,7 +119,7 @@ TEST_F(ImportTest, TakesTheDelimiterAndTheFirstLineAsTheDialogDid) {
     }
 }
 
-TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
+TEST_F(ImportTest, LeavesTheDatabaseUnchangedIfItDoesNotFinish) {
     *m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
     const std::string surveys = "Hole,At,Az,Dip\nLR-1,0,90,-60\nLR-9,0,90,-60\n";
     {
@@ -148,7 +148,7 @@ TEST_F(ImportTest, LeavesNothingBehindWhenItDoesNotEnd) {
     }
 }
 
-TEST_F(ImportTest, ReplacesNothingUnasked) {
+TEST_F(ImportTest, ReplacesRowsOnlyIfAgreed) {
     *m_holes << "insert into survey values ('LR-1', 5, 5, 5)";
     const struct {
         const char *text;
@@ -173,7 +173,7 @@ TEST_F(ImportTest, ReplacesNothingUnasked) {
     }
 }
 
-TEST_F(ImportTest, RefusesWhatIsThereAlready) {
+TEST_F(ImportTest, RefusesExistingRows) {
     const Match match = matchOf({0, 1, 2, 3, {}, {}, {}, {}, {}});
     std::string text = "Hole,From,To,Au,Cu\n";
     for (int i = 0; i < 1001; ++i) {
@@ -202,7 +202,7 @@ TEST_F(ImportTest, RefusesWhatIsThereAlready) {
         << "nothing is not the same as an empty text";
 }
 
-TEST_F(ImportTest, GuessesNoNumber) {
+TEST_F(ImportTest, ImportsOnlyUnambiguousNumbers) {
     const Match match = matchOf({0, 1, 2, 3, 4});
     Match semicolons = matchOf({0, 1, 2, 3}, ';');
     Match converts = matchOf({0, 1, 2, {}, 3});
@@ -230,7 +230,7 @@ TEST_F(ImportTest, GuessesNoNumber) {
     }
 }
 
-TEST_F(ImportTest, TakesItsReportBackAsItReadTheFile) {
+TEST_F(ImportTest, ImportsItsReportLikeTheFile) {
     importText("assay", "Hole;From;To;Au\nLR-1;0,5;1,5;\xE9\n", matchOf({0, 1, 2, 3}, ';'));
     std::string report = read(m_report);
     EXPECT_EQ(report,
@@ -241,7 +241,7 @@ TEST_F(ImportTest, TakesItsReportBackAsItReadTheFile) {
     EXPECT_EQ(ask("select fromdepth, todepth, au_gt from assay"), "0.5|1.5|0.7");
 }
 
-TEST_F(ImportTest, ImportsNothingWhereTheReportHasNoRoom) {
+TEST_F(ImportTest, ImportsNothingIfTheReportCannotBeWritten) {
     std::string surveys = "Hole,At,Az,Dip\nLR-1,0,90,-60\n";
     for (int i = 0; i < 5000; ++i) {
         surveys += "LR-9,0,90,-60\n";
@@ -257,7 +257,7 @@ TEST_F(ImportTest, ImportsNothingWhereTheReportHasNoRoom) {
     EXPECT_EQ(ask("select count(*) from survey"), "0");
 }
 
-TEST_F(ImportTest, MakesColumnsForElementsThatCameLater) {
+TEST_F(ImportTest, AddsColumnsForNewElements) {
     *m_holes << "alter table assay drop column as_ppm";
     openHoles(connectionFor(path("holes.sqlite")));
     EXPECT_EQ(ask("select count(as_ppm) from assay"), "0");
@@ -265,7 +265,7 @@ TEST_F(ImportTest, MakesColumnsForElementsThatCameLater) {
     EXPECT_THROW(openHoles(connectionFor(path("holes.sqlite"))), Fault) << "another's table";
 }
 
-TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {
+TEST_F(ImportTest, ReportsADatabaseLockedByAnotherProgram) {
     soci::session other("sqlite3", "db=" + path("holes.sqlite"));
     other << "begin exclusive";
     const auto start = std::chrono::steady_clock::now();
@@ -276,7 +276,7 @@ TEST_F(ImportTest, SaysThatAnotherProgramHoldsTheDatabase) {
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(14)) << "but once";
 }
 
-TEST_F(ImportTest, ReadsATableAsItStands) {
+TEST_F(ImportTest, ReadsValuesOfATableUnchanged) {
     const std::string lab = connectionFor(path("lab's work.sqlite"));
     const Session source = openDatabase(lab);
     *source << "create table \"the holes\" (\"Hole:Id\" text, x real, y, note)";

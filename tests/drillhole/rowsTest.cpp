@@ -65,7 +65,7 @@ TEST(CsvFile, CutsRowsAndCountsLines) {
     }
 }
 
-TEST(CsvFile, NamesAFileForWhatItIs) {
+TEST(CsvFile, RefusesFilesThatAreNoLinesOfText) {
     const std::pair<std::string_view, const char *> cases[] = {
         {"a,b\r1,2\r", "carriage returns only"},
         {{"\xFF\xFE\n\0\x61\0", 6}, "UTF-16"},
@@ -86,7 +86,7 @@ TEST(CsvFile, NamesAFileForWhatItIs) {
     std::filesystem::remove(pipe);
 }
 
-TEST(CsvFile, NoticesThatItWasCutShortOrWentOn) {
+TEST(CsvFile, NoticesThatItShrinksOrGrows) {
     for (const char *const text : {"a,b\n1,2\n", "a,b\n1,2\n3,4\n5,6\n"}) {
         CsvFile file(fileOf("a,b\n1,2\n3,4\n"), ',');
         Row row;
@@ -147,7 +147,7 @@ struct Check {
     RowCheck check;
 };
 
-TEST(RowCheck, SaysWhyARowIsRefused) {
+TEST(RowCheck, GivesTheReasonForARefusedRow) {
     using namespace std::string_view_literals;
     const struct {
         const char *table;
@@ -196,7 +196,7 @@ TEST(RowCheck, SaysWhyARowIsRefused) {
         << "azimuth is needed";
 }
 
-TEST(RowCheck, SeesIntervalsThatMeet) {
+TEST(RowCheck, FindsOverlappingIntervals) {
     Check assays("assay");
     for (const char *const meets : {"10|11", "8|10.0000001", "10.9999999|12"}) {
         EXPECT_EQ(assays(std::string("LR-1|") + meets + "||||||"), "") << meets;
@@ -240,7 +240,7 @@ TEST(RowCheck, TakesValuesAsTheUserChose) {
               "fromdepth \"0,5\" is no number");
 }
 
-TEST(DecimalMarks, AreToldFromThousandsByTheOtherNumbers) {
+TEST(DecimalMarks, AreDistinguishedFromThousandsByTheOtherNumbers) {
     const struct {
         std::vector<const char *> others; ///< two of the same column, then one of another
         const char *text;
@@ -279,7 +279,7 @@ TEST(DecimalMarks, AreToldFromThousandsByTheOtherNumbers) {
     }
 }
 
-TEST(HoleTables, TellOneUnitFromAnother) {
+TEST(HoleTables, DistinguishUnits) {
     const struct {
         const char *title;
         const char *grade;
@@ -293,7 +293,7 @@ TEST(HoleTables, TellOneUnitFromAnother) {
     }
 }
 
-TEST(AsUtf8, TakesOtherBytesForThoseOfWindows) {
+TEST(AsUtf8, ReadsOtherBytesAsWindows1252) {
     EXPECT_EQ(asUtf8("\u00e9") + asUtf8("\x80") + asUtf8("\x81\xE9"), "\u00e9\u20ac\u0081\u00e9");
 }
 

@@ -26,7 +26,7 @@ TEST(Matcher, AgreesWithItsRulesOnAllSynonyms) {
     }
 }
 
-TEST(Matcher, AgreesWithItsRulesOnNamesThatResembleEachOther) {
+TEST(Matcher, AgreesWithItsRulesOnSimilarNames) {
     // Short and long names, in alphabets that give many ties or few.
     const std::string all = "abcdefghijklmnopqrstuvwxyz0123456789_";
     const struct Kind {

@@ -13,7 +13,7 @@
 
 using namespace columnimport;
 
-TEST(NormalizeColumnName, BringsEverySpellingOfANameToOneForm) {
+TEST(NormalizeColumnName, MakesAllSpellingsOfANameEqual) {
     const struct {
         std::string written, normalised;
     } cases[] = {
@@ -139,7 +139,7 @@ TEST(MatchColumns, RefusesAScoreOfExactlyTheThresholdAndTakesTheNextDouble) {
     EXPECT_EQ(matchColumns({"abcde", app}, {"abdxy", file}), (std::vector<std::int32_t>{-1, 1}));
 }
 
-TEST(MatchColumns, TakesTheAlternativesThatAHostNames) {
+TEST(MatchColumns, UsesTheAlternativesOfTheHost) {
     EXPECT_EQ(matchColumns({"hole", "to"}, {"hole_type", "TO (M)"}, {{}, {"SAMPTO", "To (m)"}}),
               (std::vector<std::int32_t>{0, 1}));
     EXPECT_EQ(matchColumns({"a", "rl"}, {"RL"}, {{"RL"}}), (std::vector<std::int32_t>{-1, 0}));

@@ -144,7 +144,7 @@ TEST_F(Host, ReadsAFileOfAnyNameThatAnotherProgramIsWriting) {
     std::filesystem::remove(any);
 }
 
-TEST_F(Host, ShowsEachLineOfAFileAsOne) {
+TEST_F(Host, ShowsEachLineOfAFileInOneLine) {
     std::string words;
     for (int word = 0; word < 300; ++word) {
         words += "word ";
@@ -158,7 +158,7 @@ TEST_F(Host, ShowsEachLineOfAFileAsOne) {
     }));
 }
 
-TEST_F(Host, KeepsItsWindowsStyleAndOwnsTheDialogByWhateverHandle) {
+TEST_F(Host, KeepsItsWindowsStyleAndOwnsTheDialogByAnyHandle) {
     HWND child = CreateWindowW(L"BUTTON", L"Import", WS_CHILD | WS_VISIBLE, 0, 0, 80, 25, window,
                                nullptr, nullptr, nullptr);
     const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
@@ -178,7 +178,7 @@ TEST_F(Host, KeepsItsWindowsStyleAndOwnsTheDialogByWhateverHandle) {
     EXPECT_EQ(GetWindowLongPtrW(child, GWL_EXSTYLE), 0);
 }
 
-TEST_F(Host, GetsADialogWithoutAnOwnerForAHandleThatIsNoWindow) {
+TEST_F(Host, GetsADialogWithoutAnOwnerForAnInvalidHandle) {
     DestroyWindow(window);
     for (HWND handle : {window, static_cast<HWND>(nullptr), GetDesktopWindow()}) {
         window = handle;
@@ -190,7 +190,7 @@ TEST_F(Host, GetsADialogWithoutAnOwnerForAHandleThatIsNoWindow) {
     EXPECT_TRUE(IsWindowEnabled(GetDesktopWindow()));
 }
 
-TEST_F(Host, GoesOnWhileAProgramHangsWhoseTextIsPasted) {
+TEST_F(Host, KeepsRunningIfTheClipboardsOwnerHangs) {
     std::atomic<bool> hasText = false;
     std::atomic<bool> isAsked = false;
     std::atomic<bool> isOver = false;

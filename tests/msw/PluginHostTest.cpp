@@ -27,7 +27,7 @@ void leaveDialog() {
 
 } // namespace
 
-TEST(PluginHost, MayTakeItsPluginOutAndBringItInAgain) {
+TEST(PluginHost, MayUnloadAndReloadItsPlugin) {
     const ScratchFile file("BHID,Dip\n");
     for (int time = 0; time < 2; ++time) {
         HMODULE plugin = LoadLibraryW(L"columnimport_import_plugin.dll");

@@ -51,7 +51,7 @@ protected:
 
 } // namespace
 
-TEST_P(Locale, GivesTheBytesAndThePositionOfEachColumnBack) {
+TEST_P(Locale, ReturnsTheBytesAndPositionOfEachColumn) {
     const std::vector<std::string> columns = awkwardNames(); // some more than once
     ShownNames names(columns, true);
     std::set<std::wstring> texts = {names.textOf(ShownNames::noColumn).ToStdWstring()};
@@ -74,7 +74,7 @@ TEST_P(Locale, GivesTheBytesAndThePositionOfEachColumnBack) {
     }
 }
 
-TEST_P(Locale, GivesForeignTextItsBytes) {
+TEST_P(Locale, EncodesForeignText) {
     ShownNames names({"one\ttwo"}, true);
     const wxString accent = names.textOfForeign(
         wxString::FromUTF8("plong\xC3\xA9 \xC3\x83\xC2\xA9"), ShownNames::clipboard);
@@ -102,7 +102,7 @@ TEST_P(Locale, LeavesNormalisedNamesAsTheyAre) {
 
 INSTANTIATE_TEST_SUITE_P(InEach, Locale, testing::ValuesIn(locales));
 
-TEST(ShownNames, TellManyColumnsApartThatReadTheSame) {
+TEST(ShownNames, DistinguishManyColumnsThatLookTheSame) {
     const std::string head(1000, 'x');
     std::vector<std::string> columns;
     columns.reserve(20000);

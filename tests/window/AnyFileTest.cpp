@@ -29,7 +29,7 @@ protected:
 
 } // namespace
 
-TEST_F(AnyFile, OpensWithRightMatchesWhateverItHolds) {
+TEST_F(AnyFile, OpensWithTheRightMatchesForAnyContent) {
     const struct {
         std::string content;
         Names matches;
@@ -45,7 +45,7 @@ TEST_F(AnyFile, OpensWithRightMatchesWhateverItHolds) {
     }
 }
 
-TEST_F(AnyFile, GivesNamesBackByteForByteInAndAfterAnyLocale) {
+TEST_F(AnyFile, ReturnsNamesByteForByteInAndAfterAnyLocale) {
     const Names names = {"plong\xE9\x65", "plong\xC3\xA9\x65", "\xF4\x80\x83\xA9", "hole\0name"s,
                          std::string(1 << 20, 'h')};
     std::string content;

@@ -47,7 +47,7 @@ protected:
 
 } // namespace
 
-TEST_F(CApi, TellsWhichOfEqualTitlesWasPasted) {
+TEST_F(CApi, ReportsWhichOfTheEqualTitlesWasPasted) {
     EXPECT_EQ(columnimport_show(nullptr, nullptr), columnimport_wrong_use);
     EXPECT_EQ(show([this](Person &person) {
                   EXPECT_EQ(read([this] { return columnimport_show(import.get(), nullptr); }),
@@ -95,7 +95,7 @@ TEST_F(CApi, AsksOnceForColumnsThatTheHostRequires) {
 }
 
 // The sanitizers notice memory that is freed too early or never.
-TEST_F(CApi, FreesAnImportThatIsGivenUpDuringItsRun) {
+TEST_F(CApi, MayFreeAnImportDuringItsRun) {
     columnimport_import *given = import.release();
     runWithPerson(
         [given](Person &person) {

@@ -99,7 +99,7 @@ TEST(Delimiter, IsChosenByNameInTheMenuOfItsField) {
     }
 }
 
-TEST(Delimiter, IsFollowedByASentenceWhereTheFileGivesOneColumnOrNone) {
+TEST(Delimiter, IsExplainedInTheStatusLineIfTheFileGivesOneColumnOrNone) {
     const std::string undelimited = "The first line of the file does not contain this delimiter.";
     const std::string blank = "The first line of the file is blank.";
     const std::string missing = "The file can't be read: No such file or directory";

@@ -217,7 +217,7 @@ TEST_F(DragDrop, MarksOneRowByAClickOneMoreWithControlAndARangeWithShift) {
     });
 }
 
-TEST_F(DragDrop, MarksARangeWithoutTheRowsThatHaveGone) {
+TEST_F(DragDrop, MarksOnlyExistingRowsOfARange) {
     run.matches = {"HOLE", "FROM"};
     run.show([](Person &person) {
         person.click(wxImportCSVDialog::CHECK_HEADER);
@@ -231,7 +231,7 @@ TEST_F(DragDrop, MarksARangeWithoutTheRowsThatHaveGone) {
     });
 }
 
-TEST_F(DragDrop, AssignsByADoubleClickAndNotByADragBesideAClick) {
+TEST_F(DragDrop, AssignsByADoubleClickButNotByADragAfterAClick) {
     run.show([](Person &person) {
         Names texts = start;
         const auto expectTexts = [&texts] {
@@ -257,7 +257,7 @@ TEST_F(DragDrop, AssignsByADoubleClickAndNotByADragBesideAClick) {
     });
 }
 
-TEST_F(DragDrop, MakesNoStepOfUndoWhereNothingChanges) {
+TEST_F(DragDrop, AddsNoUndoStepIfNothingChanges) {
     run.show([](Person &person) {
         person.drag(Person::fileRow(8), Person::matchRow(8));
         person.drag(Person::fileRow(9), Person::matchRow(9));
@@ -323,7 +323,7 @@ TEST_F(DragDrop, IgnoresClicksBesideRowsRightClicksAndSecondClicks) {
     });
 }
 
-TEST_F(DragDrop, CarriesAColumnWithoutATitleAsAnyOther) {
+TEST_F(DragDrop, DragsAColumnWithoutATitleLikeAnyOther) {
     const ScratchFile untitled("HOLE,,FROM\n");
     run.fileName = untitled.path();
     EXPECT_TRUE(run.show([](Person &person) {

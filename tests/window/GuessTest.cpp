@@ -65,7 +65,7 @@ constexpr int none = columnimport_none;
 
 } // namespace
 
-TEST_F(Guess, IsShownInItalicsUntilThePersonDealsWithIt) {
+TEST_F(Guess, IsShownInItalicsUntilThePersonConfirmsOrReplacesIt) {
     const std::vector<int> origins = originsAfter([](Person &person) {
         EXPECT_EQ(boldRows(), Rows{3});
         // A trembling hand drops a row on itself during a click.
@@ -106,7 +106,7 @@ TEST_F(Guess, IsConfirmedByADoubleClickOrControlAndReturn) {
     EXPECT_NEAR(columnimport_match_score(import.get(), 1), 0.4583, 0.02);
 }
 
-TEST_F(Guess, IsExplainedByATip) {
+TEST_F(Guess, IsExplainedByATooltip) {
     originsAfter([](Person &person) {
         const auto tip = [] { return matchList().GetToolTipText().utf8_string(); };
         person.hoverAt(Person::matchRow(0), "both names are shown",

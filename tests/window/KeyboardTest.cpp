@@ -59,7 +59,7 @@ protected:
 
 } // namespace
 
-TEST_F(Keyboard, TabGoesInTheOrderOfReading) {
+TEST_F(Keyboard, TabFollowsTheReadingOrder) {
     run.show([](Person &person) {
         tabTo(person, wxImportCSVDialog::TXT_DELIMITER);
         for (const int next : {wxImportCSVDialog::CHECK_HEADER, wxImportCSVDialog::BTN_REMATCH,
@@ -144,7 +144,7 @@ TEST_F(Keyboard, ContinuesFromTheClickedRow) {
     });
 }
 
-TEST_F(Keyboard, CopiesAndPastesNamesAsADragCarriesThem) {
+TEST_F(Keyboard, CopiesAndPastesNamesLikeADrag) {
     EXPECT_TRUE(run.show([](Person &person) {
         tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
         person.strike(WXK_HOME);

@@ -27,7 +27,7 @@ protected:
 
 } // namespace
 
-TEST_F(Outcome, IsWrittenAtEveryEndAndIsTrueForOkAlone) {
+TEST_F(Outcome, IsWrittenHoweverTheDialogEndsAndTrueOnlyForOk) {
     const struct {
         Steps leave;
         bool result;
@@ -52,7 +52,7 @@ TEST_F(Outcome, IsWrittenAtEveryEndAndIsTrueForOkAlone) {
     }
 }
 
-TEST_F(Outcome, GivesNoColumnForAFileColumnCalledNotUsed) {
+TEST_F(Outcome, IsEmptyForAFileColumnCalledNotUsed) {
     const ScratchFile named("Not used\n");
     run.fileName = named.path();
     run.useSavedMatches = true;
@@ -70,7 +70,7 @@ TEST_F(Outcome, IsEmptyWithoutApplicationColumns) {
     EXPECT_EQ(run.matches, Names());
 }
 
-TEST_F(Outcome, TheFrameStandsWhereAndAsLargeAsAskedInEveryRun) {
+TEST_F(Outcome, TheFrameHasTheRequestedPlaceAndSizeInEveryRun) {
     for (const wxSize size : {wxSize(900, 900), wxSize(1000, 950), wxSize(500, 400)}) {
         run.width = size.x;
         run.height = size.y;

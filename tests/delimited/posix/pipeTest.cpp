@@ -9,7 +9,7 @@
 
 using namespace columnimport;
 
-TEST(FileHead, IsEmptyForAPipeWhichItDoesNotWaitFor) {
+TEST(FileHead, IsEmptyForAPipeWithoutWaiting) {
     const ScratchFile pipe("");
     unlink(pipe.path().c_str());
     ASSERT_EQ(mkfifo(pipe.path().c_str(), 0600), 0);

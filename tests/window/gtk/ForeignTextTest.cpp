@@ -103,7 +103,7 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
     EXPECT_TRUE(run.matches == expected);
 }
 
-TEST(ForeignText, IsPastedAsUtf8IfThatIsOfferedAndElseReadAsANameIs) {
+TEST(ForeignText, IsPastedAsUtf8IfOfferedAndElseDecodedLikeAName) {
     const ScratchFile file("HOLE\n");
     const struct {
         std::vector<std::string> offered;
@@ -143,7 +143,7 @@ TEST(ForeignText, IsPastedAsUtf8IfThatIsOfferedAndElseReadAsANameIs) {
     }
 }
 
-TEST(ForeignText, IsPastedBeforeWhateverIsAskedForLater) {
+TEST(ForeignText, IsPastedBeforeAllLaterChanges) {
     const ScratchFile file("HOLE,FROM\n");
     const struct {
         const char *what;

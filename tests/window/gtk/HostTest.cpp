@@ -155,7 +155,7 @@ TEST_F(Host, MayDestroyItsWindowWhileTheDialogStaysOpen) {
     EXPECT_EQ(run.matches, (Names{"BHID", "Dip"}));
 }
 
-TEST_F(Host, CutsTheControlsOffInAFramePulledSmall) {
+TEST_F(Host, CutsOffTheControlsInAFrameMadeSmall) {
     run.show([](Person &person) {
         const auto sizes = [] {
             std::vector<wxSize> all;

@@ -69,7 +69,7 @@ std::size_t windowsOnScreen() {
 
 } // namespace
 
-TEST(LongUse, HoldsANameAsLargeAsItsFileNoMoreThanTwice) {
+TEST(LongUse, HoldsANameAsLargeAsItsFileTwiceAtMost) {
     const auto peakInMegabytes = [] {
         struct rusage usage = {};
         getrusage(RUSAGE_SELF, &usage);

@@ -67,7 +67,7 @@ TEST_F(Look, ShowsBesideThePointerTheNamesOfADrag) {
     });
 }
 
-TEST_F(Look, HasTheContrastOfGuidelinesForAccessibleContent) {
+TEST_F(Look, MeetsTheContrastOfAccessibilityGuidelines) {
     EXPECT_NEAR(contrast(*wxBLACK, *wxWHITE), 21, 0.005);
     EXPECT_NEAR(contrast(wxColour(0x1A, 0x73, 0xE8), *wxWHITE), 4.51, 0.01);
     // In this case the best tone is an end of the scale.
