@@ -74,13 +74,19 @@ bool isButtonDown(int button) {
 
 /// Waits until the program has seen the hand's input, since the compositor does not report when it
 /// has passed it on. Not for long: the program never sees input that goes to a drag or that closed
-/// its window.
-void waitUntilSeen(const std::function<bool()> &isSeen) {
-    const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(500);
-    const auto isNoMatter = [&] { return !isDialogOpen() || isDragRunning() || isSeen(); };
-    while (!read(isNoMatter) && std::chrono::steady_clock::now() < end) {
+/// its window. Returns whether it has seen it.
+bool waitUntilSeen(const std::function<bool()> &isSeen,
+                   std::chrono::milliseconds patience = std::chrono::milliseconds(500)) {
+    const auto end = std::chrono::steady_clock::now() + patience;
+    bool isIt = false;
+    const auto isSettled = [&] {
+        isIt = isDialogOpen() && isSeen();
+        return isIt || !isDialogOpen() || isDragRunning();
+    };
+    while (!read(isSettled) && std::chrono::steady_clock::now() < end) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
+    return isIt;
 }
 
 } // namespace
@@ -114,19 +120,29 @@ MutterHand::~MutterHand() {
 
 // Programs don't learn where their windows are. The dialog's place follows from the pointer, whose
 // place is known on the screen and, some time after each move, in the dialog: unequal steps must
-// give the same answer several times in a row. They begin in the middle of the screen.
+// give the same answer several times in a row. They begin in the middle of the screen. The slower
+// the compositor, the longer each step waits.
 void MutterHand::findDialog() {
+    std::chrono::milliseconds patience(10);
     int steps = 0;
+    int misses = 0;
     int equal = 0;
     poll("the pointer is over the dialog", [&] {
-        const int region = ++steps / 12;
+        ++steps;
+        const int region = misses / 3;
         moveOnScreen(wxPoint((m_screen.x / 2 + 330 * region) % m_screen.x + 7 * steps * steps % 30,
                              (m_screen.y / 2 + 70 * region) % m_screen.y + 5 * steps * steps % 20));
-        const std::optional<wxPoint> inDialog = read(pointerInDialog);
-        const wxPoint dialog = inDialog ? m_pointer - *inDialog : wxPoint();
-        equal = inDialog && dialog == m_dialog ? equal + 1 : 0;
-        m_dialog = dialog;
-        return equal == 3;
+        if (waitUntilSeen([&] { return pointerInDialog() == m_pointer - m_dialog; }, patience)) {
+            return ++equal == 3;
+        }
+        equal = 0;
+        patience = std::min(patience * 2, std::chrono::milliseconds(250));
+        if (const std::optional<wxPoint> inDialog = read(pointerInDialog)) {
+            m_dialog = m_pointer - *inDialog;
+        } else {
+            ++misses;
+        }
+        return false;
     });
 }
 
