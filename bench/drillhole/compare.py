@@ -15,13 +15,14 @@ import time
 
 RUNS = 3
 HOLES = 500
-TABLES = """
+ELEMENTS = ("au_gt", "cu_pct", "zn_pct", "ag_gt", "pb_pct", "fe_pct", "ni_pct", "mo_ppm", "as_ppm")
+TABLES = f"""
 create table collar (holename text not null, easting double precision not null,
     northing double precision not null, elevation double precision, length double precision,
     primary key (holename));
 create table assay (holename text not null, fromdepth double precision not null,
-    todepth double precision not null, au_gt double precision, cu_pct double precision,
-    zn_pct double precision, duplicate text, blank text, standard text);
+    todepth double precision not null, {" double precision, ".join(ELEMENTS)} double precision,
+    duplicate text, blank text, standard text);
 """
 
 
@@ -29,13 +30,12 @@ def write_assays(path, rows):
     draw = random.Random(7)
     per_hole = rows // HOLES
     with open(path, "w") as file:
-        file.write("BHID,FROM,TO,Au,Cu,Zn,DUP,BLANK,STD\n")
+        file.write(f"BHID,FROM,TO,{','.join(ELEMENTS)},DUP,BLANK,STD\n")
         for row in range(rows):
             hole, depth = divmod(row, per_hole)
-            file.write(
-                f'"LR-{hole:03}",{depth}.0,{depth + 1}.0,{draw.expovariate(1):.2f},'
-                f"{draw.random():.2f},{draw.random():.2f},{'yes' if row % 20 == 0 else ''},,\n"
-            )
+            grades = ",".join(f"{draw.random():.2f}" for _ in ELEMENTS)
+            duplicate = "yes" if row % 20 == 0 else ""
+            file.write(f'"LR-{hole:03}",{depth}.0,{depth + 1}.0,{grades},{duplicate},,\n')
 
 
 def with_collars():

@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <iostream>
+#include <numeric>
 
 #include <glibmm/init.h>
 #include <glibmm/main.h>
@@ -62,8 +63,8 @@ int main(int argc, char **argv) {
             const Table &assays = *findTable("assay");
             Match match;
             match.delimiter = ',';
-            match.positions = {0, 1, 2, 3, 4, 5};
             match.positions.resize(assays.columns.size());
+            std::iota(match.positions.begin(), match.positions.end(), std::size_t{0});
             return importFile({holes, assays, file + ".refused", Replace::no, {}}, file, match,
                               progress);
         },
