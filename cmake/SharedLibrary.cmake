@@ -9,7 +9,6 @@ add_library(columnimport SHARED
     dialogs/${platform}/nativeControls.cpp
     dialogs/${platform}/screen.cpp
     dialogs/DelimiterField.cpp
-    dialogs/DialogAccess.cpp
     dialogs/HeaderSection.cpp
     dialogs/History.cpp
     dialogs/ImportLists.cpp

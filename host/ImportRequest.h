@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "delimited/readHeader.h"
+#include "dialogs/ImportOptions.h"
 #include "names/ColumnMatch.h"
 
 #include <cstdint>
@@ -13,15 +13,12 @@
 namespace columnimport {
 
 /// What a host asks of one import, through any of the entry points.
-struct ImportRequest {
+struct ImportRequest : ImportOptions {
     std::string title;
     std::int32_t width = 0;
     std::int32_t height = 0;
 
     std::vector<std::string> appColumns;
-    std::vector<std::vector<std::string>> alternatives; ///< by application column; may be shorter
-    std::vector<bool> required;                         ///< by application column; may be shorter
-    std::vector<bool> refusesSimilar;                   ///< by application column; may be shorter
     bool useSavedMatches = false;
     std::vector<std::string> savedMatches; ///< by application column, empty for none
 
@@ -29,7 +26,6 @@ struct ImportRequest {
     std::optional<std::vector<std::string>> table; ///< the columns of a table instead
     char delimiter = ',';
     bool holdsTitles = true;
-    ByteOrderMark byteOrderMark = ByteOrderMark::kept;
 };
 
 /// The outcome of one import.

@@ -3,9 +3,11 @@
 #include "host/runImport.h"
 
 #include "delimited/readHeader.h"
-#include "dialogs/DialogAccess.h"
+#include "dialogs/ImportOptions.h"
 #include "dialogs/screen.h"
 #include "dialogs/wxImportODBCDialog.h"
+#include "dragdrop/ListCtrlSource.h"
+#include "dragdrop/controls.h"
 #include "host/HostStandIn.h"
 #include "host/c/columnimport.h"
 #include "host/modalLoop.h"
@@ -15,6 +17,26 @@
 #include <wx/log.h>
 
 namespace columnimport {
+
+/// Access to a dialog beyond its public members.
+struct DialogAccess {
+    /// Call it before `create`.
+    static void setOptions(wxImportCSVDialog &dialog, const ImportOptions &options) {
+        dialog.m_options = std::make_unique<const ImportOptions>(options);
+    }
+
+    /// The result of a dialog that has ended. Moves the source columns out of it.
+    static ImportResult takeResult(wxImportCSVDialog &dialog) {
+        const auto &list = *findControl<ListCtrlSource>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
+        std::vector<SourceMatch> matches;
+        for (int row = 0; row < list.GetItemCount(); ++row) {
+            matches.push_back(list.getMatch(row));
+        }
+        return {std::move(matches),      std::move(dialog.m_fileSchema),
+                dialog.m_header->fields, problemOf(*dialog.m_header),
+                dialog.getDelimiter(),   dialog.isFirstLineHeader()};
+    }
+};
 
 namespace {
 
@@ -53,8 +75,7 @@ wxSize frameSize(const wxWindow &dialog, wxSize size) {
 
 std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
                  std::optional<ImportResult> &result) {
-    DialogAccess::setOptions(dialog, {request.alternatives, request.required,
-                                      request.refusesSimilar, request.byteOrderMark});
+    DialogAccess::setOptions(dialog, request);
     dialog.SetPosition(framePlace); // to be fitted to the screen there
     dialog.create();
     // The fitted size is only a default: the host may ask for less.
@@ -64,13 +85,7 @@ std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportReq
     const bool ok = showModal(dialog) == wxID_OK;
     const bool isThere = hasWindow(dialog);
     if (isThere) {
-        const Header &header = DialogAccess::header(dialog);
-        result = ImportResult{DialogAccess::matches(dialog),
-                              DialogAccess::takeSourceColumns(dialog),
-                              header.fields,
-                              problemOf(header),
-                              dialog.getDelimiter(),
-                              dialog.isFirstLineHeader()};
+        result = DialogAccess::takeResult(dialog);
     }
     parent.release();
     dialog.Destroy();
