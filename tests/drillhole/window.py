@@ -61,13 +61,32 @@ def click(role, begin):
     press(role, begin)
 
 
+def line():
+    """The text of the field that takes the keys, or None."""
+    try:
+        return next((Atspi.Text.get_text(node, 0, -1) for node in below(Atspi.get_desktop(0))
+                     if node.get_role_name() == "text" and node.get_state_set().contains(Atspi.StateType.FOCUSED)), None)
+    except GLib.Error:
+        return None
+
+
 def fill(window, text, button):
     def is_there():
         return hand("getactivewindow", "getwindowname").startswith(window)
 
+    def is_typed():
+        if line() is None:
+            hand("key", "ctrl+l")  # gives a file chooser its line for a path
+            return False
+        hand("key", "ctrl+a")
+        hand("type", text)
+        end = time.monotonic() + 5
+        while (found := line()) != text and time.monotonic() < end:
+            time.sleep(0.02)
+        return found == text
+
     expect(f"a window {window}", is_there)
-    hand("key", "ctrl+l", "ctrl+a")  # the first gives a file chooser its line for a path
-    hand("type", text)
+    expect(f"the line reads {text}", is_typed)  # a chooser empties it once its list is there
     # The toolkit's list of completions may take the first click.
     expect(f"no window {window}", lambda: is_there() and press("push button", button), False)
 

@@ -55,7 +55,7 @@ public:
     const wxPoint window = wxPoint(1200, 180);
 
     void waitFor(const std::string &wanted) {
-        char said[10] = "";
+        char said[16] = "";
         if (fgets(said, sizeof said, m_output) == nullptr || said != wanted) {
             throw GivenUp("the other program did not say " + wanted);
         }
@@ -209,6 +209,7 @@ TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
         for (int step = 0; step < 20; ++step) {
             person.moveTo(program.window + wxSize(step % 2, 0));
         }
+        program.waitFor("accepted\n");
         person.release();
         program.waitFor("dropped\n");
         waitUntil("the drag ends", [] { return !isDragRunning(); });

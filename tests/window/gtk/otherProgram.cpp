@@ -4,9 +4,9 @@
 // those that begin with a blank, under a format without an encoding. It reports when it is ready
 // and when a drag is over, and ends after the last one.
 //
-// It accepts drags that may move their data, but never finishes one. It answers the first clipboard
-// request slowly and hangs at the second; under Wayland, where nobody requests the same data twice,
-// it hangs at once.
+// It accepts drags that may move their data, and reports the first one, but never finishes one. It
+// answers the first clipboard request slowly and hangs at the second; under Wayland, where nobody
+// requests the same data twice, it hangs at once.
 
 #include <cstdlib>
 #include <cstring>
@@ -57,6 +57,16 @@ void handSlowly(GtkClipboard *, GtkSelectionData *data, guint, void *) {
     gtk_selection_data_set_text(data, "slow", -1);
 }
 
+// The screen has the acceptance before the report.
+gboolean accept(GtkWidget *, GdkDragContext *drag) {
+    static bool isReported = false;
+    if (gtk_drag_get_source_widget(drag) == nullptr && !std::exchange(isReported, true)) {
+        gdk_display_sync(gdk_display_get_default());
+        say("accepted");
+    }
+    return FALSE;
+}
+
 gboolean takeClipboard(GtkWidget *, GdkEvent *, GtkWindow *window) {
     const GtkTargetEntry text{const_cast<char *>("UTF8_STRING"), 0, 0};
     gtk_clipboard_set_with_data(
@@ -100,6 +110,7 @@ int main(int argumentCount, char **arguments) {
     offer(area, *offered);
     gtk_drag_dest_set(area, GTK_DEST_DEFAULT_MOTION, nullptr, 0, GDK_ACTION_MOVE);
     gtk_drag_dest_add_text_targets(area);
+    g_signal_connect(area, "drag-motion", G_CALLBACK(accept), nullptr);
     g_signal_connect(area, "drag-drop", G_CALLBACK(+[]() -> gboolean {
                          say("dropped");
                          return TRUE;
