@@ -120,6 +120,7 @@ void Person::typeDelimiter(char character) {
 
 void Person::waitForDialog() {
     poll("the dialog is ready", [] { return read(isDialogReady); });
+    onUserInterface(allowSlowDoubleClicks);
     m_hand->findDialog();
 }
 

@@ -117,6 +117,10 @@ void handleEvents() {
 
 // The window manager gives the frame its place and its size in steps, and the controls follow. A
 // button that moves under the pointer would not know of the press.
+void allowSlowDoubleClicks() {
+    g_object_set(gtk_settings_get_default(), "gtk-double-click-time", 5000, nullptr);
+}
+
 bool isDialogReady() {
     if (!isDialogOpen() || !openDialog().IsActive()) {
         return false;

@@ -94,6 +94,10 @@ void handleEvents() {
     }
 }
 
+void allowSlowDoubleClicks() {
+    SetDoubleClickTime(5000);
+}
+
 bool isDialogReady() {
     watchMoves();
     return isDialogOpen() && openDialog().IsActive();
