@@ -13,12 +13,6 @@
 #include <iostream>
 
 #include <glib/gstdio.h>
-#include <glibmm/convert.h>
-#include <glibmm/init.h>
-#include <glibmm/main.h>
-#include <glibmm/miscutils.h>
-#include <glibmm/optioncontext.h>
-#include <gtkmm/application.h>
 #include <wxImportCSVDialogPeer.h>
 
 using namespace drillhole;

@@ -4,8 +4,6 @@
 
 #include "drillhole/rows/text.h"
 
-#include <gtkmm/label.h>
-
 namespace drillhole {
 
 ChoicesBar::ChoicesBar(Settings &settings)

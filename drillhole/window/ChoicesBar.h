@@ -5,9 +5,7 @@
 #include "drillhole/rows/RowCheck.h"
 #include "drillhole/window/Settings.h"
 
-#include <gtkmm/box.h>
-#include <gtkmm/comboboxtext.h>
-#include <gtkmm/entry.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 

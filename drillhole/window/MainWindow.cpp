@@ -9,18 +9,6 @@
 #include "drillhole/window/MatchDialog.h"
 #include "drillhole/window/SourceDialog.h"
 
-#include <giomm/file.h>
-#include <giomm/menu.h>
-#include <glibmm/convert.h>
-#include <glibmm/main.h>
-#include <glibmm/miscutils.h>
-#include <gtkmm/filechoosernative.h>
-#include <gtkmm/frame.h>
-#include <gtkmm/menubutton.h>
-#include <gtkmm/messagedialog.h>
-#include <gtkmm/paned.h>
-#include <gtkmm/stackswitcher.h>
-
 namespace drillhole {
 
 namespace {

@@ -9,12 +9,7 @@
 #include "drillhole/window/ReportPane.h"
 #include "drillhole/window/RowGrid.h"
 
-#include <giomm/simpleaction.h>
-#include <gtkmm/applicationwindow.h>
-#include <gtkmm/checkbutton.h>
-#include <gtkmm/infobar.h>
-#include <gtkmm/progressbar.h>
-#include <gtkmm/stack.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 

@@ -7,9 +7,6 @@
 #include <iomanip>
 #include <utility>
 
-#include <cairomm/region.h>
-#include <gtkmm/tooltip.h>
-
 namespace drillhole {
 
 namespace {

@@ -4,7 +4,7 @@
 
 #include "drillhole/window/planScale.h"
 
-#include <gtkmm/drawingarea.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 

@@ -2,9 +2,6 @@
 
 #include "drillhole/window/ReportPane.h"
 
-#include <giomm/appinfo.h>
-#include <glibmm/convert.h>
-
 namespace drillhole {
 
 ReportPane::ReportPane()

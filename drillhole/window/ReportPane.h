@@ -4,11 +4,7 @@
 
 #include "drillhole/window/ImportRecord.h"
 
-#include <gtkmm/box.h>
-#include <gtkmm/button.h>
-#include <gtkmm/label.h>
-#include <gtkmm/listviewtext.h>
-#include <gtkmm/scrolledwindow.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 

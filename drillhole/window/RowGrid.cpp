@@ -6,8 +6,6 @@
 
 #include <algorithm>
 
-#include <gtkmm/button.h>
-
 namespace drillhole {
 
 constexpr std::size_t pageSize = 500;

@@ -5,12 +5,7 @@
 #include "drillhole/database/holeDatabase.h"
 #include "drillhole/window/DatabaseThread.h"
 
-#include <gtkmm/box.h>
-#include <gtkmm/label.h>
-#include <gtkmm/listviewtext.h>
-#include <gtkmm/scrolledwindow.h>
-#include <gtkmm/searchentry.h>
-#include <gtkmm/stack.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 
