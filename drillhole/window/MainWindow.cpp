@@ -34,8 +34,15 @@ MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool
       m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing) {
     set_default_size(1120, 720);
     addTo(m_controls, createToolbar(), m_choices);
-    createFaultBar();
-    createProgressLine();
+
+    m_faultBar.set_message_type(Gtk::MESSAGE_ERROR);
+    m_faultBar.set_show_close_button();
+    m_faultBar.signal_response().connect([this](int) { m_faultBar.hide(); });
+    m_fault.set_line_wrap();
+    m_fault.set_xalign(0);
+    m_fault.set_selectable();
+    dynamic_cast<Gtk::Container *>(m_faultBar.get_content_area())->add(m_fault);
+
     auto *frame = Gtk::make_managed<Gtk::Frame>();
     frame->add(m_plan);
     auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
@@ -43,6 +50,14 @@ MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool
     both->pack2(*frame, true, false);
     both->set_position(660);
     both->set_vexpand();
+
+    auto *cancelButton = Gtk::make_managed<Gtk::Button>("_Cancel", true);
+    cancelButton->signal_clicked().connect([this] { cancel(); });
+    m_progressBar.set_show_text();
+    m_progressBar.set_valign(Gtk::ALIGN_CENTER);
+    m_progressBar.set_hexpand();
+    addTo(m_progressLine, m_progressBar, *cancelButton);
+
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
     all->property_margin() = 12;
     addTo(*all, m_controls, m_faultBar, *both, m_report, m_progressLine);
@@ -317,25 +332,6 @@ Gtk::Widget &MainWindow::createMenuButton() {
     button->set_use_popover(false);
     button->set_menu_model(menu);
     return *button;
-}
-
-void MainWindow::createFaultBar() {
-    m_faultBar.set_message_type(Gtk::MESSAGE_ERROR);
-    m_faultBar.set_show_close_button();
-    m_faultBar.signal_response().connect([this](int) { m_faultBar.hide(); });
-    m_fault.set_line_wrap();
-    m_fault.set_xalign(0);
-    m_fault.set_selectable();
-    dynamic_cast<Gtk::Container *>(m_faultBar.get_content_area())->add(m_fault);
-}
-
-void MainWindow::createProgressLine() {
-    auto *cancelButton = Gtk::make_managed<Gtk::Button>("_Cancel", true);
-    cancelButton->signal_clicked().connect([this] { cancel(); });
-    m_progressBar.set_show_text();
-    m_progressBar.set_valign(Gtk::ALIGN_CENTER);
-    m_progressBar.set_hexpand();
-    addTo(m_progressLine, m_progressBar, *cancelButton);
 }
 
 } // namespace drillhole

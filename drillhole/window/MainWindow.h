@@ -42,8 +42,6 @@ public:
 private:
     Gtk::Widget &createToolbar();
     Gtk::Widget &createMenuButton();
-    void createFaultBar();
-    void createProgressLine();
 
     RowGrid &grid(); ///< of the table that is shown
     void chooseFile();

@@ -20,8 +20,6 @@ public:
     const std::string &file() const { return m_report; }
 
 private:
-    void openReport();
-
     Gtk::Label m_heading;
     Gtk::Button m_open;
     Gtk::ScrolledWindow m_scrolled;

@@ -110,11 +110,7 @@ void RowGrid::goTo(const std::string &number) {
 
 void RowGrid::sortBy(std::size_t column) {
     const bool isSorted = m_shown.sortedBy == column;
-    if (isSorted && m_shown.descends) {
-        m_shown.sortedBy.reset();
-    } else {
-        m_shown.sortedBy = column;
-    }
+    m_shown.sortedBy = isSorted && m_shown.descends ? std::nullopt : std::optional(column);
     m_shown.descends = isSorted && !m_shown.descends;
     for (std::size_t i = 0; i < m_shown.table->columns.size(); ++i) {
         Gtk::TreeViewColumn *title = m_view.get_column(static_cast<int>(i));
