@@ -73,25 +73,25 @@ void MainWindow::open(const std::string &connection) {
     m_isOpen = false;
     m_holes.use(connection);
     m_holes.run(collarsOf, [this](const std::vector<Collar> &collars, const std::string &fault) {
-        if (!fault.empty() && m_isAttended) {
+        if (!fault.empty()) {
             chooseDatabase(fault);
             return;
         }
-        m_isOpen = fault.empty();
-        if (m_isOpen) {
-            m_plan.show(collars);
-            for (Gtk::Widget *each : m_tables.get_children()) {
-                dynamic_cast<RowGrid &>(*each).refresh(false);
-            }
-        } else {
-            showFault(fault);
+        m_isOpen = true;
+        m_plan.show(collars);
+        for (Gtk::Widget *each : m_tables.get_children()) {
+            dynamic_cast<RowGrid &>(*each).refresh(false);
         }
         m_signalAtRest.emit(nullptr);
     });
 }
 
 void MainWindow::chooseDatabase(const std::string &message) {
-    if (const auto chosen = chooseSource(*this, SourceKind::holes, m_holes.connection(), message)) {
+    std::optional<ImportSource> chosen;
+    if (m_isOpen || m_isAttended) {
+        chosen = chooseSource(*this, SourceKind::holes, m_holes.connection(), message);
+    }
+    if (chosen) {
         open(chosen->connection);
     } else if (!m_isOpen) {
         showFault(message);

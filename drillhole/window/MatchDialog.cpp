@@ -131,9 +131,8 @@ std::optional<Match> matchColumns(Gtk::Window &owner, const Settings &settings, 
         copy = setFile(import, file, source.path);
         const std::string kept = settings.text(group, "delimiter");
         const std::int32_t likely = columnimport_likely_delimiter(import);
-        const char delimiter = likely >= 0    ? static_cast<char>(likely)
-                               : kept.empty() ? ','
-                                              : kept[0];
+        const char usual = kept.empty() ? ',' : kept[0];
+        const char delimiter = likely >= 0 ? static_cast<char>(likely) : usual;
         columnimport_set_delimiter(import, file.preamble().delimiter.value_or(delimiter));
         columnimport_set_first_line_holds_titles(import, settings.text(group, "titles") != "no");
     } else {
