@@ -9,18 +9,10 @@
 #include <clocale>
 #include <cstdlib>
 #include <deque>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <system_error>
-#include <vector>
 
-#include <glibmm/convert.h>
-#include <glibmm/init.h>
-#include <glibmm/main.h>
-#include <glibmm/miscutils.h>
-#include <glibmm/optioncontext.h>
-#include <gtkmm/application.h>
+#include <glib/gstdio.h>
 #include <wxImportCSVDialogPeer.h>
 
 using namespace drillhole;
@@ -33,13 +25,11 @@ std::string inFolder(const std::string &folder, const std::string &name) {
 
 /// What the command line asks for.
 struct Options {
-    std::string database;           ///< the connection to the drill holes
-    std::string table;              ///< where to import to; empty if the file's name tells it
-    std::vector<std::string> files; ///< to import at once, one after the other
-    std::string source;             ///< the connection to import a table from, or empty
-    std::string sourceTable;        ///< empty to let the user choose
-    bool thenQuits = false;         ///< when all that was asked for is imported
-    bool acceptsGuesses = false;    ///< of required columns, when nobody is asked
+    std::string database;             ///< the connection to the drill holes
+    std::string table;                ///< where to import to; empty if the file's name tells it
+    std::deque<ImportSource> sources; ///< to import at once, one after the other
+    bool thenQuits = false;           ///< when all that was asked for is imported
+    bool acceptsGuesses = false;      ///< of required columns, when nobody is asked
 };
 
 Glib::OptionEntry entry(const char *name, const char *description) {
@@ -50,9 +40,8 @@ Glib::OptionEntry entry(const char *name, const char *description) {
 }
 
 std::string usualDatabase() {
-    const std::filesystem::path path = inFolder(Glib::get_user_data_dir(), "holes.sqlite");
-    std::error_code ignored; // the database says what is wrong there
-    std::filesystem::create_directories(path.parent_path(), ignored);
+    const std::string path = inFolder(Glib::get_user_data_dir(), "holes.sqlite");
+    g_mkdir_with_parents(Glib::path_get_dirname(path).c_str(), 0777);
     return path;
 }
 
@@ -72,41 +61,33 @@ std::string connectionTo(const std::string &database, const std::string &passwor
 /// program after --help.
 Options readOptions(int &argc, char **&argv) {
     Options options;
+    ImportSource source;
     std::string passwordFile;
     std::string sourcePasswordFile;
-    const struct {
-        const char *name;
-        const char *value;
-        const char *description;
-        std::string &text;
-    } entries[] = {
-        {"database", "DATABASE",
-         "Where the drill holes are: an SQLite file, made if it is missing, or a connection such "
-         "as "
-         "postgresql://host=... dbname=...",
-         options.database},
-        {"table", "TABLE", "Import into collar, survey, assay or lithology", options.table},
-        {"from", "DATABASE", "Import a table of another database", options.source},
-        {"from-table", "NAME", "The table to import; without it you can choose one",
-         options.sourceTable},
-        {"password-file", "FILE", "A file whose first line is the password of --database",
-         passwordFile},
-        {"from-password-file", "FILE", "A file whose first line is the password of --from",
-         sourcePasswordFile},
-    };
+    std::vector<std::string> files;
     Glib::OptionGroup group("drillhole", "Drill holes");
-    for (const auto &each : entries) {
-        Glib::OptionEntry option = entry(each.name, each.description);
-        option.set_arg_description(each.value);
-        group.add_entry_filename(option, each.text);
-    }
+    const auto add = [&group](const char *name, const char *value, std::string &text,
+                              const char *description) {
+        Glib::OptionEntry option = entry(name, description);
+        option.set_arg_description(value);
+        group.add_entry_filename(option, text);
+    };
+    add("database", "DATABASE", options.database,
+        "Where the drill holes are: an SQLite file, made if it is missing, or a connection such as "
+        "postgresql://host=... dbname=...");
+    add("table", "TABLE", options.table, "Import into collar, survey, assay or lithology");
+    add("from", "DATABASE", source.connection, "Import a table of another database");
+    add("from-table", "NAME", source.table, "The table to import; without it you can choose one");
+    add("password-file", "FILE", passwordFile,
+        "A file whose first line is the password of --database");
+    add("from-password-file", "FILE", sourcePasswordFile,
+        "A file whose first line is the password of --from");
     group.add_entry(entry("then-quit", "End when what the command line names is imported"),
                     options.thenQuits);
-    group.add_entry(entry("accept-guesses",
-                          "With --then-quit, import required columns that only similar names were "
-                          "found for"),
+    group.add_entry(entry("accept-guesses", "With --then-quit, import required columns that only "
+                                            "similar names were found for"),
                     options.acceptsGuesses);
-    group.add_entry_filename(entry(G_OPTION_REMAINING, "Files to import"), options.files);
+    group.add_entry_filename(entry(G_OPTION_REMAINING, "Files to import"), files);
     Glib::OptionContext context("[FILE...]");
     context.set_main_group(group);
     context.parse(argc, argv);
@@ -115,13 +96,17 @@ Options readOptions(int &argc, char **&argv) {
         throw Fault("There is no table " + options.table +
                     "; give --table=collar, survey, assay or lithology.");
     }
-    if (options.source.empty() && !options.sourceTable.empty()) {
+    if (source.connection.empty() && !source.table.empty()) {
         throw Fault("Give the database of that table too, with --from.");
     }
     options.database =
         connectionTo(options.database.empty() ? usualDatabase() : options.database, passwordFile);
-    if (!options.source.empty()) {
-        options.source = connectionTo(options.source, sourcePasswordFile);
+    for (const std::string &path : files) {
+        options.sources.push_back({path, {}, {}});
+    }
+    if (!source.connection.empty()) {
+        source.connection = connectionTo(source.connection, sourcePasswordFile);
+        options.sources.push_back(source);
     }
     return options;
 }
@@ -145,7 +130,7 @@ std::string ownWords() {
 
 int run(int argc, char **argv) {
     holeTables(ownWords());
-    const Options options = readOptions(argc, argv);
+    Options options = readOptions(argc, argv);
     // In front of GTK's own start: behind it, GTK warns that the toolkit comes too late to keep it
     // from setting the locale.
     const wxImportCSVDialogPeer peer;
@@ -154,30 +139,13 @@ int run(int argc, char **argv) {
     MainWindow window(settings, inFolder(Glib::get_user_data_dir(), "reports"), !options.thenQuits,
                       options.acceptsGuesses);
 
-    // What the command line asks for, one after the other; the last may be to quit.
-    std::deque<std::function<void()>> requests;
-    const auto chooseTable = [&](const Table *otherwise) {
-        const Table *table = options.table.empty() ? otherwise : findTable(options.table);
-        if (table != nullptr) {
-            window.choose(*table);
-        }
+    const auto importNext = [&] {
+        const ImportSource source = options.sources.front();
+        options.sources.pop_front();
+        const std::string otherwise = source.path.empty() ? "collar" : source.path;
+        const Table *table = options.table.empty() ? tableFor(otherwise) : findTable(options.table);
+        window.importFrom(source, table);
     };
-    for (const std::string &path : options.files) {
-        requests.emplace_back([&, path] {
-            chooseTable(tableFor(path));
-            window.importFile(path);
-        });
-    }
-    if (!options.source.empty()) {
-        requests.emplace_back([&] {
-            chooseTable(findTable("collar"));
-            window.importTable(options.source, options.sourceTable);
-        });
-    }
-    if (options.thenQuits) {
-        requests.emplace_back([&] { window.hide(); });
-    }
-
     bool areDone = true;
     sigc::connection atRest;
     atRest = window.signalAtRest().connect([&](const ImportRecord *ended) {
@@ -185,11 +153,13 @@ int run(int argc, char **argv) {
             print(ended->fault.empty() ? std::cout : std::cerr, *ended);
             areDone = areDone && ended->isDone();
         }
-        if (requests.empty()) {
-            atRest.disconnect(); // what follows is the user's own
-        } else {
-            Glib::signal_idle().connect_once(requests.front());
-            requests.pop_front();
+        if (!options.sources.empty()) {
+            Glib::signal_idle().connect_once(importNext);
+            return;
+        }
+        atRest.disconnect(); // what follows is the user's own
+        if (options.thenQuits) {
+            Glib::signal_idle().connect_once([&] { window.hide(); });
         }
     });
     window.open(options.database);

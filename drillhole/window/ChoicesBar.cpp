@@ -4,8 +4,6 @@
 
 #include "drillhole/rows/text.h"
 
-#include <gtkmm/label.h>
-
 namespace drillhole {
 
 ChoicesBar::ChoicesBar(Settings &settings)
@@ -21,20 +19,22 @@ ChoicesBar::ChoicesBar(Settings &settings)
     m_decimalMark.append("comma", "comma");
     m_noValue.set_placeholder_text("words, such as NA, n/a, -, -9999");
     m_noValue.set_hexpand();
-    const auto add = [this](const char *text, Gtk::Widget &control) {
+    const auto add = [this](const char *text, auto &control, const char *key,
+                            const Glib::PropertyProxy<Glib::ustring> &choice) {
         auto *label = Gtk::make_managed<Gtk::Label>(text, true);
         label->set_mnemonic_widget(control);
         pack_start(*label, Gtk::PACK_SHRINK);
         pack_start(control);
+        control.signal_changed().connect([this, key, choice] {
+            if (m_table != nullptr) {
+                m_settings.keep(m_table->name, key, {choice.get_value()});
+            }
+        });
     };
-    add("_Below detection (<0.01)", m_belowDetection);
-    add("_No value", m_noValue);
-    add("_Decimal mark", m_decimalMark);
-    m_belowDetection.signal_changed().connect(
-        [this] { keep("below detection", m_belowDetection.get_active_id()); });
-    m_noValue.signal_changed().connect([this] { keep("no value", m_noValue.get_text()); });
-    m_decimalMark.signal_changed().connect(
-        [this] { keep("decimal mark", m_decimalMark.get_active_id()); });
+    add("_Below detection (<0.01)", m_belowDetection, "below detection",
+        m_belowDetection.property_active_id());
+    add("_No value", m_noValue, "no value", m_noValue.property_text());
+    add("_Decimal mark", m_decimalMark, "decimal mark", m_decimalMark.property_active_id());
 }
 
 void ChoicesBar::show(const Table &table) {
@@ -51,12 +51,6 @@ ValueChoices ChoicesBar::choices() const {
     return {static_cast<BelowDetection>(m_belowDetection.get_active_row_number()),
             listOf(m_noValue.get_text()),
             static_cast<DecimalMark>(m_decimalMark.get_active_row_number())};
-}
-
-void ChoicesBar::keep(const char *key, const std::string &choice) {
-    if (m_table != nullptr) {
-        m_settings.keep(m_table->name, key, {choice});
-    }
 }
 
 } // namespace drillhole

@@ -5,9 +5,7 @@
 #include "drillhole/rows/RowCheck.h"
 #include "drillhole/window/Settings.h"
 
-#include <gtkmm/box.h>
-#include <gtkmm/comboboxtext.h>
-#include <gtkmm/entry.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 
@@ -23,8 +21,6 @@ public:
     ValueChoices choices() const;
 
 private:
-    void keep(const char *key, const std::string &choice);
-
     Settings &m_settings;
     const Table *m_table = nullptr; // null while its choices are put in
     Gtk::ComboBoxText m_belowDetection;

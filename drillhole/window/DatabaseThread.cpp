@@ -6,6 +6,8 @@
 
 #include <utility>
 
+#include <glibmm/main.h>
+
 namespace drillhole {
 
 using Work = std::function<void()>;
@@ -27,10 +29,13 @@ void DatabaseThread::drop() {
     }
 }
 
-void DatabaseThread::start(
-    std::function<void(const std::function<std::string(Task)> &)> work) const {
-    const auto perform = [&open = m_open, connection = m_connection,
-                          database = m_database](const Task &task) -> std::string {
+void DatabaseThread::start(const Task &task, const Tell &done) const {
+    const auto perform = [&open = m_open, connection = m_connection, database = m_database, task,
+                          done] {
+        if (database->isDropped) {
+            return;
+        }
+        std::string fault;
         try {
             inPlainWords(connection, [&] {
                 if (!database->session) {
@@ -38,18 +43,17 @@ void DatabaseThread::start(
                 }
                 task(*database->session);
             });
-            return {};
         } catch (const std::exception &error) {
             database->session.reset();
-            return error.what();
+            fault = error.what();
         }
+        Glib::signal_idle().connect_once([=] {
+            if (!database->isDropped) {
+                done(fault);
+            }
+        });
     };
-    const auto unlessDropped = [database = m_database, perform, work = std::move(work)] {
-        if (!database->isDropped) {
-            work(perform);
-        }
-    };
-    g_thread_pool_push(m_pool, new Work(unlessDropped), nullptr);
+    g_thread_pool_push(m_pool, new Work(perform), nullptr);
 }
 
 } // namespace drillhole

@@ -7,7 +7,7 @@
 #include <atomic>
 #include <functional>
 
-#include <glibmm/main.h>
+#include <glib.h>
 
 namespace drillhole {
 
@@ -42,17 +42,9 @@ public:
     /// all went well. The work owns, or shares, all that it uses.
     template <typename Work, typename Done>
     void run(Work work, Done done) {
-        using Result = std::invoke_result_t<Work, soci::session &>;
-        start([=, database = m_database](const std::function<std::string(Task)> &perform) {
-            Result result;
-            const std::string fault =
-                perform([&](soci::session &session) { result = work(session); });
-            Glib::signal_idle().connect_once([=] {
-                if (!database->isDropped) {
-                    done(result, fault);
-                }
-            });
-        });
+        const auto result = std::make_shared<std::invoke_result_t<Work, soci::session &>>();
+        start([=](soci::session &session) { *result = work(session); },
+              [=](const std::string &fault) { done(*result, fault); });
     }
 
     /// The same with `done(result)` for what went well; a fault is told the user.
@@ -70,8 +62,7 @@ private:
         std::atomic<bool> isDropped{false};
     };
 
-    /// @param work  gets what performs a task on the open database, and gives the fault
-    void start(std::function<void(const std::function<std::string(Task)> &)> work) const;
+    void start(const Task &task, const Tell &done) const;
 
     Open &m_open;
     Tell m_tellFault;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <iterator>
 #include <map>
 #include <ostream>
 
@@ -106,8 +107,7 @@ std::string summaryOf(const ImportRecord &record) {
 std::vector<Remark> remarksOf(const ImportOutcome &outcome, std::size_t mostRefused) {
     std::vector<Remark> remarks = outcome.remarks;
     const std::size_t count = std::min(outcome.firstRefused.size(), mostRefused);
-    const auto first = outcome.firstRefused.begin();
-    remarks.insert(remarks.end(), first, first + static_cast<std::ptrdiff_t>(count));
+    std::copy_n(outcome.firstRefused.begin(), count, std::back_inserter(remarks));
     if (count < outcome.refused) {
         remarks.push_back({{}, countOf(outcome.refused - count, "more row") + " in the report"});
     }
@@ -124,9 +124,8 @@ void print(std::ostream &out, const ImportRecord &record) {
             << "first line holds titles: " << (match.firstLineHoldsTitles ? "yes" : "no") << '\n';
     }
     for (std::size_t i = 0; i < match.names.size(); ++i) {
-        const bool isGuess = !match.areGuesses.empty() && match.areGuesses[i];
         out << record.table->columns[i].name << '\t' << match.names[i]
-            << (isGuess ? "\ta guess: similar names" : "") << '\n';
+            << (match.areGuesses[i] ? "\ta guess: similar names" : "") << '\n';
     }
     if (!record.fault.empty()) {
         out << record.fault << '\n';

@@ -9,23 +9,20 @@
 #include "drillhole/window/MatchDialog.h"
 #include "drillhole/window/SourceDialog.h"
 
-#include <giomm/file.h>
-#include <giomm/menu.h>
-#include <glibmm/convert.h>
-#include <glibmm/main.h>
-#include <glibmm/miscutils.h>
-#include <gtkmm/filechoosernative.h>
-#include <gtkmm/frame.h>
-#include <gtkmm/menubutton.h>
-#include <gtkmm/messagedialog.h>
-#include <gtkmm/paned.h>
-#include <gtkmm/stackswitcher.h>
-
 namespace drillhole {
+
+namespace {
 
 constexpr int spacing = 8;
 constexpr unsigned int progressInterval = 50; // milliseconds
 constexpr unsigned int patience = 1000;       // milliseconds: for a cancelled import to end
+
+template <typename... Widgets>
+void addTo(Gtk::Box &box, Widgets &...widgets) {
+    (box.add(widgets), ...);
+}
+
+} // namespace
 
 MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool isAttended,
                        bool acceptsGuesses)
@@ -36,16 +33,38 @@ MainWindow::MainWindow(Settings &settings, const std::string &reportFolder, bool
       m_replace("_Replace the rows that are there", true), m_choices(settings),
       m_progressLine(Gtk::ORIENTATION_HORIZONTAL, spacing) {
     set_default_size(1120, 720);
-    m_controls.pack_start(createToolbar(), Gtk::PACK_SHRINK);
-    m_controls.pack_start(m_choices, Gtk::PACK_SHRINK);
+    addTo(m_controls, createToolbar(), m_choices);
+
+    m_faultBar.set_message_type(Gtk::MESSAGE_ERROR);
+    m_faultBar.set_show_close_button();
+    m_faultBar.signal_response().connect([this](int) { m_faultBar.hide(); });
+    m_fault.set_line_wrap();
+    m_fault.set_xalign(0);
+    m_fault.set_selectable();
+    dynamic_cast<Gtk::Container *>(m_faultBar.get_content_area())->add(m_fault);
+
+    auto *frame = Gtk::make_managed<Gtk::Frame>();
+    frame->add(m_plan);
+    auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
+    both->pack1(m_tables, true, false);
+    both->pack2(*frame, true, false);
+    both->set_position(660);
+    both->set_vexpand();
+
+    auto *cancelButton = Gtk::make_managed<Gtk::Button>("_Cancel", true);
+    cancelButton->signal_clicked().connect([this] { cancel(); });
+    m_progressBar.set_show_text();
+    m_progressBar.set_valign(Gtk::ALIGN_CENTER);
+    m_progressBar.set_hexpand();
+    addTo(m_progressLine, m_progressBar, *cancelButton);
+
     auto *all = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
     all->property_margin() = 12;
-    all->pack_start(m_controls, Gtk::PACK_SHRINK);
-    all->pack_start(createFaultBar(), Gtk::PACK_SHRINK);
-    all->pack_start(createBody(), Gtk::PACK_EXPAND_WIDGET);
-    all->pack_start(createProgressLine(), Gtk::PACK_SHRINK);
+    addTo(*all, m_controls, m_faultBar, *both, m_report, m_progressLine);
     add(*all);
     show_all_children();
+    m_faultBar.hide();
+    m_progressLine.hide();
 }
 
 void MainWindow::open(const std::string &connection) {
@@ -54,25 +73,25 @@ void MainWindow::open(const std::string &connection) {
     m_isOpen = false;
     m_holes.use(connection);
     m_holes.run(collarsOf, [this](const std::vector<Collar> &collars, const std::string &fault) {
-        if (!fault.empty() && m_isAttended) {
+        if (!fault.empty()) {
             chooseDatabase(fault);
             return;
         }
-        m_isOpen = fault.empty();
-        if (m_isOpen) {
-            m_plan.show(collars);
-            for (RowGrid *grid : m_grids) {
-                grid->refresh(false);
-            }
-        } else {
-            showFault(fault);
+        m_isOpen = true;
+        m_plan.show(collars);
+        for (Gtk::Widget *each : m_tables.get_children()) {
+            dynamic_cast<RowGrid &>(*each).refresh(false);
         }
         m_signalAtRest.emit(nullptr);
     });
 }
 
 void MainWindow::chooseDatabase(const std::string &message) {
-    if (const auto chosen = chooseSource(*this, SourceKind::holes, m_holes.connection(), message)) {
+    std::optional<ImportSource> chosen;
+    if (m_isOpen || m_isAttended) {
+        chosen = chooseSource(*this, SourceKind::holes, m_holes.connection(), message);
+    }
+    if (chosen) {
         open(chosen->connection);
     } else if (!m_isOpen) {
         showFault(message);
@@ -80,31 +99,31 @@ void MainWindow::chooseDatabase(const std::string &message) {
     }
 }
 
-void MainWindow::choose(const Table &table) {
-    m_tables.set_visible_child(table.name);
-}
-
 RowGrid &MainWindow::grid() {
-    return *dynamic_cast<RowGrid *>(m_tables.get_visible_child());
+    return dynamic_cast<RowGrid &>(*m_tables.get_visible_child());
 }
 
 void MainWindow::chooseFile() {
     const auto chooser = Gtk::FileChooserNative::create("Choose a File to Import", *this,
                                                         Gtk::FILE_CHOOSER_ACTION_OPEN, {}, {});
     if (chooser->run() == Gtk::RESPONSE_ACCEPT) {
-        importFile(chooser->get_filename());
+        importFrom({chooser->get_filename(), {}, {}});
     }
 }
 
-void MainWindow::importFile(const std::string &path) {
-    begin({path, {}, {}});
-    match({});
-}
-
-void MainWindow::importTable(const std::string &connection, const std::string &table) {
-    begin({{}, connection, table});
-    if (table.empty()) {
-        const auto chosen = chooseSource(*this, SourceKind::table, connection,
+void MainWindow::importFrom(const ImportSource &source, const Table *table) {
+    if (table != nullptr) {
+        m_tables.set_visible_child(table->name);
+    }
+    m_faultBar.hide();
+    m_controls.set_sensitive(false);
+    m_record = {&grid().table(), source, {}, {}, {}};
+    if (!source.path.empty()) {
+        match({});
+        return;
+    }
+    if (source.table.empty()) {
+        const auto chosen = chooseSource(*this, SourceKind::table, source.connection,
                                          "Choose an SQLite file, or type how to reach a database, "
                                          "and connect to see its tables.");
         if (!chosen) {
@@ -119,30 +138,21 @@ void MainWindow::importTable(const std::string &connection, const std::string &t
     m_progressLine.show();
     m_source.use(m_record.source.connection);
     m_source.run(
-        [name = m_record.source.table](soci::session &source) {
-            return columnNames(source, nameInQuery(source, name));
+        [name = m_record.source.table](soci::session &database) {
+            return columnNames(database, nameInQuery(database, name));
         },
         [this](const std::vector<std::string> &columns, const std::string &fault) {
             m_progressLine.hide();
             m_record.fault = fault;
-            match(columns);
+            fault.empty() ? match(columns) : end();
         });
-}
-
-void MainWindow::begin(const ImportSource &source) {
-    m_faultBar.hide();
-    m_controls.set_sensitive(false);
-    m_record = ImportRecord();
-    m_record.table = &grid().table();
-    m_record.source = source;
 }
 
 void MainWindow::match(const std::vector<std::string> &columns) {
     try {
-        if (m_record.fault.empty()) {
-            m_record.match =
-                matchColumns(*this, m_settings, *m_record.table, m_record.source, columns);
-            settleDoubts();
+        m_record.match = matchColumns(*this, m_settings, *m_record.table, m_record.source, columns);
+        if (m_record.match && !settlesDoubts(*m_record.match)) {
+            m_record.match.reset();
         }
     } catch (const Fault &fault) {
         m_record.fault = fault.what();
@@ -155,23 +165,27 @@ void MainWindow::match(const std::vector<std::string> &columns) {
     }
 }
 
-void MainWindow::settleDoubts() {
-    if (!m_record.match) {
-        return;
-    }
-    const std::string guesses = requiredGuesses(*m_record.table, *m_record.match);
+/// Whether the rows are to be imported so. Throws a Fault if nobody is there to be asked.
+bool MainWindow::settlesDoubts(Match &match) {
+    const std::string guesses = requiredGuesses(*m_record.table, match);
     if (!m_isAttended && !m_acceptsGuesses && !guesses.empty()) {
         throw Fault("Only similar names were found: " + guesses +
                     ". Give --accept-guesses to import it so.");
     }
-    const std::string doubts = doubtsAbout(*m_record.table, *m_record.match);
+    const std::string doubts = doubtsAbout(*m_record.table, match);
     if (!m_isAttended && !doubts.empty()) {
         throw Fault(doubts + "Import it without --then-quit to be asked.");
     }
-    m_record.match->factors = unitFactors(*m_record.table, *m_record.match);
-    if (!doubts.empty() && !agreesTo(doubts + "Import it so?", "_Don't Import", "_Import")) {
-        m_record.match.reset();
-    }
+    match.factors = unitFactors(*m_record.table, match);
+    return doubts.empty() || agreesTo(doubts + "Import it so?", "_Don't Import", "_Import");
+}
+
+bool MainWindow::agreesTo(const std::string &question, const char *no, const char *yes) {
+    Gtk::MessageDialog dialog(*this, question, false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_NONE,
+                              true);
+    dialog.add_button(no, Gtk::RESPONSE_CANCEL);
+    dialog.add_button(yes, Gtk::RESPONSE_OK);
+    return dialog.run() == Gtk::RESPONSE_OK;
 }
 
 void MainWindow::start(Replace replace) {
@@ -207,40 +221,26 @@ void MainWindow::start(Replace replace) {
         });
 }
 
-bool MainWindow::agreesTo(const std::string &question, const char *no, const char *yes) {
-    Gtk::MessageDialog dialog(*this, question, false, Gtk::MESSAGE_QUESTION, Gtk::BUTTONS_NONE,
-                              true);
-    dialog.add_button(no, Gtk::RESPONSE_CANCEL);
-    dialog.add_button(yes, Gtk::RESPONSE_OK);
-    return dialog.run() == Gtk::RESPONSE_OK;
-}
-
 void MainWindow::cancel() {
-    if (m_progress) {
-        m_progress->isCancelled = true;
-        Glib::signal_timeout().connect_once(
-            [this, progress = m_progress] {
-                if (progress == m_progress) {
-                    giveUp();
-                }
-            },
-            patience);
-    } else { // the columns are still asked for
+    if (!m_progress) { // the columns are still asked for
         m_source.drop();
         end();
+        return;
     }
-}
-
-/// Leaves a database that is silent to itself: the next thing that is asked connects anew.
-void MainWindow::giveUp() {
-    m_record.fault =
-        m_progress->isCommitting
-            ? "The database was silent when its rows were to be kept. Whether they are is seen "
-              "once "
-              "it answers: look there before you import them again."
-            : "The database is silent, and the connection was given up. Nothing was imported.";
-    m_holes.use(m_holes.connection());
-    end();
+    m_progress->isCancelled = true;
+    const auto giveUp = [this, progress = m_progress] {
+        if (progress != m_progress) {
+            return; // the import has ended
+        }
+        m_record.fault =
+            progress->isCommitting
+                ? "The database was silent when its rows were to be kept. Whether they are is seen "
+                  "once it answers: look there before you import them again."
+                : "The database is silent, and the connection was given up. Nothing was imported.";
+        m_holes.use(m_holes.connection()); // the next thing that is asked connects anew
+        end();
+    };
+    Glib::signal_timeout().connect_once(giveUp, patience);
 }
 
 void MainWindow::end() {
@@ -295,31 +295,24 @@ bool MainWindow::on_delete_event(GdkEventAny *) {
 
 Gtk::Widget &MainWindow::createToolbar() {
     for (const Table &table : holeTables()) {
-        auto *grid = Gtk::make_managed<RowGrid>(table, m_holes);
-        m_grids.push_back(grid);
-        m_tables.add(*grid, table.name, table.title);
-        grid->signalCounted().connect([this, grid](std::size_t count) {
-            m_tables.child_property_title(*grid) =
-                grid->table().title + " (" + grouped(count) + ')';
-        });
+        Gtk::make_managed<RowGrid>(m_tables, table, m_holes);
     }
     m_tables.property_visible_child().signal_changed().connect(
         [this] { m_choices.show(grid().table()); });
     auto *tables = Gtk::make_managed<Gtk::StackSwitcher>();
     tables->set_stack(m_tables);
+    tables->set_hexpand();
+    tables->set_halign(Gtk::ALIGN_START);
     auto *file = Gtk::make_managed<Gtk::Button>("Import _File...", true);
     file->get_style_context()->add_class("suggested-action");
     file->signal_clicked().connect([this] { chooseFile(); });
     auto *source = Gtk::make_managed<Gtk::Button>("Import _Table...", true);
-    source->signal_clicked().connect(
-        [this] { importTable(m_settings.text("source", "connection"), {}); });
+    source->signal_clicked().connect([this] {
+        importFrom({{}, m_settings.text("source", "connection"), {}});
+    });
 
     auto *toolbar = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_HORIZONTAL, spacing);
-    toolbar->pack_start(*tables, Gtk::PACK_SHRINK);
-    toolbar->pack_end(createMenuButton(), Gtk::PACK_SHRINK);
-    toolbar->pack_end(*file, Gtk::PACK_SHRINK);
-    toolbar->pack_end(*source, Gtk::PACK_SHRINK);
-    toolbar->pack_end(m_replace, Gtk::PACK_SHRINK);
+    addTo(*toolbar, *tables, m_replace, *source, *file, createMenuButton());
     return *toolbar;
 }
 
@@ -339,44 +332,6 @@ Gtk::Widget &MainWindow::createMenuButton() {
     button->set_use_popover(false);
     button->set_menu_model(menu);
     return *button;
-}
-
-Gtk::Widget &MainWindow::createFaultBar() {
-    m_faultBar.set_message_type(Gtk::MESSAGE_ERROR);
-    m_faultBar.set_show_close_button();
-    m_faultBar.signal_response().connect([this](int) { m_faultBar.hide(); });
-    m_fault.set_line_wrap();
-    m_fault.set_xalign(0);
-    m_fault.set_selectable();
-    m_fault.show();
-    dynamic_cast<Gtk::Container *>(m_faultBar.get_content_area())->add(m_fault);
-    m_faultBar.set_no_show_all();
-    return m_faultBar;
-}
-
-Gtk::Widget &MainWindow::createBody() {
-    auto *frame = Gtk::make_managed<Gtk::Frame>();
-    frame->add(m_plan);
-    auto *both = Gtk::make_managed<Gtk::Paned>(Gtk::ORIENTATION_HORIZONTAL);
-    both->pack1(m_tables, true, false);
-    both->pack2(*frame, true, false);
-    both->set_position(660);
-    auto *body = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_VERTICAL, spacing);
-    body->pack_start(*both, Gtk::PACK_EXPAND_WIDGET);
-    body->pack_start(m_report, Gtk::PACK_SHRINK);
-    return *body;
-}
-
-Gtk::Widget &MainWindow::createProgressLine() {
-    auto *cancelButton = Gtk::make_managed<Gtk::Button>("_Cancel", true);
-    cancelButton->signal_clicked().connect([this] { cancel(); });
-    m_progressBar.set_show_text();
-    m_progressBar.set_valign(Gtk::ALIGN_CENTER);
-    m_progressLine.pack_start(m_progressBar, Gtk::PACK_EXPAND_WIDGET);
-    m_progressLine.pack_start(*cancelButton, Gtk::PACK_SHRINK);
-    m_progressLine.show_all_children();
-    m_progressLine.set_no_show_all();
-    return m_progressLine;
 }
 
 } // namespace drillhole

@@ -9,12 +9,7 @@
 #include "drillhole/window/ReportPane.h"
 #include "drillhole/window/RowGrid.h"
 
-#include <giomm/simpleaction.h>
-#include <gtkmm/applicationwindow.h>
-#include <gtkmm/checkbutton.h>
-#include <gtkmm/infobar.h>
-#include <gtkmm/progressbar.h>
-#include <gtkmm/stack.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 
@@ -37,23 +32,16 @@ public:
     /// given up, and there is none to tell of.
     sigc::signal<void, const ImportRecord *> &signalAtRest() { return m_signalAtRest; }
 
-    /// Chooses the table that is shown and imported into.
-    void choose(const Table &table);
-
     /// Runs the dialog and then the import, which goes on after the call.
-    void importFile(const std::string &path);
-
-    /// The same for a table in another database.
     ///
-    /// @param table  empty to let the user choose one, and another database if need be
-    void importTable(const std::string &connection, const std::string &table);
+    /// @param source  if it is neither a file nor names a table, the user chooses one, and another
+    ///                database if need be
+    /// @param table   where to, which is shown from then on; null for the one that is shown
+    void importFrom(const ImportSource &source, const Table *table = nullptr);
 
 private:
     Gtk::Widget &createToolbar();
     Gtk::Widget &createMenuButton();
-    Gtk::Widget &createBody();
-    Gtk::Widget &createFaultBar();
-    Gtk::Widget &createProgressLine();
 
     RowGrid &grid(); ///< of the table that is shown
     void chooseFile();
@@ -61,13 +49,11 @@ private:
     void exportRefused();
 
     // An import, from its begin to its end.
-    void begin(const ImportSource &source);
     void match(const std::vector<std::string> &columns);
-    void start(Replace replace);
+    bool settlesDoubts(Match &match);
     bool agreesTo(const std::string &question, const char *no, const char *yes);
-    void settleDoubts();
+    void start(Replace replace);
     void cancel();
-    void giveUp();
     void end();
 
     void showFault(const std::string &fault);
@@ -90,8 +76,7 @@ private:
     Glib::RefPtr<Gio::SimpleAction> m_export;
     Gtk::InfoBar m_faultBar;
     Gtk::Label m_fault;
-    Gtk::Stack m_tables;
-    std::vector<RowGrid *> m_grids; ///< in it, one for each table
+    Gtk::Stack m_tables; ///< a RowGrid for each
     PlanView m_plan;
     ReportPane m_report;
     Gtk::Box m_progressLine;

@@ -72,14 +72,10 @@ bool has(const std::vector<std::string> &names, const std::string &name) {
     return !name.empty() && std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Opens the dialog as it was left for a source with the same titles; or else with the kept matches
-/// that the source has, and a proposal for the rest. Gives the guesses in that.
-std::vector<bool> openAsKept(const Settings &settings, const std::string &group,
-                             columnimport_import *import) {
-    if (columnimport_propose(import) != columnimport_ok) {
-        return {};
-    }
-    const Match proposal = matchOf(import);
+/// Has the dialog open as it was left for a source with the same titles; or else with the kept
+/// matches that the source has, and the proposal for the rest. Gives the guesses in that.
+std::vector<bool> openAsKept(columnimport_import *import, const Match &proposal,
+                             const Settings &settings, const std::string &group) {
     std::vector<std::string> kept = settings.texts(group, "matches");
     kept.resize(proposal.names.size());
     const bool isSameSource = settings.texts(group, "titles of the source") == proposal.columns;
@@ -104,35 +100,17 @@ std::string groupFor(const Table &table, const ImportSource &source) {
     return table.name + (source.path.empty() ? " from table" : " from file");
 }
 
-/// The file, or a copy of its head if something stands in front of the titles, as the dialog reads
-/// those from the first line.
-class DialogFile {
-public:
-    explicit DialogFile(const std::string &path) : m_path(path) {
-        const CsvFile file(path, ',');
-        delimiter = file.preamble().delimiter;
-        if (file.preamble().lineCount > 0) {
-            close(Glib::file_open_tmp(m_copy, "drillhole"));
-            Glib::file_set_contents(m_copy, file.head());
-            m_path = m_copy;
-        }
+/// Makes the file the source; or a copy of its head if something stands in front of the titles, as
+/// the dialog reads those from the first line. Gives the path of the copy.
+std::string setFile(columnimport_import *import, const CsvFile &file, const std::string &path) {
+    std::string copy;
+    if (file.preamble().lineCount > 0) {
+        close(Glib::file_open_tmp(copy, "drillhole"));
+        Glib::file_set_contents(copy, file.head());
     }
-    ~DialogFile() {
-        if (!m_copy.empty()) {
-            std::remove(m_copy.c_str());
-        }
-    }
-    DialogFile(const DialogFile &) = delete;
-    DialogFile &operator=(const DialogFile &) = delete;
-
-    std::string path() const { return Glib::filename_to_utf8(m_path); }
-
-    std::optional<char> delimiter; ///< that the file names
-
-private:
-    std::string m_path;
-    std::string m_copy;
-};
+    columnimport_set_file(import, Glib::filename_to_utf8(copy.empty() ? path : copy).c_str());
+    return copy;
+}
 
 } // namespace
 
@@ -145,18 +123,17 @@ std::optional<Match> matchColumns(Gtk::Window &owner, const Settings &settings, 
         importInto(table, isFile ? std::string(Glib::filename_display_basename(source.path))
                                  : "table " + source.table);
     columnimport_import *import = owned.get();
-    std::optional<DialogFile> file;
+    std::string copy;
     std::optional<FileStamp> stamp;
     if (isFile) {
-        stamp = stampOf(source.path);
+        const CsvFile file(source.path, ',');
+        stamp = file.stamp();
+        copy = setFile(import, file, source.path);
         const std::string kept = settings.text(group, "delimiter");
-        file.emplace(source.path);
-        columnimport_set_file(import, file->path().c_str());
         const std::int32_t likely = columnimport_likely_delimiter(import);
-        const char delimiter = likely >= 0    ? static_cast<char>(likely)
-                               : kept.empty() ? ','
-                                              : kept[0];
-        columnimport_set_delimiter(import, file->delimiter.value_or(delimiter));
+        const char usual = kept.empty() ? ',' : kept[0];
+        const char delimiter = likely >= 0 ? static_cast<char>(likely) : usual;
+        columnimport_set_delimiter(import, file.preamble().delimiter.value_or(delimiter));
         columnimport_set_first_line_holds_titles(import, settings.text(group, "titles") != "no");
     } else {
         std::vector<const char *> names;
@@ -167,31 +144,32 @@ std::optional<Match> matchColumns(Gtk::Window &owner, const Settings &settings, 
         columnimport_set_table(import, names.data(), nullptr,
                                static_cast<std::int32_t>(names.size()));
     }
-    const std::vector<bool> guesses = openAsKept(settings, group, import);
-    switch (columnimport_show(import, owner.gobj())) {
-    case columnimport_ok:
-        break;
-    case columnimport_cancelled:
+    std::vector<bool> guesses;
+    std::int32_t outcome = columnimport_propose(import);
+    if (outcome == columnimport_ok) {
+        guesses = openAsKept(import, matchOf(import), settings, group);
+        outcome = columnimport_show(import, owner.gobj());
+    }
+    std::remove(copy.c_str());
+    if (outcome == columnimport_cancelled) {
         return std::nullopt;
-    default:
+    }
+    if (outcome != columnimport_ok) {
         throw Fault(std::string("The dialog can't be shown. ") + columnimport_message(import));
     }
     Match match = matchOf(import);
     match.stamp = stamp;
-    for (std::size_t i = 0; i < match.positions.size(); ++i) {
-        const bool isMatched =
-            columnimport_match_position(import, static_cast<std::int32_t>(i)) >= 0;
-        if (isMatched && !match.positions[i]) {
+    match.delimiter = isFile ? match.delimiter : '\0';
+    for (std::size_t i = 0; i < guesses.size(); ++i) {
+        const auto column = static_cast<std::int32_t>(i);
+        if (columnimport_match_position(import, column) >= 0 && !match.positions[i]) {
             throw Fault("The first line has quotes by which nobody can tell the field of " +
                         match.names[i] + ". Correct them and import the file again.");
         }
-    }
-    for (std::size_t i = 0; i < guesses.size(); ++i) {
-        const bool isAsOpened = columnimport_match_origin(import, static_cast<std::int32_t>(i)) ==
-                                columnimport_origin_saved;
+        const bool isAsOpened =
+            columnimport_match_origin(import, column) == columnimport_origin_saved;
         match.areGuesses[i] = match.areGuesses[i] || (isAsOpened && guesses[i]);
     }
-    match.delimiter = isFile ? match.delimiter : '\0';
     return match;
 }
 

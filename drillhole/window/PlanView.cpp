@@ -2,15 +2,10 @@
 
 #include "drillhole/window/PlanView.h"
 
-#include "drillhole/window/planScale.h"
-
 #include <algorithm>
 #include <cmath>
 #include <iomanip>
 #include <utility>
-
-#include <cairomm/region.h>
-#include <gtkmm/tooltip.h>
 
 namespace drillhole {
 
@@ -53,8 +48,8 @@ public:
         m_free->subtract(boxAt(left - gap, top, width + 2 * gap, height));
     }
 
-    void draw(const std::vector<Collar> &collars) {
-        m_scale = planScale(collars, m_width, m_height, margin);
+    void draw(const std::vector<Collar> &collars, const PlanScale &scale) {
+        m_scale = scale;
         drawGrid();
         drawCollars(collars);
         drawScaleBar();
@@ -66,11 +61,14 @@ private:
         m_picture->set_source_rgba(ink.get_red(), ink.get_green(), ink.get_blue(), strength);
     }
 
-    void drawLine(double x, double y, double endX, double endY) {
-        useInk(veryFaint);
-        m_picture->set_line_width(1);
-        m_picture->move_to(x, y);
-        m_picture->line_to(endX, endY);
+    void drawLine(std::initializer_list<std::pair<double, double>> points, double width,
+                  double strength) {
+        useInk(strength);
+        m_picture->set_line_width(width);
+        m_picture->begin_new_path();
+        for (const auto &[x, y] : points) {
+            m_picture->line_to(x, y);
+        }
         m_picture->stroke();
     }
 
@@ -81,12 +79,12 @@ private:
         for (int i = 0; i < count; ++i) {
             const double easting = (std::ceil(m_scale.west / step) + i) * step;
             const double x = std::floor(m_scale.x(easting)) + 0.5;
-            drawLine(x, 0, x, m_height);
+            drawLine({{x, 0}, {x, m_height}}, 1, veryFaint);
             write(x + 4, 2, coordinate(easting) + " E", faint);
 
             const double northing = (std::floor(m_scale.north / step) - i) * step;
             const double y = std::floor(m_scale.y(northing)) + 0.5;
-            drawLine(0, y, m_width, y);
+            drawLine({{0, y}, {m_width, y}}, 1, veryFaint);
             if (y < m_height - scaleBarHeight) {
                 write(4, y + 2, coordinate(northing) + " N", faint);
             }
@@ -149,13 +147,7 @@ private:
         const double left = 14;
         const double bottom = m_height - 14;
         const double right = left + length * m_scale.pixelsPerUnit;
-        useInk(1);
-        m_picture->set_line_width(2);
-        m_picture->move_to(left, bottom - 5);
-        m_picture->line_to(left, bottom);
-        m_picture->line_to(right, bottom);
-        m_picture->line_to(right, bottom - 5);
-        m_picture->stroke();
+        drawLine({{left, bottom - 5}, {left, bottom}, {right, bottom}, {right, bottom - 5}}, 2, 1);
         write(right + 6, bottom - 14, coordinate(length) + " m");
     }
 
@@ -172,10 +164,7 @@ private:
 PlanView::PlanView() {
     set_size_request(280, 200);
     set_has_tooltip();
-    signal_query_tooltip().connect(
-        [this](int x, int y, bool, const Glib::RefPtr<Gtk::Tooltip> &tooltip) {
-            return tellHoles(x, y, tooltip);
-        });
+    signal_query_tooltip().connect(sigc::mem_fun(*this, &PlanView::tellHoles));
     get_style_context()->add_class("view"); // the ground of the theme
 }
 
@@ -189,21 +178,19 @@ bool PlanView::on_draw(const Cairo::RefPtr<Cairo::Context> &picture) {
     if (m_collars.empty()) {
         drawing.write(20, 20, "Imported collars show here, seen from above.", faint);
     } else {
-        drawing.draw(m_collars);
+        m_scale = planScale(m_collars, get_allocated_width(), get_allocated_height(), margin);
+        drawing.draw(m_collars, m_scale);
     }
     return true;
 }
 
-bool PlanView::tellHoles(int x, int y, const Glib::RefPtr<Gtk::Tooltip> &tooltip) const {
-    if (m_collars.empty()) {
-        return false;
-    }
-    const PlanScale scale =
-        planScale(m_collars, get_allocated_width(), get_allocated_height(), margin);
+bool PlanView::tellHoles(int x, int y, bool /*isByKeyboard*/,
+                         const Glib::RefPtr<Gtk::Tooltip> &tooltip) const {
     std::string tip;
     std::size_t count = 0;
     for (const Collar &collar : m_collars) {
-        const double away = std::hypot(scale.x(collar.easting) - x, scale.y(collar.northing) - y);
+        const double away =
+            std::hypot(m_scale.x(collar.easting) - x, m_scale.y(collar.northing) - y);
         if (away <= reach && count++ < namesInTip) {
             tip += (tip.empty() ? "" : "\n") + collar.name + "   " + coordinate(collar.easting) +
                    " E   " + coordinate(collar.northing) + " N";

@@ -2,9 +2,9 @@
 
 #pragma once
 
-#include "drillhole/database/holeDatabase.h"
+#include "drillhole/window/planScale.h"
 
-#include <gtkmm/drawingarea.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 
@@ -18,9 +18,11 @@ public:
 
 private:
     bool on_draw(const Cairo::RefPtr<Cairo::Context> &picture) override;
-    bool tellHoles(int x, int y, const Glib::RefPtr<Gtk::Tooltip> &tooltip) const;
+    bool tellHoles(int x, int y, bool isByKeyboard,
+                   const Glib::RefPtr<Gtk::Tooltip> &tooltip) const;
 
     std::vector<Collar> m_collars;
+    PlanScale m_scale; // of the last drawing
 };
 
 } // namespace drillhole

@@ -2,9 +2,6 @@
 
 #include "drillhole/window/ReportPane.h"
 
-#include <giomm/appinfo.h>
-#include <glibmm/convert.h>
-
 namespace drillhole {
 
 ReportPane::ReportPane()
@@ -18,7 +15,13 @@ ReportPane::ReportPane()
     m_heading.set_ellipsize(Pango::ELLIPSIZE_MIDDLE);
     m_heading.set_text("Nothing imported yet in this session.");
     m_open.set_tooltip_text("All refused rows, with the fields as they were");
-    m_open.signal_clicked().connect([this] { openReport(); });
+    m_open.signal_clicked().connect([this] {
+        try {
+            Gio::AppInfo::launch_default_for_uri(Glib::filename_to_uri(m_report));
+        } catch (const Glib::Error &) {
+            m_heading.set_text("No program opens such files here. The report is " + m_report);
+        }
+    });
 
     auto *top = Gtk::make_managed<Gtk::Box>(Gtk::ORIENTATION_HORIZONTAL, 6);
     top->pack_start(m_heading, Gtk::PACK_EXPAND_WIDGET);
@@ -39,14 +42,6 @@ void ReportPane::show(const ImportRecord &record) {
     m_report = record.outcome.report;
     m_open.set_visible(!m_report.empty());
     m_scrolled.set_visible(m_rows.size() > 0);
-}
-
-void ReportPane::openReport() {
-    try {
-        Gio::AppInfo::launch_default_for_uri(Glib::filename_to_uri(m_report));
-    } catch (const Glib::Error &) {
-        m_heading.set_text("No program opens such files here. The report is " + m_report);
-    }
 }
 
 } // namespace drillhole

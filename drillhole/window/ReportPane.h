@@ -4,11 +4,7 @@
 
 #include "drillhole/window/ImportRecord.h"
 
-#include <gtkmm/box.h>
-#include <gtkmm/button.h>
-#include <gtkmm/label.h>
-#include <gtkmm/listviewtext.h>
-#include <gtkmm/scrolledwindow.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 
@@ -24,8 +20,6 @@ public:
     const std::string &file() const { return m_report; }
 
 private:
-    void openReport();
-
     Gtk::Label m_heading;
     Gtk::Button m_open;
     Gtk::ScrolledWindow m_scrolled;

@@ -6,14 +6,13 @@
 
 #include <algorithm>
 
-#include <gtkmm/button.h>
-
 namespace drillhole {
 
 constexpr std::size_t pageSize = 500;
 
-RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
-    : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_holes(holes), m_shown{&table, {}, {}, false},
+RowGrid::RowGrid(Gtk::Stack &tables, const Table &table, DatabaseThread &holes)
+    : Gtk::Box(Gtk::ORIENTATION_VERTICAL, 6), m_tables(tables),
+      m_holes(holes), m_shown{&table, {}, {}, false},
       m_view(static_cast<unsigned int>(table.columns.size())) {
     for (unsigned int i = 0; i < table.columns.size(); ++i) {
         addColumn(i, table.columns[i]);
@@ -44,6 +43,7 @@ RowGrid::RowGrid(const Table &table, DatabaseThread &holes)
     m_hole.signal_search_changed().connect([this] { refresh(false); });
     pager->pack_start(m_hole, Gtk::PACK_SHRINK);
     pack_start(*pager, Gtk::PACK_SHRINK);
+    tables.add(*this, table.name, table.title);
 }
 
 void RowGrid::addColumn(unsigned int number, const Column &column) {
@@ -75,7 +75,8 @@ void RowGrid::refresh(bool isAtEnd) {
                              view.hole.empty() ? all : rowCount(holes, *view.table, view.hole));
         },
         [this, isAtEnd](const auto &counts) {
-            m_signalCounted.emit(counts.first);
+            m_tables.child_property_title(*this) =
+                table().title + " (" + grouped(counts.first) + ')';
             m_count = counts.second;
             isAtEnd ? goToLast() : goToFirst();
         });
@@ -109,11 +110,7 @@ void RowGrid::goTo(const std::string &number) {
 
 void RowGrid::sortBy(std::size_t column) {
     const bool isSorted = m_shown.sortedBy == column;
-    if (isSorted && m_shown.descends) {
-        m_shown.sortedBy.reset();
-    } else {
-        m_shown.sortedBy = column;
-    }
+    m_shown.sortedBy = isSorted && m_shown.descends ? std::nullopt : std::optional(column);
     m_shown.descends = isSorted && !m_shown.descends;
     for (std::size_t i = 0; i < m_shown.table->columns.size(); ++i) {
         Gtk::TreeViewColumn *title = m_view.get_column(static_cast<int>(i));
@@ -124,25 +121,24 @@ void RowGrid::sortBy(std::size_t column) {
 }
 
 void RowGrid::load(const PagePlace &place, std::size_t first) {
-    m_holes.ask([view = m_shown,
-                 place](soci::session &holes) { return pageOf(holes, view, place, pageSize); },
-                [this, first](const Rows &rows) { showRows(rows, first); });
-}
-
-void RowGrid::showRows(const Rows &rows, std::size_t first) {
-    m_page = rows;
-    m_first = first;
-    m_view.clear_items();
-    for (const std::vector<std::string> &row : rows) {
-        const unsigned int shown = m_view.append();
-        for (unsigned int i = 1; i < row.size(); ++i) { // behind its key
-            m_view.set_text(shown, i - 1, row[i]);
+    const auto read = [view = m_shown, place](soci::session &holes) {
+        return pageOf(holes, view, place, pageSize);
+    };
+    m_holes.ask(read, [this, first](const auto &rows) {
+        m_page = rows;
+        m_first = first;
+        m_view.clear_items();
+        for (const std::vector<std::string> &row : rows) {
+            const unsigned int shown = m_view.append();
+            for (unsigned int i = 1; i < row.size(); ++i) {
+                m_view.set_text(shown, i - 1, row[i]);
+            }
         }
-    }
-    m_scrolled.get_vadjustment()->set_value(0);
-    m_place.set_text(rows.empty() ? "No rows"
-                                  : grouped(first + 1) + " to " + grouped(first + rows.size()) +
-                                        " of " + grouped(m_count));
+        m_scrolled.get_vadjustment()->set_value(0);
+        m_place.set_text(rows.empty() ? "No rows"
+                                      : grouped(first + 1) + " to " + grouped(first + rows.size()) +
+                                            " of " + grouped(m_count));
+    });
 }
 
 } // namespace drillhole

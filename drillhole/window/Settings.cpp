@@ -2,11 +2,9 @@
 
 #include "drillhole/window/Settings.h"
 
-#include <filesystem>
-#include <system_error>
-
+#include <glib/gstdio.h>
 #include <glibmm/error.h>
-#include <glibmm/fileutils.h>
+#include <glibmm/miscutils.h>
 #include <glibmm/stringutils.h>
 
 namespace drillhole {
@@ -45,10 +43,9 @@ void Settings::keep(const std::string &group, const char *key,
         escaped.emplace_back(Glib::strescape(each));
     }
     m_file.set_string_list(group, key, escaped);
-    std::error_code ignored; // writing the file says what is wrong there
-    std::filesystem::create_directories(std::filesystem::path(m_path).parent_path(), ignored);
+    g_mkdir_with_parents(Glib::path_get_dirname(m_path).c_str(), 0777);
     try {
-        Glib::file_set_contents(m_path, m_file.to_data());
+        m_file.save_to_file(m_path);
         m_complaint.clear();
     } catch (const Glib::Error &) {
         m_complaint =

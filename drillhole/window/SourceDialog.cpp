@@ -7,14 +7,7 @@
 #include "drillhole/database/sourceTables.h"
 #include "drillhole/window/DatabaseThread.h"
 
-#include <gtkmm/button.h>
-#include <gtkmm/dialog.h>
-#include <gtkmm/entry.h>
-#include <gtkmm/filechoosernative.h>
-#include <gtkmm/grid.h>
-#include <gtkmm/label.h>
-#include <gtkmm/listviewtext.h>
-#include <gtkmm/scrolledwindow.h>
+#include <gtkmm.h>
 
 namespace drillhole {
 

@@ -13,24 +13,24 @@ constexpr double leastExtent = 100;
 
 PlanScale planScale(const std::vector<Collar> &collars, double width, double height,
                     double margin) {
-    const auto [west, east] =
-        std::minmax_element(collars.begin(), collars.end(),
-                            [](const Collar &a, const Collar &b) { return a.easting < b.easting; });
-    const auto [south, north] =
-        std::minmax_element(collars.begin(), collars.end(), [](const Collar &a, const Collar &b) {
-            return a.northing < b.northing;
-        });
-    const auto scaleFor = [margin](double extent, double pixels) {
-        return extent > 0 ? std::max(pixels - 2 * margin, 1.0) / extent : HUGE_VAL;
+    const auto extent = [&collars](double Collar::*place) {
+        const auto [least, most] = std::minmax_element(
+            collars.begin(), collars.end(),
+            [place](const Collar &a, const Collar &b) { return a.*place < b.*place; });
+        return std::pair((*least).*place, (*most).*place);
     };
+    const auto scaleFor = [margin](double units, double pixels) {
+        return units > 0 ? std::max(pixels - 2 * margin, 1.0) / units : HUGE_VAL;
+    };
+    const auto [west, east] = extent(&Collar::easting);
+    const auto [south, north] = extent(&Collar::northing);
     PlanScale scale;
-    scale.pixelsPerUnit = std::min(scaleFor(east->easting - west->easting, width),
-                                   scaleFor(north->northing - south->northing, height));
+    scale.pixelsPerUnit = std::min(scaleFor(east - west, width), scaleFor(north - south, height));
     if (scale.pixelsPerUnit == HUGE_VAL) {
         scale.pixelsPerUnit = scaleFor(leastExtent, std::min(width, height));
     }
-    scale.west = (west->easting + east->easting) / 2 - width / 2 / scale.pixelsPerUnit;
-    scale.north = (south->northing + north->northing) / 2 + height / 2 / scale.pixelsPerUnit;
+    scale.west = (west + east) / 2 - width / 2 / scale.pixelsPerUnit;
+    scale.north = (south + north) / 2 + height / 2 / scale.pixelsPerUnit;
     return scale;
 }
 
