@@ -156,6 +156,8 @@ void MainWindow::match(const std::vector<std::string> &columns) {
         }
     } catch (const Fault &fault) {
         m_record.fault = fault.what();
+    } catch (const Glib::Error &error) { // the folder for temporary files is full, say
+        m_record.fault = error.what();
     }
     if (m_record.match && m_record.fault.empty()) {
         keepMatch(m_settings, *m_record.table, m_record.source, *m_record.match);
