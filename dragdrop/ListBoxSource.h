@@ -2,8 +2,8 @@
 
 #pragma once
 
+#include "dragdrop/FileEntries.h"
 #include "dragdrop/SecondClick.h"
-#include "dragdrop/UseMarks.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,7 +23,6 @@ namespace columnimport {
 class ListBoxSource : public wxListBox {
 public:
     ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
-    ~ListBoxSource() override;
 
     /// Calls `picked` with the text of each picked entry.
     void onPick(std::function<void(const wxString &text)> picked) { m_picked = std::move(picked); }
@@ -36,12 +35,12 @@ public:
 
     /// Puts check marks before the names at exactly these positions.
     void showUse(const std::unordered_set<std::int32_t> &used);
-    bool isUsed(unsigned row) const { return m_useMarks.isUsed(row); }
+    bool isUsed(unsigned row) const { return m_entries.isMarked(row); }
 
     const wxArrayString &names() const { return m_names; }
 
     /// Selects the entry `row`; the arrow keys continue from it.
-    void goTo(int row);
+    void goTo(int row) { m_entries.goTo(row); }
 
     /// The name of an entry.
     wxString GetString(unsigned row) const override;
@@ -53,7 +52,7 @@ private:
 
     std::function<void(const wxString &)> m_picked;
     wxArrayString m_names;
-    UseMarks m_useMarks;
+    FileEntries m_entries;
     SecondClick m_secondClick;
 };
 

@@ -10,6 +10,14 @@
 
 namespace columnimport {
 
+wxString rowsText(const wxString &first, std::size_t count) {
+    if (count == 1) {
+        return first;
+    }
+    const auto rows = static_cast<unsigned>(count);
+    return wxString::Format(translated("%s (%u row)", "%s (%u rows)", rows), first, rows);
+}
+
 ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                                const wxSize &size)
     : wxListCtrl(parent, id, position, size, wxLC_REPORT), m_marks(*this) {
@@ -20,11 +28,7 @@ ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &p
         m_secondClick.pressAgain(static_cast<int>(rowAt(event.GetPosition())));
         onLeftDown(event);
     });
-    // Otherwise the control selects rows with any button.
-    for (const auto &press :
-         {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
-        Bind(press, [](wxMouseEvent &) {});
-    }
+    ignoreOtherButtons(*this);
 }
 
 // Members bound to the delete event must outlive the rows, so the rows go first.
@@ -85,6 +89,11 @@ bool ListCtrlSource::isUnused(long row) const {
 
 bool ListCtrlSource::isGuess(long row) const {
     return m_origins[static_cast<std::size_t>(row)].origin == MatchOrigin::similar;
+}
+
+wxString ListCtrlSource::inWords(long row) const {
+    const wxString words = GetItemText(row, matchColumn + 1) + ": " + GetItemText(row, matchColumn);
+    return isGuess(row) ? wxString::Format(translated("%s, a guess"), words) : words;
 }
 
 void ListCtrlSource::applyMatchFont(long row) {
@@ -150,17 +159,16 @@ void ListCtrlSource::exchange(const Rows &rows, std::vector<RowMatch> &matches) 
 void ListCtrlSource::assign(const wxString &text) {
     // Takes the marks as they are now, but the current row as it is when the change is made.
     m_changes.run([this, text, marked = markedRows()] {
-        const auto unused = [this](long row) { return isUnused(row); };
         Rows rows = marked.empty() ? chosenRows() : marked;
         if (rows.empty()) {
-            rows.push_back(nextRow(wxNOT_FOUND, unused));
+            rows.push_back(nextRow(wxNOT_FOUND, &ListCtrlSource::isUnused));
         }
         if (rows.front() == wxNOT_FOUND) {
             return;
         }
         write(rows, text);
         clearMarkedRows();
-        const long next = nextRow(rows.back(), unused);
+        const long next = nextRow(rows.back(), &ListCtrlSource::isUnused);
         goTo(next != wxNOT_FOUND ? next : rows.back());
     });
 }
@@ -181,11 +189,10 @@ void ListCtrlSource::confirm(const Rows &rows) {
     });
 }
 
-template <typename Wanted>
-long ListCtrlSource::nextRow(long row, const Wanted &isWanted) const {
+long ListCtrlSource::nextRow(long row, bool (ListCtrlSource::*isWanted)(long) const) const {
     for (long step = 1; step <= GetItemCount(); ++step) {
         const long next = (row + step) % GetItemCount();
-        if (isWanted(next)) {
+        if ((this->*isWanted)(next)) {
             return next;
         }
     }
@@ -219,10 +226,8 @@ void ListCtrlSource::scrollAtEdge() {
 }
 
 void ListCtrlSource::clearHoverRows() {
-    for (long row = GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED);
-         row != wxNOT_FOUND; row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
-        SetItemState(row, 0, wxLIST_STATE_SELECTED);
-    }
+    constexpr long allRows = -1;
+    SetItemState(allRows, 0, wxLIST_STATE_SELECTED);
 }
 
 void ListCtrlSource::markRows(long one, long other) {
@@ -233,17 +238,9 @@ void ListCtrlSource::markRows(long one, long other) {
 }
 
 void ListCtrlSource::clearMarkedRows() {
-    for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
+    for (const long row : markedRows()) {
         m_marks.set(row, false);
     }
-}
-
-ListCtrlSource::Rows ListCtrlSource::markedRows() const {
-    Rows rows;
-    for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
-        rows.push_back(row);
-    }
-    return rows;
 }
 
 long ListCtrlSource::currentRow() const {
@@ -263,7 +260,7 @@ void ListCtrlSource::goTo(long row) {
 }
 
 void ListCtrlSource::goToNextGuess(long row) {
-    const long next = nextRow(row, [this](long each) { return isGuess(each); });
+    const long next = nextRow(row, &ListCtrlSource::isGuess);
     if (next != wxNOT_FOUND) {
         clearMarkedRows();
         goTo(next);

@@ -4,11 +4,11 @@
 
 #include "RowMarks.h" // of the platform
 #include "dragdrop/ChangeQueue.h"
-#include "dragdrop/RowMatch.h"
 #include "dragdrop/SecondClick.h"
 #include "names/ColumnMatch.h"
 #include "names/ShownNames.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -16,9 +16,19 @@
 #include <utility>
 #include <vector>
 
+#include <wx/arrstr.h>
 #include <wx/listctrl.h>
+#include <wx/string.h>
 
 namespace columnimport {
+
+/// What a row of the match list shows, and where it came from.
+struct RowMatch : ColumnMatch {
+    wxString text;
+};
+
+/// The text for `count` rows, the first of which reads `first`: "Au g/t", or "Au g/t (3 rows)".
+wxString rowsText(const wxString &first, std::size_t count);
 
 /// The match list: one row per application column, with the name of its file column in the first
 /// column. The rows are the only record of the matching. They hold shown texts, which `names` maps
@@ -67,6 +77,9 @@ public:
     bool isUnused(long row) const;
     bool isGuess(long row) const;
 
+    /// `row` in words: "gold: Au g/t", or "gold: Au g/t, a guess".
+    wxString inWords(long row) const;
+
     /// Shows `row` in bold if it reads "Not used", in italics if it is a guess.
     void applyMatchFont(long row);
 
@@ -104,7 +117,7 @@ public:
     RowMarks &marks() { return m_marks; }
     void clearMarkedRows();
     int countMarkedRows() const { return static_cast<int>(markedRows().size()); }
-    Rows markedRows() const;
+    Rows markedRows() const { return m_marks.rows(); }
 
     /// Marks the rows from `one` to `other`, both included, in either order. Ignores rows beyond
     /// the last one.
@@ -159,11 +172,7 @@ private:
 
     /// The next row behind `row` that `isWanted`, wrapping at the end; wxNOT_FOUND if there is
     /// none.
-    template <typename Wanted>
-    long nextRow(long row, const Wanted &isWanted) const;
-
-    /// The first marked row behind `row`, which may be wxNOT_FOUND; wxNOT_FOUND if there is none.
-    long nextMarkedRow(long row) const { return m_marks.next(row); }
+    long nextRow(long row, bool (ListCtrlSource::*isWanted)(long) const) const;
 
     void onLeftDown(wxMouseEvent &event);
     void onLeftUp(wxMouseEvent &event);

@@ -11,13 +11,15 @@ void pressOkSoon(wxWindow &inside) {
     wxGetTopLevelParent(&inside)->GetEventHandler()->AddPendingEvent(ok);
 }
 
-void setTip(wxWindow &list, const wxString &tip) {
-    if (tip == list.GetToolTipText()) {
-        return;
+void ignoreOtherButtons(wxWindow &list) {
+    for (const auto &press :
+         {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
+        list.Bind(press, [](wxMouseEvent &) {});
     }
-    if (tip.empty()) {
-        list.UnsetToolTip();
-    } else {
+}
+
+void setTip(wxWindow &list, const wxString &tip) {
+    if (tip != list.GetToolTipText()) {
         list.SetToolTip(tip);
     }
 }

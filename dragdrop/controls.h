@@ -22,6 +22,9 @@ Control *findControl(wxWindow &inside, int id) {
 /// Presses OK in the dialog that `inside` is or belongs to, after the current event.
 void pressOkSoon(wxWindow &inside);
 
+/// Keeps the middle and the right button from `list`, which would select with them.
+void ignoreOtherButtons(wxWindow &list);
+
 /// Sets the tooltip of `list`; an empty one removes it.
 void setTip(wxWindow &list, const wxString &tip);
 

@@ -54,8 +54,7 @@ void dragText(wxWindow &source, const wxString &text, const wxString &shown) {
     UnicodeText data(text);
     wxDropSource drag(&source);
     drag.SetData(data);
-    const RunningDrag running(drag, source, shown);
-    drag.DoDragDrop(wxDrag_AllowMove);
+    runDrag(drag, source, shown);
 }
 
 } // namespace columnimport

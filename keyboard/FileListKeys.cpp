@@ -5,7 +5,6 @@
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "dragdrop/listBox.h"
 #include "keyboard/clipboard.h"
 
 #include <algorithm>
@@ -47,7 +46,6 @@ FileListKeys::FileListKeys(ListBoxSource &files, ListCtrlSource &matches)
     files.Bind(wxEVT_KEY_DOWN, &FileListKeys::onKeyDown, this);
     files.Bind(wxEVT_CHAR_HOOK, &FileListKeys::onReturn, this);
     files.Bind(wxEVT_CHAR, &FileListKeys::onCharacter, this);
-    forwardReturn(files);
 }
 
 void FileListKeys::onKeyDown(wxKeyEvent &event) {

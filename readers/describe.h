@@ -8,10 +8,6 @@ class wxWindow;
 namespace columnimport {
 
 class ListBoxSource;
-class ListCtrlSource;
-
-/// The name of a row for a screen reader: "gold: Au g/t", or "gold: Au g/t, a guess".
-wxString rowText(const ListCtrlSource &list, long row);
 
 // Descriptions of single controls for screen readers. Each platform has a file of its own.
 

@@ -2,15 +2,15 @@
 
 #include "readers/describe.h"
 
+#include "AccessibleRows.h"
 #include "dragdrop/ListBoxSource.h"
+#include "dragdrop/ListCtrlSource.h"
 #include "languages/translated.h"
 
 #include <wx/access.h>
 #include <wx/msw/private.h>
 
 namespace columnimport {
-
-#if wxUSE_ACCESSIBILITY
 
 namespace {
 
@@ -30,7 +30,9 @@ private:
     wxString m_name;
 };
 
-/// Child 0 is the list itself, child 1 is row 0. A reader may ask for a child that is gone.
+// Child 0 of a list is the list itself, child 1 is row 0. A reader may ask for a child that is
+// gone.
+
 class FileColumns : public Named {
 public:
     FileColumns(ListBoxSource &list, const wxString &name) : Named(list, name), m_list(list) {}
@@ -54,6 +56,42 @@ private:
     ListBoxSource &m_list;
 };
 
+class Rows : public Named {
+public:
+    Rows(ListCtrlSource &list, const wxString &name) : Named(list, name), m_list(list) {}
+
+    wxAccStatus GetName(int child, wxString *name) override {
+        if (child == wxACC_SELF) {
+            return Named::GetName(child, name);
+        }
+        if (!isRow(child)) {
+            return wxACC_INVALID_ARG;
+        }
+        *name = m_list.inWords(child - 1);
+        return wxACC_OK;
+    }
+
+    wxAccStatus GetState(int child, long *states) override {
+        if (child == wxACC_SELF) {
+            return wxACC_NOT_IMPLEMENTED;
+        }
+        if (!isRow(child)) {
+            return wxACC_INVALID_ARG;
+        }
+        const int row = child - 1;
+        *states =
+            wxACC_STATE_SYSTEM_SELECTABLE | wxACC_STATE_SYSTEM_FOCUSABLE |
+            (m_list.marks().isMarked(row) ? wxACC_STATE_SYSTEM_SELECTED : 0) |
+            (m_list.currentRow() == row && m_list.HasFocus() ? wxACC_STATE_SYSTEM_FOCUSED : 0);
+        return wxACC_OK;
+    }
+
+private:
+    bool isRow(int child) const { return child > 0 && child <= m_list.GetItemCount(); }
+
+    ListCtrlSource &m_list;
+};
+
 } // namespace
 
 void setAccessibleName(wxWindow &control, const wxString &name) {
@@ -64,15 +102,6 @@ void describeFileColumns(ListBoxSource &list, const wxString &name) {
     list.SetAccessible(new FileColumns(list, name));
 }
 
-#else
-
-// Without accessibility in the toolkit, readers get the native controls.
-void setAccessibleName(wxWindow &, const wxString &) {}
-
-void describeFileColumns(ListBoxSource &, const wxString &) {}
-
-#endif
-
 void announceWhenShown(wxWindow &control) {
     control.Bind(wxEVT_SHOW, [&control](wxShowEvent &event) {
         if (event.IsShown()) {
@@ -80,6 +109,19 @@ void announceWhenShown(wxWindow &control) {
         }
         event.Skip();
     });
+}
+
+AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &name) : m_list(list) {
+    list.SetAccessible(new Rows(list, name));
+}
+
+void AccessibleRows::announce(const std::vector<long> &rows) {
+    for (const long row : rows) {
+        wxAccessible::NotifyEvent(wxACC_EVENT_OBJECT_NAMECHANGE, &m_list, wxOBJID_CLIENT,
+                                  static_cast<int>(row) + 1);
+    }
+    wxAccessible::NotifyEvent(wxACC_EVENT_SYSTEM_ALERT, &m_list, wxOBJID_CLIENT,
+                              static_cast<int>(rows.front()) + 1);
 }
 
 } // namespace columnimport
