@@ -24,8 +24,7 @@ add_library(columnimport SHARED
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp
-    dragdrop/controls.cpp
-    dragdrop/dragText.cpp
+    dragdrop/listMouse.cpp
     host/${platform}/HostStandIn.cpp
     host/${platform}/X11Owner.cpp
     host/${platform}/modalLoop.cpp

@@ -4,7 +4,6 @@
 
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "dragdrop/dragText.h"
 
 namespace columnimport {
 

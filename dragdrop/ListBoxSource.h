@@ -3,7 +3,7 @@
 #pragma once
 
 #include "dragdrop/FileEntries.h"
-#include "dragdrop/SecondClick.h"
+#include "dragdrop/listMouse.h"
 
 #include <cstdint>
 #include <functional>

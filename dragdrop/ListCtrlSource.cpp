@@ -3,7 +3,6 @@
 #include "dragdrop/ListCtrlSource.h"
 
 #include "dragdrop/controls.h"
-#include "dragdrop/dragText.h"
 #include "languages/translated.h"
 
 #include <algorithm>

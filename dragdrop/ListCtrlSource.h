@@ -4,7 +4,7 @@
 
 #include "RowMarks.h" // of the platform
 #include "dragdrop/ChangeQueue.h"
-#include "dragdrop/SecondClick.h"
+#include "dragdrop/listMouse.h"
 #include "names/ColumnMatch.h"
 #include "names/ShownNames.h"
 

@@ -87,26 +87,19 @@ std::optional<long> MatchListKeys::targetOf(int key) const {
 // Applies to the rows that are chosen now, even if the change has to wait.
 bool MatchListKeys::edit(const wxKeyEvent &key) {
     const ListCtrlSource::Rows rows = m_list.chosenRows();
-    switch (key.GetKeyCode()) {
-    case WXK_DELETE:
-    case WXK_NUMPAD_DELETE:
+    const int code = key.GetKeyCode();
+    if (code == WXK_DELETE || code == WXK_NUMPAD_DELETE) {
         m_list.clearMatches(rows);
-        return true;
-    case 'C':
-        if (key.ControlDown()) {
-            m_list.changes().run([this, row = m_list.currentRow()] { copy(row); });
-        }
-        return key.ControlDown();
-    case 'V':
-        if (key.ControlDown()) {
-            m_paste.start([this, rows](const wxString &text) {
-                m_list.write(rows, m_list.names().textOfForeign(text, ShownNames::clipboard));
-            });
-        }
-        return key.ControlDown();
-    default:
+    } else if (code == 'C' && key.ControlDown()) {
+        m_list.changes().run([this, row = m_list.currentRow()] { copy(row); });
+    } else if (code == 'V' && key.ControlDown()) {
+        m_paste.start([this, rows](const wxString &text) {
+            m_list.write(rows, m_list.names().textOfForeign(text, ShownNames::clipboard));
+        });
+    } else {
         return false;
     }
+    return true;
 }
 
 void MatchListKeys::onKeyDown(wxKeyEvent &event) {
