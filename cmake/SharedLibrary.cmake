@@ -20,7 +20,6 @@ add_library(columnimport SHARED
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
     dragdrop/${platform}/FileEntries.cpp
-    dragdrop/ChangeQueue.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp

@@ -23,7 +23,7 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
 }
 
 void ListBoxSource::pick(int row) {
-    if (row != wxNOT_FOUND && m_picked) {
+    if (row != wxNOT_FOUND) {
         m_picked(GetString(static_cast<unsigned>(row)));
     }
 }

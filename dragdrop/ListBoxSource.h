@@ -24,7 +24,7 @@ class ListBoxSource : public wxListBox {
 public:
     ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
 
-    /// Calls `picked` with the text of each picked entry.
+    /// Calls `picked` with the text of each picked entry. Set it before any pick.
     void onPick(std::function<void(const wxString &text)> picked) { m_picked = std::move(picked); }
 
     /// Picks the entry `row`, unless it is wxNOT_FOUND.

@@ -114,45 +114,42 @@ void ListCtrlSource::write(const Rows &rows, const wxString &text) {
         } else if (match.position == ShownNames::noColumn) {
             match.origin = MatchOrigin::foreign;
         }
-        change(rows, std::vector<RowMatch>(rows.size(), {match, text}));
+        Matches matches;
+        for (const long row : rows) {
+            matches[row] = {match, text};
+        }
+        change(matches);
     });
 }
 
-void ListCtrlSource::change(const Rows &rows, const std::vector<RowMatch> &matches) {
-    Rows changing;
-    std::vector<RowMatch> wanted;
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        const long row = rows[index];
-        if (row < GetItemCount() &&
-            (isGuess(row) || GetItemText(row, matchColumn) != matches[index].text)) {
-            changing.push_back(row);
-            wanted.push_back(matches[index]);
+void ListCtrlSource::change(const Matches &matches) {
+    Matches changing;
+    for (const auto &[row, match] : matches) {
+        if (row < GetItemCount() && (isGuess(row) || GetItemText(row, matchColumn) != match.text)) {
+            changing[row] = match;
         }
     }
     if (changing.empty()) {
         return;
     }
-    exchange(changing, wanted);
-    if (m_written) {
-        m_written([this, changing, wanted]() mutable {
-            exchange(changing, wanted);
-            EnsureVisible(changing.front());
-        });
-    }
+    exchange(changing);
+    m_written([this, changing]() mutable {
+        exchange(changing);
+        EnsureVisible(changing.begin()->first);
+    });
 }
 
-void ListCtrlSource::exchange(const Rows &rows, std::vector<RowMatch> &matches) {
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        const long row = rows[index];
+void ListCtrlSource::exchange(Matches &matches) {
+    Rows rows;
+    for (auto &[row, match] : matches) {
         const RowMatch before = rowMatch(row);
-        m_origins[static_cast<std::size_t>(row)] = matches[index];
-        SetItem(row, matchColumn, matches[index].text);
+        m_origins[static_cast<std::size_t>(row)] = match;
+        SetItem(row, matchColumn, match.text);
         applyMatchFont(row);
-        matches[index] = before;
+        match = before;
+        rows.push_back(row);
     }
-    if (m_changed) {
-        m_changed(rows);
-    }
+    m_changed(rows);
 }
 
 void ListCtrlSource::assign(const wxString &text) {
@@ -174,17 +171,15 @@ void ListCtrlSource::assign(const wxString &text) {
 
 void ListCtrlSource::confirm(const Rows &rows) {
     m_changes.run([this, rows] {
-        Rows guesses;
-        std::vector<RowMatch> matches;
+        Matches confirmed;
         for (const long row : rows) {
             if (row < GetItemCount() && isGuess(row)) {
-                guesses.push_back(row);
-                matches.push_back(rowMatch(row));
-                matches.back().origin = MatchOrigin::byHand;
-                matches.back().score = noScore;
+                confirmed[row] = rowMatch(row);
+                confirmed[row].origin = MatchOrigin::byHand;
+                confirmed[row].score = noScore;
             }
         }
-        change(guesses, matches);
+        change(confirmed);
     });
 }
 

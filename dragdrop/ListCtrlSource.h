@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <unordered_set>
 #include <utility>
@@ -103,11 +104,12 @@ public:
     /// The queue that keeps all changes in order.
     ChangeQueue &changes() { return m_changes; }
 
-    /// Calls `changed` after each change of rows, including undo and redo.
+    /// Calls `changed` after each change of rows, including undo and redo. Set it before any
+    /// change.
     void onChange(std::function<void(const Rows &)> changed) { m_changed = std::move(changed); }
 
     /// Calls `written` after each change by the person, with a step that undoes the change when run
-    /// once and redoes it when run again.
+    /// once and redoes it when run again. Set it before any change.
     void onWrite(std::function<void(std::function<void()> step)> written) {
         m_written = std::move(written);
     }
@@ -164,11 +166,13 @@ public:
     void layOutRows() { OnInternalIdle(); }
 
 private:
-    /// Gives `rows` these matches as one change. Skips rows that hold theirs already.
-    void change(const Rows &rows, const std::vector<RowMatch> &matches);
+    using Matches = std::map<long, RowMatch>; // by row
+
+    /// Gives rows these matches as one change. Skips rows that hold theirs already.
+    void change(const Matches &matches);
 
     /// Swaps each of `matches` with what its row holds.
-    void exchange(const Rows &rows, std::vector<RowMatch> &matches);
+    void exchange(Matches &matches);
 
     /// The next row behind `row` that `isWanted`, wrapping at the end; wxNOT_FOUND if there is
     /// none.

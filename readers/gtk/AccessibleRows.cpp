@@ -140,14 +140,10 @@ void initWidgetClass(void *widgetClass, void *) {
     gtk_widget_class_set_accessible_role(GTK_WIDGET_CLASS(widgetClass), ATK_ROLE_LIST);
 }
 
-void initWidget(GTypeInstance *widget, void *) {
-    gtk_widget_set_has_window(GTK_WIDGET(widget), FALSE);
-}
-
 GType widgetType() {
     static const GType type =
         g_type_register_static_simple(GTK_TYPE_WIDGET, "ColumnImportRows", sizeof(GtkWidgetClass),
-                                      initWidgetClass, sizeof(GtkWidget), initWidget, GTypeFlags());
+                                      initWidgetClass, sizeof(GtkWidget), nullptr, GTypeFlags());
     return type;
 }
 
@@ -155,6 +151,7 @@ GType widgetType() {
 
 AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &name) : m_list(list) {
     auto *widget = static_cast<GtkWidget *>(g_object_new(widgetType(), nullptr));
+    gtk_widget_set_has_window(widget, FALSE);
     GtkWidget *area = list.GetTargetWindow()->GetHandle(); // shows the rows and takes the keys
     gtk_container_add(GTK_CONTAINER(area), widget);
     gtk_widget_show(widget);

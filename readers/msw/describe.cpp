@@ -14,46 +14,32 @@ namespace columnimport {
 
 namespace {
 
+/// Child 0 of a list is the list itself, child 1 is row 0. A reader may ask for a child that is
+/// gone.
 class Named : public wxAccessible {
 public:
     Named(wxWindow &window, const wxString &name) : wxAccessible(&window), m_name(name) {}
 
     wxAccStatus GetName(int child, wxString *name) override {
-        if (child != wxACC_SELF) {
+        if (child == wxACC_SELF) {
+            *name = m_name;
+            return wxACC_OK;
+        }
+        const auto *files = dynamic_cast<ListBoxSource *>(GetWindow());
+        if (files == nullptr) {
             return wxACC_NOT_IMPLEMENTED;
         }
-        *name = m_name;
+        if (child < 0 || static_cast<unsigned>(child) > files->GetCount()) {
+            return wxACC_INVALID_ARG;
+        }
+        const unsigned row = static_cast<unsigned>(child) - 1;
+        const wxString text = files->GetString(row);
+        *name = files->isUsed(row) ? wxString::Format(translated("%s, in use"), text) : text;
         return wxACC_OK;
     }
 
 private:
     wxString m_name;
-};
-
-// Child 0 of a list is the list itself, child 1 is row 0. A reader may ask for a child that is
-// gone.
-
-class FileColumns : public Named {
-public:
-    FileColumns(ListBoxSource &list, const wxString &name) : Named(list, name), m_list(list) {}
-
-    wxAccStatus GetName(int child, wxString *name) override {
-        if (child == wxACC_SELF) {
-            return Named::GetName(child, name);
-        }
-        if (child < 0 || static_cast<unsigned>(child) > m_list.GetCount()) {
-            return wxACC_INVALID_ARG;
-        }
-        const unsigned row = static_cast<unsigned>(child) - 1;
-        *name = m_list.GetString(row);
-        if (m_list.isUsed(row)) {
-            name->Printf(translated("%s, in use"), wxString(*name));
-        }
-        return wxACC_OK;
-    }
-
-private:
-    ListBoxSource &m_list;
 };
 
 class Rows : public Named {
@@ -96,10 +82,6 @@ private:
 
 void setAccessibleName(wxWindow &control, const wxString &name) {
     control.SetAccessible(new Named(control, name));
-}
-
-void describeFileColumns(ListBoxSource &list, const wxString &name) {
-    list.SetAccessible(new FileColumns(list, name));
 }
 
 void announceWhenShown(wxWindow &control) {
