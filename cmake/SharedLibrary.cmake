@@ -18,15 +18,11 @@ add_library(columnimport SHARED
     dialogs/sentences.cpp
     dialogs/wxImportCSVDialog.cpp
     dialogs/wxImportODBCDialog.cpp
-    dragdrop/${platform}/UseMarks.cpp
-    dragdrop/${platform}/listBox.cpp
-    dragdrop/ChangeQueue.cpp
+    dragdrop/${platform}/FileEntries.cpp
     dragdrop/ListBoxSource.cpp
     dragdrop/ListCtrlSource.cpp
-    dragdrop/RowMatch.cpp
     dragdrop/TextDropTarget.cpp
-    dragdrop/controls.cpp
-    dragdrop/dragText.cpp
+    dragdrop/listMouse.cpp
     host/${platform}/HostStandIn.cpp
     host/${platform}/X11Owner.cpp
     host/${platform}/modalLoop.cpp
@@ -40,9 +36,7 @@ add_library(columnimport SHARED
     keyboard/FileListKeys.cpp
     keyboard/MatchListKeys.cpp
     keyboard/clipboard.cpp
-    readers/${platform}/AccessibleRows.cpp
-    readers/${platform}/describe.cpp
-    readers/rowText.cpp)
+    readers/${platform}/describe.cpp)
 add_library(columnimport::columnimport ALIAS columnimport)
 generate_export_header(columnimport)
 columnimport_own_code(columnimport)
@@ -60,11 +54,10 @@ if(WIN32)
 else()
     target_sources(columnimport PRIVATE
         dragdrop/gtk/RowMarks.cpp
-        dragdrop/gtk/RunningDrag.cpp
-        dragdrop/gtk/dragLabel.cpp
         dragdrop/gtk/dragParts.cpp
-        dragdrop/gtk/markColours.cpp
-        readers/gtk/AccessibleRow.cpp)
+        dragdrop/gtk/runDrag.cpp
+        readers/gtk/AccessibleRow.cpp
+        readers/gtk/AccessibleRows.cpp)
     include(cmake/ProposeLibrary.cmake)
     target_link_libraries(columnimport PRIVATE PkgConfig::GTK)
     # The toolkit can't be unloaded, and its objects refer to ours. So the library stays loaded too

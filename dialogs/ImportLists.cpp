@@ -30,7 +30,7 @@ ImportLists::ImportLists(wxImportCSVDialog &dialog, ListBoxSource &files, ListCt
     for (const std::string &name : dialog.m_appColumns) {
         m_applications.push_back(shownText(name));
     }
-    describeFileColumns(files, translated("File columns"));
+    setAccessibleName(files, translated("File columns"));
     files.onPick([this](const wxString &text) { m_matches.assign(text); });
     matches.onChange([this](const std::vector<long> &rows) { onRowsChanged(rows); });
     matches.onWrite([this](History::Exchange step) { m_history.add(std::move(step)); });

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "dialogs/History.h"
-#include "keyboard/FileListKeys.h"
-#include "keyboard/MatchListKeys.h"
+#include "keyboard/listKeys.h"
 
 #include "AccessibleRows.h" // of the platform
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "delimited/readHeader.h"
-#include "dragdrop/RowMatch.h"
+#include "dragdrop/ListCtrlSource.h"
 #include "names/ShownNames.h"
 
 #include <string>

@@ -3,6 +3,7 @@
 #include "dialogs/sentences.h"
 
 #include "delimited/readHeader.h"
+#include "dragdrop/ListCtrlSource.h"
 #include "languages/translated.h"
 #include "names/nameText.h"
 

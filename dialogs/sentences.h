@@ -2,8 +2,6 @@
 
 #pragma once
 
-#include "dragdrop/RowMatch.h"
-
 #include <string>
 #include <vector>
 
@@ -12,6 +10,7 @@
 namespace columnimport {
 
 struct Header;
+struct RowMatch;
 
 // The sentences of the status line; empty if there is nothing to report.
 

@@ -4,14 +4,12 @@
 
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "dragdrop/dragText.h"
-#include "dragdrop/listBox.h"
 
 namespace columnimport {
 
 ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                              const wxSize &size)
-    : wxListBox(parent, id, position, size), m_useMarks(*this) {
+    : wxListBox(parent, id, position, size), m_entries(*this) {
     Bind(wxEVT_LEFT_DOWN, &ListBoxSource::onLeftDown, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_MOTION, &ListBoxSource::onMouseMove, this, wxID_ANY, wxID_ANY);
     Bind(wxEVT_LEFT_UP, &ListBoxSource::onLeftUp, this);
@@ -21,37 +19,27 @@ ListBoxSource::ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &pos
     });
     // Screen readers activate an entry this way.
     Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent &event) { pick(event.GetInt()); });
-    // Otherwise the control selects an entry with any button.
-    for (const auto &press :
-         {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
-        Bind(press, [](wxMouseEvent &) {});
-    }
+    ignoreOtherButtons(*this);
 }
 
-ListBoxSource::~ListBoxSource() = default;
-
 void ListBoxSource::pick(int row) {
-    if (row != wxNOT_FOUND && m_picked) {
+    if (row != wxNOT_FOUND) {
         m_picked(GetString(static_cast<unsigned>(row)));
     }
 }
 
 void ListBoxSource::showNames(const wxArrayString &names) {
     m_names = names;
-    m_useMarks.showNames(names);
+    m_entries.showNames(names);
 }
 
 void ListBoxSource::showUse(const std::unordered_set<std::int32_t> &used) {
     for (unsigned row = 0; row < m_names.size(); ++row) {
         const bool isUsed = used.count(static_cast<std::int32_t>(row)) != 0;
-        if (isUsed != m_useMarks.isUsed(row)) {
-            m_useMarks.set(row, isUsed);
+        if (isUsed != m_entries.isMarked(row)) {
+            m_entries.mark(row, isUsed);
         }
     }
-}
-
-void ListBoxSource::goTo(int row) {
-    goToEntry(*this, row);
 }
 
 wxString ListBoxSource::GetString(unsigned row) const {
@@ -81,7 +69,7 @@ void ListBoxSource::onMouseMove(wxMouseEvent &event) {
         return;
     }
     const wxString name = GetString(static_cast<unsigned>(row));
-    tipWhereCut(*this, name, GetClientSize().x - m_useMarks.width() - GetCharWidth());
+    tipWhereCut(*this, name, GetClientSize().x - m_entries.markWidth() - GetCharWidth());
     if (!movedWithButtonDown(event)) {
         return;
     }

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "dragdrop/SecondClick.h"
-#include "dragdrop/UseMarks.h"
+#include "dragdrop/FileEntries.h"
+#include "dragdrop/listMouse.h"
 
 #include <cstdint>
 #include <functional>
@@ -23,9 +23,8 @@ namespace columnimport {
 class ListBoxSource : public wxListBox {
 public:
     ListBoxSource(wxWindow *parent, wxWindowID id, const wxPoint &position, const wxSize &size);
-    ~ListBoxSource() override;
 
-    /// Calls `picked` with the text of each picked entry.
+    /// Calls `picked` with the text of each picked entry. Set it before any pick.
     void onPick(std::function<void(const wxString &text)> picked) { m_picked = std::move(picked); }
 
     /// Picks the entry `row`, unless it is wxNOT_FOUND.
@@ -36,12 +35,12 @@ public:
 
     /// Puts check marks before the names at exactly these positions.
     void showUse(const std::unordered_set<std::int32_t> &used);
-    bool isUsed(unsigned row) const { return m_useMarks.isUsed(row); }
+    bool isUsed(unsigned row) const { return m_entries.isMarked(row); }
 
     const wxArrayString &names() const { return m_names; }
 
     /// Selects the entry `row`; the arrow keys continue from it.
-    void goTo(int row);
+    void goTo(int row) { m_entries.goTo(row); }
 
     /// The name of an entry.
     wxString GetString(unsigned row) const override;
@@ -53,7 +52,7 @@ private:
 
     std::function<void(const wxString &)> m_picked;
     wxArrayString m_names;
-    UseMarks m_useMarks;
+    FileEntries m_entries;
     SecondClick m_secondClick;
 };
 

@@ -3,12 +3,19 @@
 #include "dragdrop/ListCtrlSource.h"
 
 #include "dragdrop/controls.h"
-#include "dragdrop/dragText.h"
 #include "languages/translated.h"
 
 #include <algorithm>
 
 namespace columnimport {
+
+wxString rowsText(const wxString &first, std::size_t count) {
+    if (count == 1) {
+        return first;
+    }
+    const auto rows = static_cast<unsigned>(count);
+    return wxString::Format(translated("%s (%u row)", "%s (%u rows)", rows), first, rows);
+}
 
 ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &position,
                                const wxSize &size)
@@ -20,11 +27,7 @@ ListCtrlSource::ListCtrlSource(wxWindow *parent, wxWindowID id, const wxPoint &p
         m_secondClick.pressAgain(static_cast<int>(rowAt(event.GetPosition())));
         onLeftDown(event);
     });
-    // Otherwise the control selects rows with any button.
-    for (const auto &press :
-         {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
-        Bind(press, [](wxMouseEvent &) {});
-    }
+    ignoreOtherButtons(*this);
 }
 
 // Members bound to the delete event must outlive the rows, so the rows go first.
@@ -87,6 +90,11 @@ bool ListCtrlSource::isGuess(long row) const {
     return m_origins[static_cast<std::size_t>(row)].origin == MatchOrigin::similar;
 }
 
+wxString ListCtrlSource::inWords(long row) const {
+    const wxString words = GetItemText(row, matchColumn + 1) + ": " + GetItemText(row, matchColumn);
+    return isGuess(row) ? wxString::Format(translated("%s, a guess"), words) : words;
+}
+
 void ListCtrlSource::applyMatchFont(long row) {
     // Some list controls return an invalid font for a row whose font was never set.
     wxFont font = GetItemFont(row);
@@ -106,86 +114,79 @@ void ListCtrlSource::write(const Rows &rows, const wxString &text) {
         } else if (match.position == ShownNames::noColumn) {
             match.origin = MatchOrigin::foreign;
         }
-        change(rows, std::vector<RowMatch>(rows.size(), {match, text}));
+        Matches matches;
+        for (const long row : rows) {
+            matches[row] = {match, text};
+        }
+        change(matches);
     });
 }
 
-void ListCtrlSource::change(const Rows &rows, const std::vector<RowMatch> &matches) {
-    Rows changing;
-    std::vector<RowMatch> wanted;
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        const long row = rows[index];
-        if (row < GetItemCount() &&
-            (isGuess(row) || GetItemText(row, matchColumn) != matches[index].text)) {
-            changing.push_back(row);
-            wanted.push_back(matches[index]);
+void ListCtrlSource::change(const Matches &matches) {
+    Matches changing;
+    for (const auto &[row, match] : matches) {
+        if (row < GetItemCount() && (isGuess(row) || GetItemText(row, matchColumn) != match.text)) {
+            changing[row] = match;
         }
     }
     if (changing.empty()) {
         return;
     }
-    exchange(changing, wanted);
-    if (m_written) {
-        m_written([this, changing, wanted]() mutable {
-            exchange(changing, wanted);
-            EnsureVisible(changing.front());
-        });
-    }
+    exchange(changing);
+    m_written([this, changing]() mutable {
+        exchange(changing);
+        EnsureVisible(changing.begin()->first);
+    });
 }
 
-void ListCtrlSource::exchange(const Rows &rows, std::vector<RowMatch> &matches) {
-    for (std::size_t index = 0; index < rows.size(); ++index) {
-        const long row = rows[index];
+void ListCtrlSource::exchange(Matches &matches) {
+    Rows rows;
+    for (auto &[row, match] : matches) {
         const RowMatch before = rowMatch(row);
-        m_origins[static_cast<std::size_t>(row)] = matches[index];
-        SetItem(row, matchColumn, matches[index].text);
+        m_origins[static_cast<std::size_t>(row)] = match;
+        SetItem(row, matchColumn, match.text);
         applyMatchFont(row);
-        matches[index] = before;
+        match = before;
+        rows.push_back(row);
     }
-    if (m_changed) {
-        m_changed(rows);
-    }
+    m_changed(rows);
 }
 
 void ListCtrlSource::assign(const wxString &text) {
     // Takes the marks as they are now, but the current row as it is when the change is made.
     m_changes.run([this, text, marked = markedRows()] {
-        const auto unused = [this](long row) { return isUnused(row); };
         Rows rows = marked.empty() ? chosenRows() : marked;
         if (rows.empty()) {
-            rows.push_back(nextRow(wxNOT_FOUND, unused));
+            rows.push_back(nextRow(wxNOT_FOUND, &ListCtrlSource::isUnused));
         }
         if (rows.front() == wxNOT_FOUND) {
             return;
         }
         write(rows, text);
         clearMarkedRows();
-        const long next = nextRow(rows.back(), unused);
+        const long next = nextRow(rows.back(), &ListCtrlSource::isUnused);
         goTo(next != wxNOT_FOUND ? next : rows.back());
     });
 }
 
 void ListCtrlSource::confirm(const Rows &rows) {
     m_changes.run([this, rows] {
-        Rows guesses;
-        std::vector<RowMatch> matches;
+        Matches confirmed;
         for (const long row : rows) {
             if (row < GetItemCount() && isGuess(row)) {
-                guesses.push_back(row);
-                matches.push_back(rowMatch(row));
-                matches.back().origin = MatchOrigin::byHand;
-                matches.back().score = noScore;
+                confirmed[row] = rowMatch(row);
+                confirmed[row].origin = MatchOrigin::byHand;
+                confirmed[row].score = noScore;
             }
         }
-        change(guesses, matches);
+        change(confirmed);
     });
 }
 
-template <typename Wanted>
-long ListCtrlSource::nextRow(long row, const Wanted &isWanted) const {
+long ListCtrlSource::nextRow(long row, bool (ListCtrlSource::*isWanted)(long) const) const {
     for (long step = 1; step <= GetItemCount(); ++step) {
         const long next = (row + step) % GetItemCount();
-        if (isWanted(next)) {
+        if ((this->*isWanted)(next)) {
             return next;
         }
     }
@@ -219,10 +220,8 @@ void ListCtrlSource::scrollAtEdge() {
 }
 
 void ListCtrlSource::clearHoverRows() {
-    for (long row = GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED);
-         row != wxNOT_FOUND; row = GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_SELECTED)) {
-        SetItemState(row, 0, wxLIST_STATE_SELECTED);
-    }
+    constexpr long allRows = -1;
+    SetItemState(allRows, 0, wxLIST_STATE_SELECTED);
 }
 
 void ListCtrlSource::markRows(long one, long other) {
@@ -233,17 +232,9 @@ void ListCtrlSource::markRows(long one, long other) {
 }
 
 void ListCtrlSource::clearMarkedRows() {
-    for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
+    for (const long row : markedRows()) {
         m_marks.set(row, false);
     }
-}
-
-ListCtrlSource::Rows ListCtrlSource::markedRows() const {
-    Rows rows;
-    for (long row = nextMarkedRow(wxNOT_FOUND); row != wxNOT_FOUND; row = nextMarkedRow(row)) {
-        rows.push_back(row);
-    }
-    return rows;
 }
 
 long ListCtrlSource::currentRow() const {
@@ -263,7 +254,7 @@ void ListCtrlSource::goTo(long row) {
 }
 
 void ListCtrlSource::goToNextGuess(long row) {
-    const long next = nextRow(row, [this](long each) { return isGuess(each); });
+    const long next = nextRow(row, &ListCtrlSource::isGuess);
     if (next != wxNOT_FOUND) {
         clearMarkedRows();
         goTo(next);

@@ -4,21 +4,32 @@
 
 #include "RowMarks.h" // of the platform
 #include "dragdrop/ChangeQueue.h"
-#include "dragdrop/RowMatch.h"
-#include "dragdrop/SecondClick.h"
+#include "dragdrop/listMouse.h"
 #include "names/ColumnMatch.h"
 #include "names/ShownNames.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <unordered_set>
 #include <utility>
 #include <vector>
 
+#include <wx/arrstr.h>
 #include <wx/listctrl.h>
+#include <wx/string.h>
 
 namespace columnimport {
+
+/// What a row of the match list shows, and where it came from.
+struct RowMatch : ColumnMatch {
+    wxString text;
+};
+
+/// The text for `count` rows, the first of which reads `first`: "Au g/t", or "Au g/t (3 rows)".
+wxString rowsText(const wxString &first, std::size_t count);
 
 /// The match list: one row per application column, with the name of its file column in the first
 /// column. The rows are the only record of the matching. They hold shown texts, which `names` maps
@@ -67,6 +78,9 @@ public:
     bool isUnused(long row) const;
     bool isGuess(long row) const;
 
+    /// `row` in words: "gold: Au g/t", or "gold: Au g/t, a guess".
+    wxString inWords(long row) const;
+
     /// Shows `row` in bold if it reads "Not used", in italics if it is a guess.
     void applyMatchFont(long row);
 
@@ -90,11 +104,12 @@ public:
     /// The queue that keeps all changes in order.
     ChangeQueue &changes() { return m_changes; }
 
-    /// Calls `changed` after each change of rows, including undo and redo.
+    /// Calls `changed` after each change of rows, including undo and redo. Set it before any
+    /// change.
     void onChange(std::function<void(const Rows &)> changed) { m_changed = std::move(changed); }
 
     /// Calls `written` after each change by the person, with a step that undoes the change when run
-    /// once and redoes it when run again.
+    /// once and redoes it when run again. Set it before any change.
     void onWrite(std::function<void(std::function<void()> step)> written) {
         m_written = std::move(written);
     }
@@ -104,7 +119,7 @@ public:
     RowMarks &marks() { return m_marks; }
     void clearMarkedRows();
     int countMarkedRows() const { return static_cast<int>(markedRows().size()); }
-    Rows markedRows() const;
+    Rows markedRows() const { return m_marks.rows(); }
 
     /// Marks the rows from `one` to `other`, both included, in either order. Ignores rows beyond
     /// the last one.
@@ -151,19 +166,17 @@ public:
     void layOutRows() { OnInternalIdle(); }
 
 private:
-    /// Gives `rows` these matches as one change. Skips rows that hold theirs already.
-    void change(const Rows &rows, const std::vector<RowMatch> &matches);
+    using Matches = std::map<long, RowMatch>; // by row
+
+    /// Gives rows these matches as one change. Skips rows that hold theirs already.
+    void change(const Matches &matches);
 
     /// Swaps each of `matches` with what its row holds.
-    void exchange(const Rows &rows, std::vector<RowMatch> &matches);
+    void exchange(Matches &matches);
 
     /// The next row behind `row` that `isWanted`, wrapping at the end; wxNOT_FOUND if there is
     /// none.
-    template <typename Wanted>
-    long nextRow(long row, const Wanted &isWanted) const;
-
-    /// The first marked row behind `row`, which may be wxNOT_FOUND; wxNOT_FOUND if there is none.
-    long nextMarkedRow(long row) const { return m_marks.next(row); }
+    long nextRow(long row, bool (ListCtrlSource::*isWanted)(long) const) const;
 
     void onLeftDown(wxMouseEvent &event);
     void onLeftUp(wxMouseEvent &event);

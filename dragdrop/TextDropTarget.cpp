@@ -12,12 +12,6 @@ TextDropTarget::TextDropTarget(wxWindow &owner) : m_owner(owner) {
     SetDataObject(new ForeignText(*this));
 }
 
-TextDropTarget::~TextDropTarget() = default;
-
-void TextDropTarget::setMatchList(ListCtrlSource *matchList) {
-    m_matchList = matchList;
-}
-
 wxDragResult TextDropTarget::OnDragOver(wxCoord x, wxCoord y, wxDragResult suggested) {
     if (m_owner.GetId() == matchListId) {
         auto &list = *findControl<ListCtrlSource>(m_owner, matchListId);

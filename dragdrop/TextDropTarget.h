@@ -19,10 +19,9 @@ class TextDropTarget : public wxTextDropTarget {
 public:
     /// `owner` is the list that will own the target.
     explicit TextDropTarget(wxWindow &owner);
-    ~TextDropTarget() override;
 
     /// Makes this the target of the list of file columns. `matchList` must outlive the target.
-    void setMatchList(ListCtrlSource *matchList);
+    void setMatchList(ListCtrlSource *matchList) { m_matchList = matchList; }
 
     wxDragResult OnDragOver(wxCoord x, wxCoord y, wxDragResult suggested) override;
     bool OnDropText(wxCoord x, wxCoord y, const wxString &text) override;

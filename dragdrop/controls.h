@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <wx/event.h>
 #include <wx/window.h>
 
 namespace columnimport {
@@ -20,13 +21,9 @@ Control *findControl(wxWindow &inside, int id) {
 }
 
 /// Presses OK in the dialog that `inside` is or belongs to, after the current event.
-void pressOkSoon(wxWindow &inside);
-
-/// Sets the tooltip of `list`; an empty one removes it.
-void setTip(wxWindow &list, const wxString &tip);
-
-/// Sets `name` as the tooltip if it is wider than `room` pixels, which the list has for it; else
-/// removes the tooltip.
-void tipWhereCut(wxWindow &list, const wxString &name, int room);
+inline void pressOkSoon(wxWindow &inside) {
+    wxGetTopLevelParent(&inside)->GetEventHandler()->AddPendingEvent(
+        wxCommandEvent(wxEVT_BUTTON, wxID_OK));
+}
 
 } // namespace columnimport

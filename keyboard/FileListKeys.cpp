@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-#include "keyboard/FileListKeys.h"
+#include "keyboard/listKeys.h"
 
 #include "dragdrop/ListBoxSource.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "dragdrop/listBox.h"
-#include "keyboard/clipboard.h"
 
 #include <algorithm>
 
@@ -47,14 +45,12 @@ FileListKeys::FileListKeys(ListBoxSource &files, ListCtrlSource &matches)
     files.Bind(wxEVT_KEY_DOWN, &FileListKeys::onKeyDown, this);
     files.Bind(wxEVT_CHAR_HOOK, &FileListKeys::onReturn, this);
     files.Bind(wxEVT_CHAR, &FileListKeys::onCharacter, this);
-    forwardReturn(files);
 }
 
 void FileListKeys::onKeyDown(wxKeyEvent &event) {
     const int row = m_files.GetSelection();
     if (event.GetModifiers() == wxMOD_CONTROL && event.GetKeyCode() == 'C' && row != wxNOT_FOUND) {
-        copyText(m_matches.names().textForOthers(m_files.GetString(static_cast<unsigned>(row)),
-                                                 ShownNames::clipboard));
+        copyName(m_matches.names(), m_files.GetString(static_cast<unsigned>(row)));
     } else {
         event.Skip();
     }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 
-#include "keyboard/MatchListKeys.h"
+#include "keyboard/listKeys.h"
 
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "keyboard/clipboard.h"
 
 #include <algorithm>
 
@@ -57,13 +56,6 @@ void MatchListKeys::markCurrentRow(bool alone) {
     m_list.setKeyAnchor(row);
 }
 
-void MatchListKeys::copy(long row) {
-    if (row >= 0) {
-        copyText(m_list.names().textForOthers(m_list.GetItemText(row, matchColumn),
-                                              ShownNames::clipboard));
-    }
-}
-
 std::optional<long> MatchListKeys::targetOf(int key) const {
     const long row = m_list.currentRow();
     switch (key) {
@@ -87,26 +79,23 @@ std::optional<long> MatchListKeys::targetOf(int key) const {
 // Applies to the rows that are chosen now, even if the change has to wait.
 bool MatchListKeys::edit(const wxKeyEvent &key) {
     const ListCtrlSource::Rows rows = m_list.chosenRows();
-    switch (key.GetKeyCode()) {
-    case WXK_DELETE:
-    case WXK_NUMPAD_DELETE:
+    const int code = key.GetKeyCode();
+    if (code == WXK_DELETE || code == WXK_NUMPAD_DELETE) {
         m_list.clearMatches(rows);
-        return true;
-    case 'C':
-        if (key.ControlDown()) {
-            m_list.changes().run([this, row = m_list.currentRow()] { copy(row); });
-        }
-        return key.ControlDown();
-    case 'V':
-        if (key.ControlDown()) {
-            m_paste.start([this, rows](const wxString &text) {
-                m_list.write(rows, m_list.names().textOfForeign(text, ShownNames::clipboard));
-            });
-        }
-        return key.ControlDown();
-    default:
+    } else if (code == 'C' && key.ControlDown()) {
+        m_list.changes().run([this, row = m_list.currentRow()] {
+            if (row >= 0) {
+                copyName(m_list.names(), m_list.GetItemText(row, matchColumn));
+            }
+        });
+    } else if (code == 'V' && key.ControlDown()) {
+        m_paste.start([this, rows](const wxString &text) {
+            m_list.write(rows, m_list.names().textOfForeign(text, ShownNames::clipboard));
+        });
+    } else {
         return false;
     }
+    return true;
 }
 
 void MatchListKeys::onKeyDown(wxKeyEvent &event) {

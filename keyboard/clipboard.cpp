@@ -9,7 +9,8 @@
 
 namespace columnimport {
 
-void copyText(const wxString &text) {
+void copyName(ShownNames &names, const wxString &shown) {
+    const wxString text = names.textForOthers(shown, ShownNames::clipboard);
     const wxClipboardLocker open;
     if (!!open) {
         wxTheClipboard->SetData(new UnicodeText(text));

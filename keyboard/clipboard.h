@@ -3,6 +3,7 @@
 #pragma once
 
 #include "dragdrop/ChangeQueue.h"
+#include "names/ShownNames.h"
 
 #include <functional>
 #include <optional>
@@ -14,8 +15,8 @@ namespace columnimport {
 
 // Copy and paste: the keyboard equivalent of a drag.
 
-/// Copies `text` to the clipboard, for this dialog and for other programs.
-void copyText(const wxString &text);
+/// Copies the name that reads `shown` to the clipboard, for this dialog and for other programs.
+void copyName(ShownNames &names, const wxString &shown);
 
 /// A paste into the dialog. The clipboard's owner may be slow or hang: the dialog stays responsive,
 /// and the queue of changes is held until the text arrives. After two seconds, drops the paste and

@@ -7,19 +7,11 @@ class wxWindow;
 
 namespace columnimport {
 
-class ListBoxSource;
-class ListCtrlSource;
-
-/// The name of a row for a screen reader: "gold: Au g/t", or "gold: Au g/t, a guess".
-wxString rowText(const ListCtrlSource &list, long row);
-
 // Descriptions of single controls for screen readers. Each platform has a file of its own.
 
-/// Gives `control` its name for screen readers.
+/// Gives `control` its name for screen readers. If it is the list of file columns, its entries that
+/// are in use are named with "in use".
 void setAccessibleName(wxWindow &control, const wxString &name);
-
-/// Names the list of file columns, and its entries with "in use" if they are.
-void describeFileColumns(ListBoxSource &list, const wxString &name);
 
 /// Lets screen readers announce the text of `control` each time it is shown.
 void announceWhenShown(wxWindow &control);

@@ -3,8 +3,11 @@
 #pragma once
 
 #include <functional>
+#include <set>
 #include <utility>
 #include <vector>
+
+#include <wx/colour.h>
 
 class wxListCtrl;
 
@@ -17,10 +20,10 @@ public:
     explicit RowMarks(wxListCtrl &list);
 
     void set(long row, bool marked);
-    bool isMarked(long row) const;
+    bool isMarked(long row) const { return m_marked.count(row) != 0; }
 
-    /// The first marked row behind `row`, or -1.
-    long next(long row) const;
+    /// The marked rows, in ascending order.
+    std::vector<long> rows() const { return {m_marked.begin(), m_marked.end()}; }
 
     /// Calls `changed` after a row has been marked or unmarked.
     void onChange(std::function<void(long row)> changed) { m_changed = std::move(changed); }
@@ -28,7 +31,22 @@ public:
 private:
     wxListCtrl &m_list;
     std::function<void(long)> m_changed;
-    std::vector<bool> m_marked; // rows beyond its end are not marked
+    std::set<long> m_marked;
 };
+
+/// How a marked row is shown.
+struct MarkColours {
+    wxColour ground;
+    wxColour text;
+};
+
+/// The colours of a marked row in a list with this `background` and with `hover` as the colour of
+/// the row under the pointer: a tone of `hover` that stands out from both, and black or white text.
+/// A person can tell the three apart in any theme.
+MarkColours markColours(const wxColour &background, const wxColour &hover);
+
+/// The contrast of two colours: from 1 for equal ones to 21 for black and white. A mark needs 3,
+/// text needs 4.5.
+double contrast(const wxColour &one, const wxColour &other);
 
 } // namespace columnimport

@@ -2,16 +2,16 @@
 
 #pragma once
 
-// The classes of a drag that differ between platforms.
-
-#include "RunningDrag.h"
+// The parts of a drag that differ between platforms.
 
 #include <string>
 #include <vector>
 
 #include <wx/dataobj.h>
 
+class wxDropSource;
 class wxDropTarget;
+class wxWindow;
 
 namespace columnimport {
 
@@ -57,5 +57,9 @@ public:
 private:
     const wxDropTarget &m_target;
 };
+
+/// Runs `drag` to its end, with a label beside the pointer that reads `shown`. `source` is the
+/// window that it starts in.
+void runDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown);
 
 } // namespace columnimport

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <vector>
+
 #include <wx/listctrl.h>
 
 namespace columnimport {
@@ -19,9 +21,14 @@ public:
         return m_list.GetItemState(row, wxLIST_STATE_DROPHILITED) != 0;
     }
 
-    /// The first marked row behind `row`, or -1.
-    long next(long row) const {
-        return m_list.GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_DROPHILITED);
+    /// The marked rows, in ascending order.
+    std::vector<long> rows() const {
+        std::vector<long> rows;
+        long row = wxNOT_FOUND;
+        while ((row = m_list.GetNextItem(row, wxLIST_NEXT_ALL, wxLIST_STATE_DROPHILITED)) >= 0) {
+            rows.push_back(row);
+        }
+        return rows;
     }
 
 private:

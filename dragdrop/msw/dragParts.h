@@ -2,16 +2,14 @@
 
 #pragma once
 
-#include <wx/dataobj.h>
+#include <wx/dnd.h>
 
-class wxDropSource;
-class wxDropTarget;
 class wxWindow;
 
 namespace columnimport {
 
-// The classes of a drag that differ between platforms. On Windows the toolkit's own classes are
-// enough: texts are Unicode, the cursor shows the drag, and each drag ends.
+// The parts of a drag that differ between platforms. On Windows the toolkit's own are enough: texts
+// are Unicode, the cursor shows the drag, and each drag ends.
 
 using UnicodeText = wxTextDataObject;
 
@@ -20,9 +18,8 @@ public:
     explicit ForeignText(const wxDropTarget &) {}
 };
 
-class RunningDrag {
-public:
-    RunningDrag(wxDropSource &, const wxWindow &, const wxString &) {}
-};
+inline void runDrag(wxDropSource &drag, const wxWindow &, const wxString &) {
+    drag.DoDragDrop(wxDrag_AllowMove);
+}
 
 } // namespace columnimport

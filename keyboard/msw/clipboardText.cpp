@@ -14,40 +14,29 @@ namespace columnimport {
 
 namespace {
 
-/// Opens the clipboard while it lives. Tries again if another program has it open for a moment.
-class OpenedClipboard {
-public:
-    OpenedClipboard() {
-        constexpr DWORD milliseconds = 50;
-        for (int attempt = 0; attempt < 20 && !m_isOpen; ++attempt) {
-            m_isOpen = OpenClipboard(nullptr) != FALSE;
-            if (!m_isOpen) {
-                Sleep(milliseconds);
-            }
+/// The clipboard's text. Blocks until the owner has delivered it. Tries again if another program
+/// has the clipboard open for a moment.
+std::optional<std::wstring> clipboardText() {
+    constexpr DWORD milliseconds = 50;
+    for (int attempt = 1; OpenClipboard(nullptr) == FALSE; ++attempt) {
+        if (attempt == 20) {
+            return std::nullopt;
         }
+        Sleep(milliseconds);
     }
-    ~OpenedClipboard() {
-        if (m_isOpen) {
-            CloseClipboard();
-        }
-    }
-    OpenedClipboard(const OpenedClipboard &) = delete;
-    OpenedClipboard &operator=(const OpenedClipboard &) = delete;
-
-    /// Blocks until the owner has delivered its text.
-    std::optional<std::wstring> text() const {
-        std::optional<std::wstring> text;
-        HANDLE memory = m_isOpen ? GetClipboardData(CF_UNICODETEXT) : nullptr;
-        if (const auto *given = static_cast<const wchar_t *>(GlobalLock(memory))) {
+    std::optional<std::wstring> text;
+    HANDLE memory = GetClipboardData(CF_UNICODETEXT);
+    if (const auto *given = static_cast<const wchar_t *>(GlobalLock(memory))) {
+        try {
             text.emplace(given, wcsnlen(given, GlobalSize(memory) / sizeof *given));
-            GlobalUnlock(memory);
+        } catch (const std::bad_alloc &) {
+            text.reset(); // too large counts as no text
         }
-        return text;
+        GlobalUnlock(memory);
     }
-
-private:
-    bool m_isOpen = false;
-};
+    CloseClipboard();
+    return text;
+}
 
 /// A request, answered by a thread of its own with a message to the window below. The thread does
 /// not use the toolkit: the host may end or replace its application meanwhile.
@@ -70,23 +59,14 @@ LRESULT CALLBACK onMessage(HWND window, UINT message, WPARAM word, LPARAM number
 
 /// An invisible window on the user-interface thread that receives one message.
 HWND newMessageWindow() {
-    static const ATOM windowClass = [] {
-        WNDCLASSW description = {};
-        description.lpfnWndProc = onMessage;
-        description.hInstance = GetModuleHandleW(nullptr);
-        description.lpszClassName = L"ColumnImportClipboardText";
-        return RegisterClassW(&description);
-    }();
-    return CreateWindowExW(0, MAKEINTATOM(windowClass), nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE,
-                           nullptr, GetModuleHandleW(nullptr), nullptr);
+    HWND window = CreateWindowExW(0, L"STATIC", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr,
+                                  nullptr, nullptr);
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(onMessage));
+    return window;
 }
 
 void answerRequest(std::unique_ptr<Request> request, HWND window) {
-    try {
-        request->text = OpenedClipboard().text();
-    } catch (const std::bad_alloc &) {
-        request->text.reset(); // too large counts as no text
-    }
+    request->text = clipboardText();
     if (PostMessageW(window, answered, 0, reinterpret_cast<LPARAM>(request.get())) != FALSE) {
         static_cast<void>(request.release()); // the window owns it now
     }

@@ -4,7 +4,6 @@
 
 #include "AccessibleRows.h"
 #include "dragdrop/ListCtrlSource.h"
-#include "readers/describe.h"
 
 #include <atk/atk.h>
 
@@ -26,15 +25,6 @@ AtkObjectClass *parentClass() {
     return ATK_OBJECT_CLASS(g_type_class_peek(ATK_TYPE_OBJECT));
 }
 
-const char *getName(AtkObject *object) {
-    const Item &item = itemOf(object);
-    if (item.rows != nullptr) {
-        g_free(object->name);
-        object->name = g_strdup(rowText(item.rows->list(), item.row).utf8_str());
-    }
-    return object->name;
-}
-
 int getIndex(AtkObject *object) {
     return static_cast<int>(itemOf(object).row);
 }
@@ -52,25 +42,24 @@ AtkStateSet *refStates(AtkObject *object) {
     if (item.rows == nullptr) {
         return states;
     }
-    const wxListCtrl &list = item.rows->list();
+    ListCtrlSource &list = item.rows->list();
+    const bool isCurrent = item.row == list.currentRow();
+    const bool isVisible = list.IsShownOnScreen();
     const long top = list.GetTopItem();
-    const bool isCurrent = list.GetItemState(item.row, wxLIST_STATE_FOCUSED) != 0;
     for (const AtkStateType always :
          {ATK_STATE_ENABLED, ATK_STATE_SENSITIVE, ATK_STATE_FOCUSABLE, ATK_STATE_SELECTABLE}) {
         set(always, true);
     }
-    set(ATK_STATE_VISIBLE, list.IsShownOnScreen());
-    set(ATK_STATE_SHOWING,
-        list.IsShownOnScreen() && item.row >= top && item.row < top + list.GetCountPerPage());
-    set(ATK_STATE_SELECTED, item.rows->marks().isMarked(item.row));
+    set(ATK_STATE_VISIBLE, isVisible);
+    set(ATK_STATE_SHOWING, isVisible && item.row >= top && item.row < top + list.GetCountPerPage());
+    set(ATK_STATE_SELECTED, list.marks().isMarked(item.row));
     set(ATK_STATE_ACTIVE, isCurrent);
-    set(ATK_STATE_FOCUSED, isCurrent && item.rows->hasFocus());
+    set(ATK_STATE_FOCUSED, isCurrent && list.HasFocus());
     return states;
 }
 
 void initClass(void *itemClass, void *) {
     AtkObjectClass *accessible = ATK_OBJECT_CLASS(itemClass);
-    accessible->get_name = getName;
     accessible->get_index_in_parent = getIndex;
     accessible->ref_state_set = refStates;
 }
@@ -79,11 +68,10 @@ void getExtents(AtkComponent *object, int *x, int *y, int *width, int *height, A
     const Item &item = itemOf(object);
     wxRect rect;
     if (item.rows != nullptr && item.rows->list().GetItemRect(item.row, rect)) {
-        const wxListCtrl &list = item.rows->list();
+        ListCtrlSource &list = item.rows->list();
         rect.SetPosition(list.ClientToScreen(rect.GetPosition()));
         if (from != ATK_XY_SCREEN) {
-            rect.SetPosition(
-                wxGetTopLevelParent(&item.rows->list())->ScreenToClient(rect.GetPosition()));
+            rect.SetPosition(wxGetTopLevelParent(&list)->ScreenToClient(rect.GetPosition()));
         }
     }
     *x = rect.x;
@@ -97,10 +85,8 @@ int grabFocus(AtkComponent *object) {
     if (item.rows == nullptr) {
         return FALSE;
     }
-    wxListCtrl &list = item.rows->list();
-    list.SetItemState(item.row, wxLIST_STATE_FOCUSED, wxLIST_STATE_FOCUSED);
-    list.EnsureVisible(item.row);
-    list.SetFocus();
+    item.rows->list().moveTo(item.row);
+    item.rows->list().SetFocus();
     return TRUE;
 }
 
@@ -127,6 +113,7 @@ AtkObject *AccessibleRows::makeItem(long row) {
     auto *object = static_cast<AtkObject *>(g_object_new(itemType(), nullptr));
     itemOf(object).rows = this;
     itemOf(object).row = row;
+    atk_object_set_name(object, m_list.inWords(row).utf8_str());
     atk_object_set_role(object, ATK_ROLE_LIST_ITEM);
     atk_object_set_parent(object, m_accessible);
     return object;

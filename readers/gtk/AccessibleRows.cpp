@@ -3,8 +3,6 @@
 #include "AccessibleRows.h"
 
 #include "dragdrop/ListCtrlSource.h"
-#include "dragdrop/RowMatch.h"
-#include "readers/describe.h"
 
 #include <gtk/gtk-a11y.h>
 
@@ -47,7 +45,7 @@ AtkStateSet *refStates(AtkObject *accessible) {
     if (rows != nullptr && rows->list().IsShownOnScreen()) {
         atk_state_set_add_state(states, ATK_STATE_SHOWING);
         atk_state_set_add_state(states, ATK_STATE_FOCUSABLE);
-        if (rows->hasFocus()) {
+        if (rows->list().HasFocus()) {
             atk_state_set_add_state(states, ATK_STATE_FOCUSED);
         }
     }
@@ -62,42 +60,32 @@ void initListClass(void *listClass, void *) {
 }
 
 int countMarked(AtkSelection *accessible) {
-    int count = 0;
-    if (const AccessibleRows *rows = rowsOf(accessible)) {
-        for (long row = rows->marks().next(wxNOT_FOUND); row != wxNOT_FOUND;
-             row = rows->marks().next(row)) {
-            ++count;
-        }
-    }
-    return count;
+    const AccessibleRows *rows = rowsOf(accessible);
+    return rows == nullptr ? 0 : rows->list().countMarkedRows();
 }
 
 /// The row of the selected item number `index`, or none.
-long markedRow(AtkSelection *accessible, int index) {
-    if (index < 0 || index >= countMarked(accessible)) {
-        return wxNOT_FOUND;
-    }
-    long row = wxNOT_FOUND;
-    for (; index >= 0; --index) {
-        row = rowsOf(accessible)->marks().next(row);
-    }
-    return row;
+int markedRow(AtkSelection *accessible, int index) {
+    return index < 0 || index >= countMarked(accessible)
+               ? wxNOT_FOUND
+               : static_cast<int>(
+                     rowsOf(accessible)->list().markedRows()[static_cast<std::size_t>(index)]);
 }
 
 AtkObject *refMarked(AtkSelection *accessible, int index) {
-    return refItem(ATK_OBJECT(accessible), static_cast<int>(markedRow(accessible, index)));
+    return refItem(ATK_OBJECT(accessible), markedRow(accessible, index));
 }
 
 int isMarked(AtkSelection *accessible, int row) {
     const AccessibleRows *rows = rowsOf(accessible);
-    return rows != nullptr && rows->marks().isMarked(row) ? TRUE : FALSE;
+    return rows != nullptr && rows->list().marks().isMarked(row) ? TRUE : FALSE;
 }
 
-int setMark(AtkSelection *accessible, long row, bool marked) {
+int setMark(AtkSelection *accessible, int row, bool marked) {
     if (row < 0 || row >= countItems(ATK_OBJECT(accessible))) {
         return FALSE;
     }
-    rowsOf(accessible)->marks().set(row, marked);
+    rowsOf(accessible)->list().marks().set(row, marked);
     return TRUE;
 }
 
@@ -110,13 +98,15 @@ int unmark(AtkSelection *accessible, int index) {
 }
 
 int unmarkAll(AtkSelection *accessible) {
-    while (unmark(accessible, 0) != FALSE) {
+    if (const AccessibleRows *rows = rowsOf(accessible)) {
+        rows->list().clearMarkedRows();
     }
     return TRUE;
 }
 
 int markAll(AtkSelection *accessible) {
-    for (int row = 0; mark(accessible, row) != FALSE; ++row) {
+    if (const AccessibleRows *rows = rowsOf(accessible)) {
+        rows->list().markRows(0, rows->list().GetItemCount() - 1);
     }
     return TRUE;
 }
@@ -150,31 +140,19 @@ void initWidgetClass(void *widgetClass, void *) {
     gtk_widget_class_set_accessible_role(GTK_WIDGET_CLASS(widgetClass), ATK_ROLE_LIST);
 }
 
-void initWidget(GTypeInstance *widget, void *) {
-    gtk_widget_set_has_window(GTK_WIDGET(widget), FALSE);
-}
-
 GType widgetType() {
     static const GType type =
         g_type_register_static_simple(GTK_TYPE_WIDGET, "ColumnImportRows", sizeof(GtkWidgetClass),
-                                      initWidgetClass, sizeof(GtkWidget), initWidget, GTypeFlags());
+                                      initWidgetClass, sizeof(GtkWidget), nullptr, GTypeFlags());
     return type;
-}
-
-/// The part of the list control that shows the rows and takes the keys.
-wxWindow &rowArea(wxListCtrl &list) {
-    wxWindow *area = &list;
-    for (wxWindow *part : list.GetChildren()) {
-        area = part->AcceptsFocus() ? part : area;
-    }
-    return *area;
 }
 
 } // namespace
 
 AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &name) : m_list(list) {
     auto *widget = static_cast<GtkWidget *>(g_object_new(widgetType(), nullptr));
-    GtkWidget *area = rowArea(list).GetHandle();
+    gtk_widget_set_has_window(widget, FALSE);
+    GtkWidget *area = list.GetTargetWindow()->GetHandle(); // shows the rows and takes the keys
     gtk_container_add(GTK_CONTAINER(area), widget);
     gtk_widget_show(widget);
     m_accessible = ATK_OBJECT(g_object_ref(gtk_widget_get_accessible(widget)));
@@ -183,15 +161,15 @@ AccessibleRows::AccessibleRows(ListCtrlSource &list, const wxString &name) : m_l
         atk_object_set_name(gtk_widget_get_accessible(part), name.utf8_str());
     }
 
-    marks().onChange([this](long row) { reportMark(row); });
-    m_list.Bind(wxEVT_LIST_ITEM_FOCUSED, &AccessibleRows::onCurrentRow, this);
-    m_list.Bind(wxEVT_LIST_DELETE_ALL_ITEMS, &AccessibleRows::onNoRows, this);
-    m_list.Bind(wxEVT_SET_FOCUS, &AccessibleRows::onFocus, this);
-    m_list.Bind(wxEVT_KILL_FOCUS, &AccessibleRows::onFocus, this);
+    list.marks().onChange([this](long row) { reportMark(row); });
+    list.Bind(wxEVT_LIST_ITEM_FOCUSED, &AccessibleRows::onCurrentRow, this);
+    list.Bind(wxEVT_LIST_DELETE_ALL_ITEMS, &AccessibleRows::onNoRows, this);
+    list.Bind(wxEVT_SET_FOCUS, &AccessibleRows::onFocus, this);
+    list.Bind(wxEVT_KILL_FOCUS, &AccessibleRows::onFocus, this);
 }
 
 AccessibleRows::~AccessibleRows() {
-    marks().onChange(nullptr);
+    m_list.marks().onChange(nullptr);
     forgetItems();
     reinterpret_cast<RowList *>(m_accessible)->rows = nullptr;
     g_object_unref(m_accessible);
@@ -210,9 +188,7 @@ void AccessibleRows::onNoRows(wxListEvent &event) {
 void AccessibleRows::onFocus(wxFocusEvent &event) {
     const bool isGained = event.GetEventType() == wxEVT_SET_FOCUS;
     atk_object_notify_state_change(m_accessible, ATK_STATE_FOCUSED, isGained ? TRUE : FALSE);
-    reportCurrentRow(isGained
-                         ? m_list.GetNextItem(wxNOT_FOUND, wxLIST_NEXT_ALL, wxLIST_STATE_FOCUSED)
-                         : wxNOT_FOUND);
+    reportCurrentRow(isGained ? m_list.currentRow() : wxNOT_FOUND);
     event.Skip();
 }
 
@@ -220,15 +196,11 @@ void AccessibleRows::announce(const std::vector<long> &rows) {
     for (const long row : rows) {
         const auto known = m_items.find(row);
         if (known != m_items.end()) {
-            g_object_notify(G_OBJECT(known->second), "accessible-name");
+            atk_object_set_name(known->second, m_list.inWords(row).utf8_str());
         }
     }
-    const wxString text = rowsText(rowText(m_list, rows.front()), rows.size());
+    const wxString text = rowsText(m_list.inWords(rows.front()), rows.size());
     g_signal_emit_by_name(m_accessible, "announcement", text.utf8_str().data());
-}
-
-RowMarks &AccessibleRows::marks() const {
-    return m_list.marks();
 }
 
 AtkObject *AccessibleRows::item(long row) {
@@ -239,16 +211,11 @@ AtkObject *AccessibleRows::item(long row) {
     return known;
 }
 
-bool AccessibleRows::hasFocus() const {
-    const wxWindow *focus = wxWindow::FindFocus();
-    return focus != nullptr && (focus == &m_list || focus->GetParent() == &m_list);
-}
-
 void AccessibleRows::reportMark(long row) {
     const auto known = m_items.find(row);
     if (known != m_items.end()) {
         atk_object_notify_state_change(known->second, ATK_STATE_SELECTED,
-                                       marks().isMarked(row) ? TRUE : FALSE);
+                                       m_list.marks().isMarked(row) ? TRUE : FALSE);
     }
     g_signal_emit_by_name(m_accessible, "selection-changed");
 }
@@ -259,7 +226,7 @@ void AccessibleRows::reportCurrentRow(long row) {
         atk_object_notify_state_change(before->second, ATK_STATE_FOCUSED, FALSE);
     }
     m_reportedRow = row;
-    if (row >= 0 && hasFocus()) {
+    if (row >= 0 && m_list.HasFocus()) {
         atk_object_notify_state_change(item(row), ATK_STATE_FOCUSED, TRUE);
         g_signal_emit_by_name(m_accessible, "active-descendant-changed", item(row));
     }

@@ -14,7 +14,6 @@ class wxListEvent;
 namespace columnimport {
 
 class ListCtrlSource;
-class RowMarks;
 
 /// The rows of the match list for a screen reader. The list control draws them itself, so a reader
 /// would find one empty area. An invisible widget in that area represents them as a list of items.
@@ -41,11 +40,9 @@ public:
     /// be empty.
     void announce(const std::vector<long> &rows);
 
-    // For the items.
+    // For the accessible objects.
     ListCtrlSource &list() const { return m_list; }
-    RowMarks &marks() const;
     AtkObject *item(long row);
-    bool hasFocus() const;
 
 private:
     /// Creates the item of `row`. The caller owns a reference; a reader may keep one longer.

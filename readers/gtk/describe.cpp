@@ -2,9 +2,8 @@
 
 #include "readers/describe.h"
 
-#include "dragdrop/ListBoxSource.h"
-
 #include <gtk/gtk.h>
+#include <wx/window.h>
 
 namespace columnimport {
 
@@ -16,7 +15,8 @@ void setName(GtkWidget *widget, const wxString &name) {
 
 } // namespace
 
-// A list consists of several widgets, and a reader stops at the one that takes the keys.
+// A list consists of several widgets, and a reader stops at the one that takes the keys. The cells
+// of the file columns describe their check marks themselves.
 void setAccessibleName(wxWindow &control, const wxString &name) {
     setName(control.GetHandle(), name);
     if (control.m_focusWidget != nullptr) {
@@ -25,11 +25,6 @@ void setAccessibleName(wxWindow &control, const wxString &name) {
     for (wxWindow *part : control.GetChildren()) {
         setAccessibleName(*part, name);
     }
-}
-
-// The cells of the list describe their check marks in words.
-void describeFileColumns(ListBoxSource &list, const wxString &name) {
-    setAccessibleName(list, name);
 }
 
 void announceWhenShown(wxWindow &control) {

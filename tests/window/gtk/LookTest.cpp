@@ -3,7 +3,7 @@
 // The look of the dialog in any theme and size of fonts: meaningful colours are distinct, and cut
 // texts have tooltips.
 
-#include "dragdrop/gtk/markColours.h"
+#include "dragdrop/gtk/RowMarks.h"
 #include "person/DialogRun.h"
 #include "person/Screen.h"
 #include "person/gtk/inkOf.h"

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragdrop/UseMarks.h"
+#include "dragdrop/FileEntries.h"
 
 #include "languages/translated.h"
 
@@ -99,11 +99,26 @@ void markCell(GtkCellLayout *, GtkCellRenderer *cell, GtkTreeModel *model, GtkTr
     char *&name = nameCell(cell).markedName;
     g_free(name);
     name = nullptr;
-    if (static_cast<const UseMarks *>(marks)->isUsed(row)) {
+    if (static_cast<const FileEntries *>(marks)->isMarked(row)) {
         g_object_get(cell, "text", &name, nullptr);
         const wxString words = wxString::Format(translated("%s, in use"), wxString::FromUTF8(name));
         g_object_set(cell, "text", words.utf8_str().data(), nullptr);
     }
+}
+
+/// The toolkit handles Return before it sends any key event.
+gboolean passReturnOn(GtkWidget *, GdkEvent *event, void *list) {
+    const bool isReturn = event->type == GDK_KEY_PRESS && (event->key.keyval == GDK_KEY_Return ||
+                                                           event->key.keyval == GDK_KEY_KP_Enter ||
+                                                           event->key.keyval == GDK_KEY_ISO_Enter);
+    if (!isReturn) {
+        return FALSE;
+    }
+    wxKeyEvent key(wxEVT_CHAR_HOOK);
+    key.m_keyCode = WXK_RETURN;
+    key.SetControlDown((event->key.state & GDK_CONTROL_MASK) != 0);
+    key.SetEventObject(static_cast<wxListBox *>(list));
+    return static_cast<wxListBox *>(list)->HandleWindowEvent(key) ? TRUE : FALSE;
 }
 
 GtkTreeView *viewOf(const wxListBox &list) {
@@ -117,30 +132,31 @@ GtkCellLayout *cellsOf(const wxListBox &list) {
 } // namespace
 
 // Replaces the toolkit's own cell, which shows the entry's text too.
-UseMarks::UseMarks(wxListBox &list) : m_list(list) {
+FileEntries::FileEntries(wxListBox &list) : m_list(list) {
     GtkCellLayout *cells = cellsOf(list);
     auto *cell = static_cast<GtkCellRenderer *>(g_object_new(cellType(), nullptr));
-    nameCell(cell).room = width();
+    nameCell(cell).room = markWidth();
     gtk_cell_layout_clear(cells);
     gtk_cell_layout_pack_start(cells, cell, TRUE);
     gtk_cell_layout_add_attribute(cells, cell, "text", 0);
     gtk_cell_layout_set_cell_data_func(cells, cell, markCell, this, nullptr);
+    g_signal_connect(list.m_focusWidget, "event", G_CALLBACK(passReturnOn), &list);
 }
 
-UseMarks::~UseMarks() {
+FileEntries::~FileEntries() {
     gtk_cell_layout_clear(cellsOf(m_list));
 }
 
-void UseMarks::showNames(const wxArrayString &names) {
+void FileEntries::showNames(const wxArrayString &names) {
     m_list.Clear();
-    m_isUsed.assign(names.size(), false);
+    m_isMarked.assign(names.size(), false);
     if (!names.empty()) {
         m_list.Append(names);
     }
 }
 
-void UseMarks::set(unsigned row, bool isUsed) {
-    m_isUsed[row] = isUsed;
+void FileEntries::mark(unsigned row, bool isUsed) {
+    m_isMarked[row] = isUsed;
     GtkTreeModel *model = gtk_tree_view_get_model(viewOf(m_list));
     GtkTreePath *path = gtk_tree_path_new_from_indices(static_cast<int>(row), -1);
     GtkTreeIter entry;
@@ -149,7 +165,15 @@ void UseMarks::set(unsigned row, bool isUsed) {
     gtk_tree_path_free(path);
 }
 
-int UseMarks::width() const {
+void FileEntries::goTo(int row) {
+    GtkTreePath *path = gtk_tree_path_new_from_indices(row, -1);
+    m_list.GTKDisableEvents();
+    gtk_tree_view_set_cursor(viewOf(m_list), path, nullptr, FALSE);
+    m_list.GTKEnableEvents();
+    gtk_tree_path_free(path);
+}
+
+int FileEntries::markWidth() const {
     return m_list.GetCharHeight();
 }
 

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragdrop/dragText.h"
+#include "dragdrop/listMouse.h"
 
 #include "dragParts.h" // of the platform
 
 #include <wx/dnd.h>
-#include <wx/event.h>
 #include <wx/utils.h>
 #include <wx/window.h>
 
@@ -45,17 +44,33 @@ private:
 
 } // namespace
 
+void ignoreOtherButtons(wxWindow &list) {
+    for (const auto &press :
+         {wxEVT_MIDDLE_DOWN, wxEVT_MIDDLE_DCLICK, wxEVT_RIGHT_DOWN, wxEVT_RIGHT_DCLICK}) {
+        list.Bind(press, [](wxMouseEvent &) {});
+    }
+}
+
+void setTip(wxWindow &list, const wxString &tip) {
+    if (tip != list.GetToolTipText()) {
+        list.SetToolTip(tip);
+    }
+}
+
+void tipWhereCut(wxWindow &list, const wxString &name, int room) {
+    setTip(list, list.GetTextExtent(name).x > room ? name : wxString());
+}
+
 bool movedWithButtonDown(const wxMouseEvent &move) {
     return wxGetMouseState().LeftIsDown() && move.LeftIsDown();
 }
 
-void dragText(wxWindow &source, const wxString &text, const wxString &shown) {
-    const DelayedClose close(source);
+void dragText(wxWindow &list, const wxString &text, const wxString &shown) {
+    const DelayedClose close(list);
     UnicodeText data(text);
-    wxDropSource drag(&source);
+    wxDropSource drag(&list);
     drag.SetData(data);
-    const RunningDrag running(drag, source, shown);
-    drag.DoDragDrop(wxDrag_AllowMove);
+    runDrag(drag, list, shown);
 }
 
 } // namespace columnimport

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "dragdrop/UseMarks.h"
+#include "dragdrop/FileEntries.h"
 
 #include <wx/listbox.h>
 #include <wx/vector.h>
@@ -19,15 +19,15 @@ wxString entryText(const wxString &name, bool isUsed) {
 
 } // namespace
 
-UseMarks::UseMarks(wxListBox &list) : m_list(list) {
+FileEntries::FileEntries(wxListBox &list) : m_list(list) {
     list.MSWSetTabStops(wxVector<int>(1, roomInDialogUnits));
 }
 
-UseMarks::~UseMarks() = default;
+FileEntries::~FileEntries() = default;
 
-void UseMarks::showNames(const wxArrayString &names) {
+void FileEntries::showNames(const wxArrayString &names) {
     m_list.Clear();
-    m_isUsed.assign(names.size(), false);
+    m_isMarked.assign(names.size(), false);
     wxArrayString texts;
     texts.reserve(names.size());
     for (const wxString &name : names) {
@@ -38,12 +38,16 @@ void UseMarks::showNames(const wxArrayString &names) {
     }
 }
 
-void UseMarks::set(unsigned row, bool isUsed) {
-    m_isUsed[row] = isUsed;
+void FileEntries::mark(unsigned row, bool isUsed) {
+    m_isMarked[row] = isUsed;
     m_list.SetString(row, entryText(m_list.GetString(row), isUsed));
 }
 
-int UseMarks::width() const {
+void FileEntries::goTo(int row) {
+    m_list.SetSelection(row);
+}
+
+int FileEntries::markWidth() const {
     return m_list.ConvertDialogToPixels(wxSize(roomInDialogUnits, 0)).x;
 }
 

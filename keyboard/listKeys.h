@@ -7,10 +7,32 @@
 #include <optional>
 
 #include <wx/event.h>
+#include <wx/longlong.h>
+#include <wx/string.h>
 
 namespace columnimport {
 
+class ListBoxSource;
 class ListCtrlSource;
+
+/// The keys of the list of file columns. Ctrl+Return picks the selected entry, like a double click.
+/// Ctrl+C copies its name. Typing selects the next entry that begins with the typed text, or else
+/// the next one that contains it.
+class FileListKeys : public wxEvtHandler {
+public:
+    /// Attaches itself to `files`. Both lists must outlive this object.
+    FileListKeys(ListBoxSource &files, ListCtrlSource &matches);
+
+private:
+    void onKeyDown(wxKeyEvent &event);
+    void onReturn(wxKeyEvent &event);
+    void onCharacter(wxKeyEvent &event);
+
+    ListBoxSource &m_files;
+    ListCtrlSource &m_matches;
+    wxString m_typed;
+    wxLongLong m_typedAt; // time of its last character, in milliseconds
+};
 
 /// The keys of the match list. The arrow keys move the current row and highlight it. Keys that
 /// change matches apply to the marked rows, or else to the current one.
@@ -36,7 +58,6 @@ private:
 
     void showCurrentRow();
     void markCurrentRow(bool alone);
-    void copy(long row);
 
     ListCtrlSource &m_list;
     Paste m_paste;

@@ -6,8 +6,9 @@
 // until `m_waiting` is false. So a high-priority idle call added before the drag runs first in that
 // loop. If the toolkit begins no drag, the call runs later, without one.
 
-#include "RunningDrag.h"
+#include "dragParts.h"
 
+#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -19,13 +20,14 @@
 
 namespace columnimport {
 
+namespace {
+
 /// A pointer of our own beside the toolkit's. It leaves the program when a drag begins. Create it
 /// only if the seat has a pointer: a compositor disconnects a program that asks for a missing one.
 class WaylandPointer {
 public:
-    explicit WaylandPointer(GdkDisplay *display)
-        : m_pointer(wl_seat_get_pointer(
-              gdk_wayland_seat_get_wl_seat(gdk_display_get_default_seat(display)))) {
+    explicit WaylandPointer(GdkSeat *seat)
+        : m_pointer(wl_seat_get_pointer(gdk_wayland_seat_get_wl_seat(seat))) {
         wl_proxy_add_dispatcher(reinterpret_cast<wl_proxy *>(m_pointer), onEvent, nullptr,
                                 &m_hasLeft);
     }
@@ -55,7 +57,27 @@ private:
     bool m_hasLeft = false;
 };
 
-namespace {
+/// Makes the label of a drag. The caller owns a reference.
+GtkWidget *makeLabel(const wxString &text) {
+    GtkWidget *label = gtk_label_new(text.utf8_str());
+    gtk_label_set_single_line_mode(GTK_LABEL(label), TRUE);
+    gtk_label_set_ellipsize(GTK_LABEL(label), PANGO_ELLIPSIZE_END);
+    gtk_label_set_max_width_chars(GTK_LABEL(label), 40);
+    GtkCssProvider *provider = gtk_css_provider_new();
+    gtk_css_provider_load_from_data(provider, "label { padding: 2px 6px; border: 1px solid; }", -1,
+                                    nullptr);
+    GtkStyleContext *style = gtk_widget_get_style_context(label);
+    gtk_style_context_add_class(style, GTK_STYLE_CLASS_VIEW); // the colours of a list
+    gtk_style_context_add_provider(style, GTK_STYLE_PROVIDER(provider),
+                                   GTK_STYLE_PROVIDER_PRIORITY_APPLICATION);
+    g_object_unref(provider);
+    gtk_widget_show(label);
+    // Without a size request, the window would shrink a label that may be cut to its ellipsis.
+    int width = 0;
+    gtk_widget_get_preferred_width(label, nullptr, &width);
+    gtk_widget_set_size_request(label, width, -1);
+    return GTK_WIDGET(g_object_ref_sink(label));
+}
 
 // Reports the failure as handled. Otherwise GTK animates the label back to where the drag began,
 // and the label takes button presses on its way.
@@ -63,13 +85,32 @@ gboolean reportHandled(GtkWidget *, GdkDragContext *, GtkDragResult, void *) {
     return TRUE;
 }
 
-// A person may drag with a finger.
-bool hasPointer(GdkDisplay *display) {
-    return (gdk_seat_get_capabilities(gdk_display_get_default_seat(display)) &
-            GDK_SEAT_CAPABILITY_POINTER) != 0;
-}
+/// Adds a label beside the pointer to the toolkit's drag, and ends the drag if the compositor
+/// ignores it or the receiving program hangs. The label leaves the row under the pointer visible,
+/// whose highlight shows where the drop will go.
+class RunningDrag {
+public:
+    /// Create it before `drag` begins, and keep it until the drag ends.
+    RunningDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown);
+    ~RunningDrag();
+    RunningDrag(const RunningDrag &) = delete;
+    RunningDrag &operator=(const RunningDrag &) = delete;
 
-} // namespace
+private:
+    static gboolean begin(void *self);
+    void endIfIgnored();
+    static void limitDrop(GdkDragContext *, int, void *self);
+    static gboolean endUnfinished(void *self);
+
+    wxDropSource &m_drag;
+    GtkWidget *m_label;
+    int m_right; // of the label, from the pointer, in pixels
+    int m_below;
+    std::unique_ptr<WaylandPointer> m_pointer; // null without Wayland or a pointer
+    GdkDragContext *m_context = nullptr;       // null until the drag runs
+    unsigned m_due;                            // the call of `begin` or `endUnfinished`, or 0
+    unsigned long m_failing;
+};
 
 // Two lines of text are taller than a row. Some Wayland compositors ignore an offset from the
 // pointer, so there the label has a transparent margin instead.
@@ -81,8 +122,10 @@ RunningDrag::RunningDrag(wxDropSource &drag, const wxWindow &source, const wxStr
           g_signal_connect(drag.m_widget, "drag-failed", G_CALLBACK(reportHandled), nullptr)) {
     GdkDisplay *display = gtk_widget_get_display(drag.m_widget);
     if (GDK_IS_WAYLAND_DISPLAY(display)) {
-        if (hasPointer(display)) {
-            m_pointer = std::make_unique<WaylandPointer>(display);
+        GdkSeat *seat = gdk_display_get_default_seat(display);
+        // A person may drag with a finger.
+        if ((gdk_seat_get_capabilities(seat) & GDK_SEAT_CAPABILITY_POINTER) != 0) {
+            m_pointer = std::make_unique<WaylandPointer>(seat);
         }
         gtk_widget_set_margin_start(m_label, std::exchange(m_right, 0));
         gtk_widget_set_margin_top(m_label, std::exchange(m_below, 0));
@@ -106,7 +149,7 @@ RunningDrag::~RunningDrag() {
     }
 }
 
-int RunningDrag::begin(void *self) {
+gboolean RunningDrag::begin(void *self) {
     auto &drag = *static_cast<RunningDrag *>(self);
     drag.m_due = 0;
     drag.endIfIgnored();
@@ -139,11 +182,18 @@ void RunningDrag::limitDrop(GdkDragContext *, int, void *self) {
     static_cast<RunningDrag *>(self)->m_due = g_timeout_add(milliseconds, endUnfinished, self);
 }
 
-int RunningDrag::endUnfinished(void *self) {
+gboolean RunningDrag::endUnfinished(void *self) {
     auto &drag = *static_cast<RunningDrag *>(self);
     drag.m_due = 0;
     gtk_drag_cancel(drag.m_context);
     return G_SOURCE_REMOVE;
+}
+
+} // namespace
+
+void runDrag(wxDropSource &drag, const wxWindow &source, const wxString &shown) {
+    const RunningDrag running(drag, source, shown);
+    drag.DoDragDrop(wxDrag_AllowMove);
 }
 
 } // namespace columnimport
