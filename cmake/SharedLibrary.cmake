@@ -27,12 +27,10 @@ add_library(columnimport SHARED
     dragdrop/TextDropTarget.cpp
     dragdrop/controls.cpp
     dragdrop/dragText.cpp
-    host/${platform}/HostStandIn.cpp
     host/${platform}/X11Owner.cpp
-    host/${platform}/modalLoop.cpp
+    host/${platform}/modalRun.cpp
     host/${platform}/startToolkit.cpp
     host/c/show.cpp
-    host/c/showOverX11.cpp
     host/runImport.cpp
     host/toolkit.cpp
     host/wxImportCSVDialogPeer.cpp

@@ -8,13 +8,13 @@
 #include "dialogs/wxImportODBCDialog.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "host/HostStandIn.h"
 #include "host/c/columnimport.h"
-#include "host/modalLoop.h"
+#include "host/modalRun.h"
 #include "host/toolkit.h"
 #include "names/nameText.h"
 
 #include <wx/log.h>
+#include <wx/recguard.h>
 
 namespace columnimport {
 
@@ -43,21 +43,6 @@ namespace {
 /// The dialog's place, on platforms that let a program place its windows.
 const wxPoint framePlace(100, 100);
 
-/// Marks that a dialog of the library is open; there is one at a time. Meanwhile the toolkit logs
-/// nothing, neither to the host's console nor in windows of its own.
-class OpenRun {
-public:
-    static inline bool isOpen = false;
-
-    OpenRun() { isOpen = true; }
-    ~OpenRun() { isOpen = false; }
-    OpenRun(const OpenRun &) = delete;
-    OpenRun &operator=(const OpenRun &) = delete;
-
-private:
-    wxLogNull m_silence;
-};
-
 /// The frame's size for a host that asks for `size`: exactly that at the usual scale. At another
 /// scale the host can't know what to ask for, so the size follows the scale, up to the end of the
 /// screen.
@@ -73,8 +58,8 @@ wxSize frameSize(const wxWindow &dialog, wxSize size) {
     return size;
 }
 
-std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
-                 std::optional<ImportResult> &result) {
+std::int32_t show(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
+                  std::optional<ImportResult> &result) {
     DialogAccess::setOptions(dialog, request);
     dialog.SetPosition(framePlace); // to be fitted to the screen there
     dialog.create();
@@ -102,21 +87,23 @@ std::int32_t runImport(HostWindow hostWindow, const ImportRequest &request,
     if (!isToolkitSetUp()) {
         return columnimport_no_display;
     }
-    if (OpenRun::isOpen) {
+    static wxRecursionGuardFlag openRuns = 0;
+    const wxRecursionGuard run(openRuns);
+    if (run.IsInside()) {
         return columnimport_already_open;
     }
-    const OpenRun openRun;
+    const wxLogNull silence; // no messages on the host's console or in windows
     HostStandIn parent(hostWindow);
     const wxString title = shownText(request.title);
     if (request.table) {
         wxImportODBCDialog dialog(parent.window(), title, request.appColumns, request.path,
                                   request.useSavedMatches, request.savedMatches, *request.table);
-        return run(dialog, parent, request, result);
+        return show(dialog, parent, request, result);
     }
     wxImportCSVDialog dialog(parent.window(), title, request.appColumns, request.path,
                              request.useSavedMatches, request.savedMatches, request.delimiter,
                              request.holdsTitles);
-    return run(dialog, parent, request, result);
+    return show(dialog, parent, request, result);
 }
 
 } // namespace columnimport
