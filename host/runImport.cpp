@@ -40,11 +40,11 @@ struct DialogAccess {
 
 namespace {
 
-/// The dialog's place, on platforms that let a program place its windows.
+/// The position of the dialog, on platforms where a program may place its windows.
 const wxPoint framePlace(100, 100);
 
-/// The frame's size for a host that asks for `size`: exactly that at the usual scale. At another
-/// scale the host can't know what to ask for, so the size follows the scale, up to the end of the
+/// The size of the frame if the host asks for `size`. At the usual scale it is exactly that. At
+/// another scale the host can't know what to ask for, so the size is scaled, up to the end of the
 /// screen.
 wxSize frameSize(const wxWindow &dialog, wxSize size) {
     constexpr int greatestSize = 32000; // no screen has as many pixels
@@ -61,7 +61,7 @@ wxSize frameSize(const wxWindow &dialog, wxSize size) {
 std::int32_t show(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
                   std::optional<ImportResult> &result) {
     DialogAccess::setOptions(dialog, request);
-    dialog.SetPosition(framePlace); // to be fitted to the screen there
+    dialog.SetPosition(framePlace); // `create` fits the dialog to the screen from there
     dialog.create();
     // The fitted size is only a default: the host may ask for less.
     dialog.SetMinSize(wxDefaultSize);
@@ -92,7 +92,7 @@ std::int32_t runImport(HostWindow hostWindow, const ImportRequest &request,
     if (run.IsInside()) {
         return columnimport_already_open;
     }
-    const wxLogNull silence; // no messages on the host's console or in windows
+    const wxLogNull silence; // the toolkit would log to the host's console or open windows
     HostStandIn parent(hostWindow);
     const wxString title = shownText(request.title);
     if (request.table) {

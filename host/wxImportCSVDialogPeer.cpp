@@ -14,7 +14,7 @@ using columnimport::ImportResult;
 
 namespace {
 
-/// The matches as a host of the peer gets them: their names alone.
+/// The matches as a host of the peer gets them: only their names, empty for none.
 std::vector<std::string> namesOf(ImportResult result) {
     std::vector<std::string> names;
     names.reserve(result.matches.size());

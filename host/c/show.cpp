@@ -30,7 +30,7 @@ std::int32_t show(columnimport_import &import, columnimport::HostWindow window) 
     return outcome;
 }
 
-/// The outcome of `run`, which calls `show`, on an import whose dialog may be open or freed then.
+/// The outcome of `run`, which calls `show`. The host may free the import while its dialog is open.
 template <typename Run>
 std::int32_t outcomeOfShow(columnimport_import *import, const Run &run) noexcept {
     if (import != nullptr && import->isOpen) {

@@ -11,7 +11,7 @@ namespace columnimport {
 
 namespace {
 
-/// Ignores X errors while it lives: another program's window may vanish at any time.
+/// Ignores X errors while it lives, since another program's window may vanish at any time.
 class ErrorTrap {
 public:
     explicit ErrorTrap(GdkDisplay *display) : m_display(display) {
@@ -39,7 +39,7 @@ Window parentOf(Display *display, Window window) {
     return parent;
 }
 
-/// Whether a window manager treats the window as a program's.
+/// Whether a window manager manages `window`, which then has the property `state`.
 bool isManaged(Display *display, Window window, Atom state) {
     Atom type = None;
     int format = 0;
@@ -54,8 +54,8 @@ bool isManaged(Display *display, Window window, Atom state) {
     return type != None;
 }
 
-/// The top-level that contains `window`; None for a screen's root or an unknown window. Without a
-/// window manager, the child of the root.
+/// The top-level that contains `window`: a managed window, or without a window manager the child of
+/// the root. None for the root of a screen or an unknown window.
 Window topLevelOf(GdkDisplay *gdkDisplay, Window window) {
     Display *display = gdk_x11_display_get_xdisplay(gdkDisplay);
     const Atom state = gdk_x11_get_xatom_by_name_for_display(gdkDisplay, "WM_STATE");
