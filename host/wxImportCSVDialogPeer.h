@@ -72,20 +72,14 @@ public:
                     bool *firstLineHeader, std::int32_t width, std::int32_t height);
 
     /// Shows the dialog for a database table whose column names the host passes in. No file and no
-    /// database is opened. Everything else is as in the other overload.
+    /// database is opened. Everything else is as in the other overload, except for three arguments,
+    /// all of them input:
     ///
-    /// @param hostWindow       the host's window; null opens the dialog without an owner
-    /// @param title            text of the title bar
-    /// @param appColumns       the application columns, in the host's order
-    /// @param fileSchema       the columns of the table, in its order
-    /// @param fileName         name of the source; nothing reads it
-    /// @param useSavedMatches  in: true shows the table's names, with `savedMatches` if they hold a
-    ///                         name and otherwise with a proposal; false pairs the columns by
-    ///                         position, and the matches come back as "Column1", "Column2" and so
-    ///                         on
-    /// @param savedMatches     in and out, as in the other overload
-    /// @param width, height    size of the dialog's frame in pixels
-    /// @return true exactly if the user pressed OK
+    ///  - `fileSchema`: the columns of the table, in its order.
+    ///  - `fileName`: the name of the source; nothing reads it.
+    ///  - `useSavedMatches`: true shows the table's names, with `savedMatches` if they hold a name
+    ///    and otherwise with a proposal; false pairs the columns by position, and the matches come
+    ///    back as "Column1", "Column2" and so on.
     bool showWindow(columnimport::HostWindow hostWindow, std::string title,
                     std::vector<std::string> appColumns, std::vector<std::string> fileSchema,
                     std::string fileName, bool *useSavedMatches,

@@ -106,7 +106,8 @@ std::int32_t columnimport_add_column(columnimport_import *import, const char *na
 std::int32_t columnimport_add_alternative(columnimport_import *import, std::int32_t column,
                                           const char *name) {
     return fill(import, [&](ImportRequest &request) {
-        entryOf(request, request.alternatives, column).push_back(hostsWord(name));
+        std::string word = hostsWord(name);
+        entryOf(request, request.alternatives, column).push_back(std::move(word));
     });
 }
 
