@@ -29,6 +29,7 @@ struct DialogAccess {
     static ImportResult takeResult(wxImportCSVDialog &dialog) {
         const auto &list = *findControl<ListCtrlSource>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
         std::vector<SourceMatch> matches;
+        matches.reserve(static_cast<std::size_t>(list.GetItemCount()));
         for (int row = 0; row < list.GetItemCount(); ++row) {
             matches.push_back(list.getMatch(row));
         }
