@@ -23,12 +23,10 @@ add_library(columnimport SHARED
     dragdrop/ListCtrlSource.cpp
     dragdrop/TextDropTarget.cpp
     dragdrop/listMouse.cpp
-    host/${platform}/HostStandIn.cpp
     host/${platform}/X11Owner.cpp
-    host/${platform}/modalLoop.cpp
+    host/${platform}/modalRun.cpp
     host/${platform}/startToolkit.cpp
     host/c/show.cpp
-    host/c/showOverX11.cpp
     host/runImport.cpp
     host/toolkit.cpp
     host/wxImportCSVDialogPeer.cpp

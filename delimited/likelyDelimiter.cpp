@@ -17,20 +17,6 @@ bool isDigit(char byte) {
     return byte >= '0' && byte <= '9';
 }
 
-/// Calls `visit` with the position of each byte outside double quotes.
-template <typename Visit>
-void forEachUnquoted(std::string_view line, Visit visit) {
-    const bool arePaired = std::count(line.begin(), line.end(), '"') % 2 == 0;
-    bool isQuoted = false;
-    for (std::size_t i = 0; i < line.size(); ++i) {
-        if (arePaired && line[i] == '"') {
-            isQuoted = !isQuoted;
-        } else if (!isQuoted) {
-            visit(i);
-        }
-    }
-}
-
 /// Whether a delimiter at this position reads like punctuation.
 bool isLikelyText(std::string_view line, std::size_t position) {
     const char before = position > 0 ? line[position - 1] : '\0';
@@ -71,23 +57,27 @@ std::size_t titlesOfOneWord(std::string_view line) {
 } // namespace
 
 std::optional<LikelyDelimiter> likelyDelimiter(std::string_view line) {
-    constexpr std::array usual = {'\t', ';', '|', ','};
+    constexpr std::array delimiters = {'\t', ';', '|', ',', ' '};
     constexpr std::size_t leastWords = 3;
     line = trimmed(line);
-    std::array<Tally, usual.size()> tallies{};
-    std::size_t blanks = 0;
-    forEachUnquoted(line, [&](std::size_t position) {
-        blanks += line[position] == ' ' ? 1 : 0;
-        const auto *const found = std::find(usual.begin(), usual.end(), line[position]);
-        if (found != usual.end()) {
-            Tally &tally = tallies[static_cast<std::size_t>(found - usual.begin())];
-            tally.first += isLikelyText(line, position) ? 0 : 1;
+    const bool areQuotesPaired = std::count(line.begin(), line.end(), '"') % 2 == 0;
+    bool isQuoted = false;
+    std::array<Tally, delimiters.size()> tallies{};
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (areQuotesPaired && line[i] == '"') {
+            isQuoted = !isQuoted;
+        }
+        const auto *const found = std::find(delimiters.begin(), delimiters.end(), line[i]);
+        if (!isQuoted && found != delimiters.end()) {
+            Tally &tally = tallies[static_cast<std::size_t>(found - delimiters.begin())];
+            tally.first += isLikelyText(line, i) ? 0 : 1;
             ++tally.second;
         }
-    });
-    const auto *const most = std::max_element(tallies.begin(), tallies.end());
+    }
+    const std::size_t blanks = tallies.back().second;
+    const auto *const most = std::max_element(tallies.begin(), tallies.end() - 1);
     if (most->second > 0) {
-        return LikelyDelimiter{usual[static_cast<std::size_t>(most - tallies.begin())],
+        return LikelyDelimiter{delimiters[static_cast<std::size_t>(most - tallies.begin())],
                                most->second};
     }
     if (blanks > 0 && titlesOfOneWord(line) >= leastWords) {

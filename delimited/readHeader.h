@@ -31,7 +31,7 @@ enum class FirstLine : unsigned char {
 /// The columns that the first line of a file names, and why there are none or only one.
 struct Header {
     std::vector<std::string> columns;
-    std::vector<std::int32_t> fields; ///< by column, from quotedFields
+    std::vector<std::int32_t> fields; ///< by column, from `quotedFields`
     FirstLine firstLine = FirstLine::unreadable;
     std::optional<LikelyDelimiter> likely; ///< of an undelimited line, if any
     std::error_code reason;                ///< the system's, for an unreadable file

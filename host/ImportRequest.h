@@ -12,7 +12,7 @@
 
 namespace columnimport {
 
-/// What a host asks of one import, through any of the entry points.
+/// What a host asks for with one import. Each entry point fills it.
 struct ImportRequest : ImportOptions {
     std::string title;
     std::int32_t width = 0;
@@ -20,10 +20,10 @@ struct ImportRequest : ImportOptions {
 
     std::vector<std::string> appColumns;
     bool useSavedMatches = false;
-    std::vector<std::string> savedMatches; ///< by application column, empty for none
+    std::vector<std::string> savedMatches; ///< by application column; an empty one is no match
 
     std::string path;                              ///< of the file
-    std::optional<std::vector<std::string>> table; ///< the columns of a table instead
+    std::optional<std::vector<std::string>> table; ///< the columns, if the source is a table
     char delimiter = ',';
     bool holdsTitles = true;
 };

@@ -6,30 +6,22 @@
 
 #include <cstdint>
 #include <memory>
+#include <type_traits>
 
 namespace columnimport {
 
-/// An X11 window of this or another process, as the owner of a dialog. Nothing in it can be clicked
-/// while this object lives. The window may be destroyed meanwhile.
-class X11Owner {
-public:
-    /// Why no X11 window can own a dialog here; null if one can. Opens a display on X11 if none is
-    /// open yet, and sets the toolkit up.
-    static const char *whyUnavailable();
+// Each platform has a file of its own for these.
 
-    /// `window` stands for the top-level that contains it. Call it only if `whyUnavailable` is
-    /// null.
-    explicit X11Owner(std::uint32_t window);
-    ~X11Owner();
-    X11Owner(const X11Owner &) = delete;
-    X11Owner &operator=(const X11Owner &) = delete;
+/// Why no X11 window can own a dialog here; null if one can. Opens a display on X11 if none is open
+/// yet, and sets the toolkit up.
+const char *whyNoX11Owner();
 
-    /// The window to open the dialog over; null if no program has such a window.
-    HostWindow window() const;
+/// An X11 window of this or another process, as the owner of a dialog.
+using X11Owner = std::shared_ptr<std::remove_pointer_t<HostWindow>>;
 
-private:
-    struct Native;
-    std::unique_ptr<Native> m_native;
-};
+/// The owner of a dialog over the top-level that contains the X11 window `window`; null if there is
+/// no such window. Nothing in the top-level can be clicked while the owner lives. The top-level may
+/// be destroyed meanwhile. Call it only if `whyNoX11Owner` is null.
+X11Owner x11Owner(std::uint32_t window);
 
 } // namespace columnimport

@@ -8,13 +8,13 @@
 #include "dialogs/wxImportODBCDialog.h"
 #include "dragdrop/ListCtrlSource.h"
 #include "dragdrop/controls.h"
-#include "host/HostStandIn.h"
 #include "host/c/columnimport.h"
-#include "host/modalLoop.h"
+#include "host/modalRun.h"
 #include "host/toolkit.h"
 #include "names/nameText.h"
 
 #include <wx/log.h>
+#include <wx/recguard.h>
 
 namespace columnimport {
 
@@ -29,6 +29,7 @@ struct DialogAccess {
     static ImportResult takeResult(wxImportCSVDialog &dialog) {
         const auto &list = *findControl<ListCtrlSource>(dialog, wxImportCSVDialog::LISTBOX_MATCH);
         std::vector<SourceMatch> matches;
+        matches.reserve(static_cast<std::size_t>(list.GetItemCount()));
         for (int row = 0; row < list.GetItemCount(); ++row) {
             matches.push_back(list.getMatch(row));
         }
@@ -40,26 +41,11 @@ struct DialogAccess {
 
 namespace {
 
-/// The dialog's place, on platforms that let a program place its windows.
+/// The position of the dialog, on platforms where a program may place its windows.
 const wxPoint framePlace(100, 100);
 
-/// Marks that a dialog of the library is open; there is one at a time. Meanwhile the toolkit logs
-/// nothing, neither to the host's console nor in windows of its own.
-class OpenRun {
-public:
-    static inline bool isOpen = false;
-
-    OpenRun() { isOpen = true; }
-    ~OpenRun() { isOpen = false; }
-    OpenRun(const OpenRun &) = delete;
-    OpenRun &operator=(const OpenRun &) = delete;
-
-private:
-    wxLogNull m_silence;
-};
-
-/// The frame's size for a host that asks for `size`: exactly that at the usual scale. At another
-/// scale the host can't know what to ask for, so the size follows the scale, up to the end of the
+/// The size of the frame if the host asks for `size`. At the usual scale it is exactly that. At
+/// another scale the host can't know what to ask for, so the size is scaled, up to the end of the
 /// screen.
 wxSize frameSize(const wxWindow &dialog, wxSize size) {
     constexpr int greatestSize = 32000; // no screen has as many pixels
@@ -73,10 +59,10 @@ wxSize frameSize(const wxWindow &dialog, wxSize size) {
     return size;
 }
 
-std::int32_t run(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
-                 std::optional<ImportResult> &result) {
+std::int32_t show(wxImportCSVDialog &dialog, HostStandIn &parent, const ImportRequest &request,
+                  std::optional<ImportResult> &result) {
     DialogAccess::setOptions(dialog, request);
-    dialog.SetPosition(framePlace); // to be fitted to the screen there
+    dialog.SetPosition(framePlace); // `create` fits the dialog to the screen from there
     dialog.create();
     // The fitted size is only a default: the host may ask for less.
     dialog.SetMinSize(wxDefaultSize);
@@ -102,21 +88,23 @@ std::int32_t runImport(HostWindow hostWindow, const ImportRequest &request,
     if (!isToolkitSetUp()) {
         return columnimport_no_display;
     }
-    if (OpenRun::isOpen) {
+    static wxRecursionGuardFlag openRuns = 0;
+    const wxRecursionGuard run(openRuns);
+    if (run.IsInside()) {
         return columnimport_already_open;
     }
-    const OpenRun openRun;
+    const wxLogNull silence; // the toolkit would log to the host's console or open windows
     HostStandIn parent(hostWindow);
     const wxString title = shownText(request.title);
     if (request.table) {
         wxImportODBCDialog dialog(parent.window(), title, request.appColumns, request.path,
                                   request.useSavedMatches, request.savedMatches, *request.table);
-        return run(dialog, parent, request, result);
+        return show(dialog, parent, request, result);
     }
     wxImportCSVDialog dialog(parent.window(), title, request.appColumns, request.path,
                              request.useSavedMatches, request.savedMatches, request.delimiter,
                              request.holdsTitles);
-    return run(dialog, parent, request, result);
+    return show(dialog, parent, request, result);
 }
 
 } // namespace columnimport

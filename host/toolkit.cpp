@@ -12,11 +12,11 @@ namespace {
 
 class Application : public wxApp {
 public:
-    /// Passes an exception on to the host. On some platforms the toolkit would ask the user what to
-    /// do with it.
+    /// Passes an exception on to the host. On some platforms, the toolkit would ask the user what
+    /// to do about it.
     bool OnExceptionInMainLoop() override { throw; }
 
-    /// Ignores the failure. The toolkit would ask the user, who can't know, and block the host.
+    /// Ignores a failed assertion. The toolkit would ask the user, and block the host meanwhile.
     void OnAssertFailure(const wxChar *, int, const wxChar *, const wxChar *,
                          const wxChar *) override {}
 };

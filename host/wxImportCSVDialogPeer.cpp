@@ -14,7 +14,7 @@ using columnimport::ImportResult;
 
 namespace {
 
-/// The matches as a host of the peer gets them: their names alone.
+/// The matches as a host of the peer gets them: only their names, empty for none.
 std::vector<std::string> namesOf(ImportResult result) {
     std::vector<std::string> names;
     names.reserve(result.matches.size());
@@ -27,16 +27,32 @@ std::vector<std::string> namesOf(ImportResult result) {
 
 /// The part of the request that both overloads share.
 ImportRequest requestOf(std::string title, std::vector<std::string> appColumns,
-                        bool useSavedMatches, const std::vector<std::string> &savedMatches,
-                        std::int32_t width, std::int32_t height) {
+                        std::string fileName, bool useSavedMatches, std::int32_t width,
+                        std::int32_t height) {
     ImportRequest request;
     request.title = std::move(title);
     request.width = width;
     request.height = height;
     request.appColumns = std::move(appColumns);
     request.useSavedMatches = useSavedMatches;
-    request.savedMatches = savedMatches;
+    request.path = std::move(fileName);
     return request;
+}
+
+/// Runs `request` with the host's variables, and writes them however the dialog ended.
+bool run(columnimport::HostWindow hostWindow, ImportRequest request,
+         std::vector<std::string> &savedMatches, char &delimiter, bool &firstLineHeader) {
+    request.savedMatches = savedMatches;
+    request.delimiter = delimiter;
+    request.holdsTitles = firstLineHeader;
+    std::optional<ImportResult> result;
+    const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
+    if (result) {
+        delimiter = result->delimiter;
+        firstLineHeader = result->holdsTitles;
+        savedMatches = namesOf(std::move(*result));
+    }
+    return outcome == columnimport_ok;
 }
 
 } // namespace
@@ -55,19 +71,10 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
                                        std::vector<std::string> *savedMatches, char *delimiter,
                                        bool *firstLineHeader, std::int32_t width,
                                        std::int32_t height) {
-    ImportRequest request = requestOf(std::move(title), std::move(appColumns), *useSavedMatches,
-                                      *savedMatches, width, height);
-    request.path = std::move(fileName);
-    request.delimiter = *delimiter;
-    request.holdsTitles = *firstLineHeader;
-    std::optional<ImportResult> result;
-    const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
-    if (result) {
-        *delimiter = result->delimiter;
-        *firstLineHeader = result->holdsTitles;
-        *savedMatches = namesOf(std::move(*result));
-    }
-    return outcome == columnimport_ok;
+    return run(hostWindow,
+               requestOf(std::move(title), std::move(appColumns), std::move(fileName),
+                         *useSavedMatches, width, height),
+               *savedMatches, *delimiter, *firstLineHeader);
 }
 
 bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std::string title,
@@ -76,14 +83,10 @@ bool wxImportCSVDialogPeer::showWindow(columnimport::HostWindow hostWindow, std:
                                        bool *useSavedMatches,
                                        std::vector<std::string> *savedMatches, std::int32_t width,
                                        std::int32_t height) {
-    ImportRequest request = requestOf(std::move(title), std::move(appColumns), *useSavedMatches,
-                                      *savedMatches, width, height);
-    request.path = std::move(fileName);
+    ImportRequest request = requestOf(std::move(title), std::move(appColumns), std::move(fileName),
+                                      *useSavedMatches, width, height);
     request.table = std::move(fileSchema);
-    std::optional<ImportResult> result;
-    const std::int32_t outcome = columnimport::runImport(hostWindow, request, result);
-    if (result) {
-        *savedMatches = namesOf(std::move(*result));
-    }
-    return outcome == columnimport_ok;
+    char delimiter = ',';
+    bool firstLineHeader = true;
+    return run(hostWindow, std::move(request), *savedMatches, delimiter, firstLineHeader);
 }

@@ -11,8 +11,8 @@
 
 /// The entry point for a host that does not use the library's toolkit.
 ///
-/// Construct one before the first run, then call `showWindow` once per import, on the host's
-/// user-interface thread. A peer has no state: any number may exist, and destroying one ends
+/// Construct one before the first run, then call `showWindow` once per import. Call both on the
+/// host's user-interface thread. A peer has no state: any number may exist, and destroying one ends
 /// nothing. The host keeps what the next run needs in its own variables:
 ///
 ///     wxImportCSVDialogPeer peer;
@@ -25,7 +25,7 @@
 ///     }
 class COLUMNIMPORT_EXPORT wxImportCSVDialogPeer {
 public:
-    /// Sets the toolkit up for the whole process. Without a display it does nothing and reports
+    /// Sets the toolkit up for the whole process. Without a display, does nothing and reports
     /// nothing; `showWindow` then returns false, and a peer made later tries again.
     wxImportCSVDialogPeer();
 
@@ -37,16 +37,16 @@ public:
     /// @return this peer
     wxImportCSVDialogPeer &operator=(const wxImportCSVDialogPeer &other);
 
-    /// Another peer, as any other.
+    /// Makes a peer like any other.
     wxImportCSVDialogPeer(const wxImportCSVDialogPeer &) = default;
 
     /// Shows the dialog for a delimited text file over the host's window, modally, and blocks until
     /// the user dismisses it.
     ///
-    /// Names are bytes and come back as such; they are shown as UTF-8 if valid, else in the
-    /// process's locale, else as Latin-1. The pointers must not be null and must stay valid for the
-    /// call. All outputs are written however the dialog ended; a host that wants its earlier values
-    /// after a Cancel keeps a copy.
+    /// Names are bytes and come back as such. The dialog shows them as UTF-8 if they are valid,
+    /// else in the process's locale, else as Latin-1. The pointers must not be null and must stay
+    /// valid for the call. All outputs are written however the dialog ended; a host that wants its
+    /// earlier values after a Cancel keeps a copy.
     ///
     /// @param hostWindow       the host's window; null opens the dialog without an owner
     /// @param title            text of the title bar
@@ -60,9 +60,9 @@ public:
     /// @param delimiter        in and out: the field delimiter, one byte taken literally
     /// @param firstLineHeader  in and out: whether the first line holds titles. If false at the
     ///                         end, the matches are positional names such as "Column1"
-    /// @param width, height    size of the dialog's frame in pixels; it stands at 100, 100. The
-    ///                         controls keep their sizes, and a frame too small cuts them off; on a
-    ///                         screen that ends above the buttons both lists are lower
+    /// @param width, height    size of the dialog's frame in pixels; its position is 100, 100. The
+    ///                         controls keep their sizes, and a frame too small cuts them off. On a
+    ///                         screen that ends above the buttons, both lists are lower
     /// @return true exactly if the user pressed OK. False with all variables unchanged if the
     ///         dialog could not be shown: there is no display, no peer was ever made, or a run is
     ///         open already
@@ -72,20 +72,14 @@ public:
                     bool *firstLineHeader, std::int32_t width, std::int32_t height);
 
     /// Shows the dialog for a database table whose column names the host passes in. No file and no
-    /// database is opened. All else is as in the other overload.
+    /// database is opened. Everything else is as in the other overload, except for three arguments,
+    /// all of them input:
     ///
-    /// @param hostWindow       the host's window; null opens the dialog without an owner
-    /// @param title            text of the title bar
-    /// @param appColumns       the application columns, in the host's order
-    /// @param fileSchema       the columns of the table, in its order
-    /// @param fileName         name of the source; nothing reads it
-    /// @param useSavedMatches  in: true shows the table's names, with `savedMatches` if they hold a
-    ///                         name and otherwise with a proposal; false pairs the columns by
-    ///                         position, and the matches come back as "Column1", "Column2" and so
-    ///                         on
-    /// @param savedMatches     in and out, as in the other overload
-    /// @param width, height    size of the dialog's frame in pixels
-    /// @return true exactly if the user pressed OK
+    ///  - `fileSchema`: the columns of the table, in its order.
+    ///  - `fileName`: the name of the source; nothing reads it.
+    ///  - `useSavedMatches`: true shows the table's names, with `savedMatches` if they hold a name
+    ///    and otherwise with a proposal; false pairs the columns by position, and the matches come
+    ///    back as "Column1", "Column2" and so on.
     bool showWindow(columnimport::HostWindow hostWindow, std::string title,
                     std::vector<std::string> appColumns, std::vector<std::string> fileSchema,
                     std::string fileName, bool *useSavedMatches,

@@ -6,7 +6,6 @@
 #include <cassert>
 #include <vector>
 
-#include "matching/blendedMeasure.h"
 #include "matching/synonymTable.h"
 
 namespace columnimport {

@@ -34,29 +34,16 @@ std::vector<std::int32_t> keepStrongest(const std::vector<Vote> &votes, std::siz
     return proposal;
 }
 
-// Shared by both overloads: neither calls the other, since a test counts the instructions of one
-// call.
-std::vector<std::int32_t> proposal(std::vector<std::string> appColumns,
-                                   std::vector<std::string> fileColumns,
-                                   Alternatives alternatives) {
-    assert(alternatives.size() <= appColumns.size());
-    normalizeAll(appColumns);
-    normalizeAll(fileColumns);
-    std::for_each(alternatives.begin(), alternatives.end(), normalizeAll);
-    return keepStrongest(castVotes(appColumns, fileColumns, alternatives), appColumns.size());
-}
-
 } // namespace
 
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
                                        std::vector<std::string> fileColumns,
                                        Alternatives alternatives) {
-    return proposal(std::move(appColumns), std::move(fileColumns), std::move(alternatives));
-}
-
-std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns) {
-    return proposal(std::move(appColumns), std::move(fileColumns), {});
+    assert(alternatives.size() <= appColumns.size());
+    normalizeAll(appColumns);
+    normalizeAll(fileColumns);
+    std::for_each(alternatives.begin(), alternatives.end(), normalizeAll);
+    return keepStrongest(castVotes(appColumns, fileColumns, alternatives), appColumns.size());
 }
 
 } // namespace columnimport

@@ -29,8 +29,6 @@ using Alternatives = std::vector<std::vector<std::string>>;
 ///     matchColumns({"collar"}, {"Easting", "RL"}, {{"rl"}})                     == {1}
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
                                        std::vector<std::string> fileColumns,
-                                       Alternatives alternatives);
-std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns);
+                                       Alternatives alternatives = {});
 
 } // namespace columnimport

@@ -9,10 +9,10 @@
 
 namespace columnimport {
 
-/// Where the match of an application column comes from.
-enum class MatchOrigin : unsigned char {
-    none,        ///< there is no match
-    same,        ///< both names are equal once normalised
+/// Where the match of an application column comes from, with the values of the C header.
+enum class MatchOrigin : signed char {
+    none = -1,   ///< there is no match
+    same = 1,    ///< both names are equal once normalised
     synonym,     ///< the names are synonyms of the field
     alternative, ///< one of the host's alternatives names the source column
     similar,     ///< the names only resemble each other: a guess

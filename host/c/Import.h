@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-/// The object behind a host's pointer.
+/// One import of a host, behind the pointer in the C header.
 struct columnimport_import {
     columnimport::ImportRequest request;
     bool hasSource = false;
@@ -21,7 +21,7 @@ struct columnimport_import {
     std::string words;
 
     bool isOpen = false;     ///< while its dialog is open
-    bool isUnwanted = false; ///< freed meanwhile
+    bool isUnwanted = false; ///< if the host has freed it meanwhile
 };
 
 namespace columnimport {
@@ -50,25 +50,19 @@ inline void require(bool holds, const char *sentence) {
     }
 }
 
-/// The values that a function of the C header returns instead of its result.
-template <typename Value>
-struct Faults {
-    Value wrongUse;
-    Value failed;
-};
-
-/// Runs one call on `import` and lets no exception out.
+/// Runs one call on `import` and lets no exception out: returns `wrongUse` or `failed` instead of
+/// the call's result.
 template <typename Value, typename Call>
-Value answer(columnimport_import *import, const Faults<Value> &faults, const Call &call) noexcept {
+Value answer(columnimport_import *import, Value wrongUse, Value failed, const Call &call) noexcept {
     if (import == nullptr) {
-        return faults.wrongUse;
+        return wrongUse;
     }
     import->message = "";
     try {
         return call(*import);
     } catch (const WrongUse &wrong) {
         import->message = wrong.sentence;
-        return faults.wrongUse;
+        return wrongUse;
     } catch (const std::bad_alloc &) {
         import->message = "There is not enough memory.";
     } catch (const std::exception &exception) {
@@ -81,16 +75,16 @@ Value answer(columnimport_import *import, const Faults<Value> &faults, const Cal
     } catch (...) {
         import->message = "Something unforeseen happened.";
     }
-    return faults.failed;
+    return failed;
 }
 
-/// The same for a function that returns an outcome.
+/// The same for a call that returns an outcome.
 template <typename Call>
 std::int32_t outcomeOf(columnimport_import *import, const Call &call) noexcept {
-    return answer<std::int32_t>(import, {columnimport_wrong_use, columnimport_failed}, call);
+    return answer<std::int32_t>(import, columnimport_wrong_use, columnimport_failed, call);
 }
 
-/// One run: drops the previous result and keeps what `run` returns.
+/// The same for a run: discards the previous result and keeps the outcome.
 template <typename Run>
 std::int32_t outcomeOfRun(columnimport_import *import, const Run &run) noexcept {
     const std::int32_t outcome = outcomeOf(import, [&run](columnimport_import &filled) {
@@ -105,7 +99,7 @@ std::int32_t outcomeOfRun(columnimport_import *import, const Run &run) noexcept 
     return outcome;
 }
 
-/// Checks a position that a host passes in.
+/// Checks a position that a host passes in, and returns it as an index.
 template <typename List>
 std::size_t indexIn(const List &list, std::int32_t position, const char *sentence) {
     require(position >= 0 && static_cast<std::size_t>(position) < list.size(), sentence);

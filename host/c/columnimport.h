@@ -37,21 +37,24 @@ extern "C" {
  *     columnimport_free(import);
  *
  * columnimport_propose runs it without a window, a display or a toolkit. columnimport_show runs it
- * with a dialog in which the user corrects the proposal. A run keeps the content of the import: it
- * may be filled further and run again.
+ * with a dialog in which the user corrects the proposal. A run keeps the content of the import,
+ * which may be filled further and run again.
  *
- * Texts from a source, which are its column names and the matches, are bytes in any encoding, with
- * their length. They may contain zero bytes, and a zero byte that the length does not count follows
- * them. The host's names, the title and the path are UTF-8 and end with a zero byte. Columns are
- * counted from 0.
+ * Arguments: `import` is the import that a call refers to, and `column` an application column,
+ * counted from 0 in the order of columnimport_add_column. Arguments are input, except where
+ * [out] is written. All numbers are signed, and none that is passed in may be negative.
  *
- * The library copies every text that is passed in during the call; the caller still owns it. The
- * library owns every text that it returns; each function documents how long it lives. All numbers
- * are signed, and no argument may be negative.
+ * Texts: column names of a source, and matches, are bytes in any encoding, with their length. They
+ * may contain zero bytes, and a zero byte that the length does not count follows them. The host's
+ * names, the title and the path are UTF-8 and end with a zero byte.
  *
- * A null pointer, a number out of range, a text that is not UTF-8, or a call out of order is wrong
- * use: the function changes nothing and returns columnimport_wrong_use, columnimport_invalid or
- * null, and columnimport_message gives the reason in one sentence. No function throws an exception.
+ * Ownership: the library copies every text that is passed in during the call; the caller still owns
+ * it. The library owns every text that it returns; each function documents how long it lives.
+ *
+ * Wrong use: a null pointer, a number out of range, a text that is not UTF-8, or a call out of
+ * order. The function changes nothing and returns columnimport_wrong_use for an outcome,
+ * columnimport_invalid for another number or null for a text, and columnimport_message gives the
+ * reason in one sentence. No function throws an exception.
  *
  * Threads: use an import on one thread at a time; different imports may be used at the same time.
  * Call columnimport_show and columnimport_show_over_x11 on the user-interface thread; call all
@@ -114,9 +117,7 @@ columnimport_exported const char *columnimport_version(void);
 /**
  * The library's version in numbers. A pointer may be null; that number is not written.
  *
- * @param[out] major  0 in "0.4.1"
- * @param[out] minor  4 in "0.4.1"
- * @param[out] patch  1 in "0.4.1"
+ * @param[out] major, minor, patch  0, 4 and 1 in "0.4.1"
  */
 columnimport_exported void columnimport_version_numbers(int32_t *major, int32_t *minor,
                                                         int32_t *patch);
@@ -131,10 +132,8 @@ columnimport_exported void columnimport_version_numbers(int32_t *major, int32_t 
 columnimport_exported columnimport_import *columnimport_new(void);
 
 /**
- * Frees an import and every text that it returned. If its dialog is open, frees it when the dialog
- * is closed.
- *
- * @param import  the import, which must not be used again; null does nothing
+ * Frees an import, which must not be used again, and every text that it returned. If its dialog is
+ * open, frees it when the dialog is closed. Null does nothing.
  */
 columnimport_exported void columnimport_free(columnimport_import *import);
 
@@ -151,84 +150,59 @@ columnimport_exported const char *columnimport_message(columnimport_import *impo
  * Each of these returns columnimport_ok, columnimport_wrong_use or columnimport_failed. While the
  * dialog of the import is open, all of them are wrong use. */
 
-/**
- * Sets the text of the dialog's title bar, which is empty by default.
- *
- * @param import  the import
- * @param title   UTF-8
- */
+/** Sets the text of the dialog's title bar, UTF-8, which is empty by default. */
 columnimport_exported int32_t columnimport_set_title(columnimport_import *import,
                                                      const char *title);
 
 /**
- * Sets the size of the dialog's frame, in pixels at 96 dots an inch. The default is 900 by 840 for
- * a file and 900 by 620 for a table, which shows all controls.
- *
- * @param import         the import
- * @param width, height  1 or more
+ * Sets the size of the dialog's frame, in pixels at 96 dots an inch, from 1. The default is 900 by
+ * 840 for a file and 900 by 620 for a table, which shows all controls.
  */
 columnimport_exported int32_t columnimport_set_size(columnimport_import *import, int32_t width,
                                                     int32_t height);
 
 /**
- * Adds an application column after the ones added before. It gets the next number: the first one 0,
- * the second one 1.
- *
- * @param import  the import
- * @param name    the host's name for it, UTF-8; it may be empty, and names may be equal
+ * Adds an application column after the ones added before. `name` is the host's name for it, UTF-8;
+ * it may be empty, and names may be equal.
  */
 columnimport_exported int32_t columnimport_add_column(columnimport_import *import,
                                                       const char *name);
 
 /**
- * Adds another word for an application column. A source column with this name, except for case and
- * punctuation, counts like one with a synonym that the library knows. If a source column has an
- * application column's own name, this name counts first.
+ * Adds another name for an application column, UTF-8. A source column with this name, except for
+ * case and punctuation, counts like one with a synonym that the library knows. A source column with
+ * the application column's own name counts first.
  *
  *     columnimport_add_alternative(import, elevation, "RL");
- *
- * @param import  the import
- * @param column  the number of the application column
- * @param name    the word, UTF-8
  */
 columnimport_exported int32_t columnimport_add_alternative(columnimport_import *import,
                                                            int32_t column, const char *name);
 
 /**
- * Sets whether an application column requires a match. If at least one column does, OK checks the
- * matches: if a required column has none, or one source column is matched to two application
- * columns, the dialog asks the user once to press OK again.
- *
- * @param import    the import
- * @param column    the number of the application column
- * @param required  1 for yes, or 0 for no, the default
+ * Sets whether an application column requires a match: 1 for yes, or 0 for no, the default. If at
+ * least one column does, OK checks the matches: if a required column has none, or one source column
+ * is matched to two application columns, the dialog asks the user once to press OK again.
  */
 columnimport_exported int32_t columnimport_set_required(columnimport_import *import, int32_t column,
                                                         int32_t required);
 
 /**
- * Sets whether an application column may be matched by a similar name, which is a guess: "Zn %" and
- * ni_pct are similar names of different metals. If not, only the same name, a synonym or an
- * alternative matches. A refused source column is not matched to another column instead. This does
- * not affect saved matches, pairs in order and the user's own choices.
- *
- * @param import   the import
- * @param column   the number of the application column
- * @param similar  1 for yes, the default, or 0 for no
+ * Sets whether an application column may be matched by a similar name: 1 for yes, the default, or 0
+ * for no. A similar name is a guess: "Zn %" and ni_pct are similar names of different metals. With
+ * 0, only the same name, a synonym or an alternative matches, and a refused source column is not
+ * matched to another column instead. This does not affect saved matches, pairs in order and the
+ * user's own choices.
  */
 columnimport_exported int32_t columnimport_set_similar(columnimport_import *import, int32_t column,
                                                        int32_t similar);
 
 /**
- * Sets the match of an earlier import, as columnimport_match_name returned it. If at least one
- * column has a saved match that is not empty and the source has titles, no proposal is made: each
- * column is matched to the first source column with exactly its saved name, or to none. "Reset to
- * Default" in the dialog makes a proposal.
+ * Sets the match of an earlier import, `length` bytes at `name`, as columnimport_match_name
+ * returned it. Null with a length of 0 removes the saved match.
  *
- * @param import  the import
- * @param column  the number of the application column
- * @param name    the name in bytes; null with a length of 0 removes the saved match
- * @param length  the number of bytes
+ * If at least one column has a saved match that is not empty and the source has titles, no proposal
+ * is made: each column is matched to the first source column with exactly its saved name, or to
+ * none. "Reset to Default" in the dialog makes a proposal.
  */
 columnimport_exported int32_t columnimport_set_saved_match(columnimport_import *import,
                                                            int32_t column, const char *name,
@@ -237,10 +211,8 @@ columnimport_exported int32_t columnimport_set_saved_match(columnimport_import *
 /* ---- Filling it: the source ---- */
 
 /**
- * Makes a delimited file the source. Each run opens it, reads only its first lines and closes it.
- *
- * @param import  the import
- * @param path    the path, UTF-8
+ * Makes the delimited file at `path`, UTF-8, the source. Each run opens it, reads only its first
+ * lines and closes it.
  */
 columnimport_exported int32_t columnimport_set_file(columnimport_import *import, const char *path);
 
@@ -252,23 +224,18 @@ columnimport_exported int32_t columnimport_set_delimiter(columnimport_import *im
                                                          char delimiter);
 
 /**
- * Sets whether the first line of the file holds titles. If not, the source columns are called
- * Column1, Column2 and so on, and are matched to the application columns in order. A table always
- * has names, whatever is set here.
- *
- * @param import  the import
- * @param holds   1 for yes, the default, or 0 for no
+ * Sets whether the first line of the file holds titles: 1 for yes, the default, or 0 for no. With
+ * 0, the source columns are called Column1, Column2 and so on, and are matched to the application
+ * columns in order. A table always has names, whatever is set here.
  */
 columnimport_exported int32_t columnimport_set_first_line_holds_titles(columnimport_import *import,
                                                                        int32_t holds);
 
 /**
- * Makes a table with these columns the source.
+ * Makes a table with `count` columns the source.
  *
- * @param import   the import
- * @param names    the columns' names in bytes, in the table's order; may be null if there are none
- * @param lengths  the length of each name; null if each ends with a zero byte
- * @param count    the number of columns
+ * `names` are their names in bytes, in the table's order; null is allowed if there are none.
+ * `lengths` are the lengths of the names, or null if each name ends with a zero byte.
  */
 columnimport_exported int32_t columnimport_set_table(columnimport_import *import,
                                                      const char *const *names,
@@ -280,10 +247,8 @@ columnimport_exported int32_t columnimport_set_table(columnimport_import *import
  *     int32_t likely = columnimport_likely_delimiter(import);
  *     columnimport_set_delimiter(import, likely == columnimport_none ? ',' : (char)likely);
  *
- * @param import  the import, for which a file was set
  * @return the tab, ';', '|', ',' or ' '; columnimport_none if none is likely or the file can't be
- *         read; columnimport_invalid if no file was set, after other wrong use, or if there was no
- *         memory
+ *         read; columnimport_invalid if no file was set, or if there was no memory
  */
 columnimport_exported int32_t columnimport_likely_delimiter(columnimport_import *import);
 
@@ -292,8 +257,8 @@ columnimport_exported int32_t columnimport_likely_delimiter(columnimport_import 
  * A run discards the result of the one before and the texts that were returned from it. */
 
 /**
- * Matches without a dialog: the result is the same as what columnimport_show opens with. May be
- * called on any thread and without a display.
+ * Matches without a dialog and without a display. The result is the same as what columnimport_show
+ * opens with.
  *
  * @return columnimport_ok, also if the file can't be read (see columnimport_file_problem);
  *         columnimport_wrong_use, for example if no source was set; or columnimport_failed
@@ -303,14 +268,14 @@ columnimport_exported int32_t columnimport_propose(columnimport_import *import);
 /**
  * Shows the dialog and returns when the user has closed it. The window can't be used meanwhile.
  *
- * To be called on the user-interface thread. The first call in a process initializes the toolkit; a
- * host on GTK keeps its own main loop and its own locale.
+ * Call it on the user-interface thread. The first call in a process initializes the toolkit; a host
+ * on GTK keeps its own main loop and its own locale.
  *
  * @param import  the import
  * @param window  the window that the dialog belongs to, or null. On Linux a GtkWidget of GTK 3 that
  *                is a window or is in one, on Windows an HWND
- * @return any of the outcomes. Only after columnimport_ok and columnimport_cancelled can the result
- *         be read
+ * @return any of the outcomes. The result can be read only after columnimport_ok and
+ *         columnimport_cancelled
  */
 columnimport_exported int32_t columnimport_show(columnimport_import *import, void *window);
 
@@ -323,7 +288,7 @@ columnimport_exported int32_t columnimport_show(columnimport_import *import, voi
  * GLib's default main context keeps running meanwhile: Qt's windows are served if Qt uses GLib, as
  * it does by default; those of Tk are not.
  *
- * The display is GTK's default X11 display (the variable DISPLAY), also in a Wayland session,
+ * The display is GTK's default X11 display (the variable DISPLAY), even in a Wayland session,
  * unless GTK was initialized on Wayland in this process.
  *
  * @param import  the import
@@ -343,7 +308,7 @@ columnimport_exported int32_t columnimport_show_over_x11(columnimport_import *im
 /** The outcome of the last run; columnimport_invalid if there was none. */
 columnimport_exported int32_t columnimport_outcome(columnimport_import *import);
 
-/** The number of application columns that were added; columnimport_invalid for a null import. */
+/** The number of application columns that were added. */
 columnimport_exported int32_t columnimport_column_count(columnimport_import *import);
 
 /**
@@ -358,10 +323,8 @@ columnimport_exported const char *columnimport_file_problem(columnimport_import 
  * The position of the source column that is matched to an application column. It distinguishes
  * columns even if their names are equal or empty, or if they have none.
  *
- * @param import  the import
- * @param column  the number of the application column
  * @return a number from 0 to one less than columnimport_source_column_count; columnimport_none if
- *         no column of the source is matched; columnimport_invalid after wrong use
+ *         no column of the source is matched
  */
 columnimport_exported int32_t columnimport_match_position(columnimport_import *import,
                                                           int32_t column);
@@ -383,10 +346,8 @@ columnimport_exported int32_t columnimport_match_position(columnimport_import *i
  *
  * The field refers to the first line as the run read it, without a byte-order mark.
  *
- * @param import  the import
- * @param column  the number of the application column
  * @return a number from 0; columnimport_none if no column of the source is matched or parsers
- *         disagree on its field; columnimport_invalid after wrong use
+ *         disagree on its field
  */
 columnimport_exported int32_t columnimport_match_field(columnimport_import *import, int32_t column);
 
@@ -397,10 +358,7 @@ columnimport_exported int32_t columnimport_match_field(columnimport_import *impo
  *         ask_the_person(column, columnimport_match_score(import, column));
  *     }
  *
- * @param import  the import
- * @param column  the number of the application column
- * @return one of the origins; columnimport_none if there is no match; columnimport_invalid after
- *         wrong use
+ * @return one of the origins; columnimport_none if there is no match
  */
 columnimport_exported int32_t columnimport_match_origin(columnimport_import *import,
                                                         int32_t column);
@@ -409,8 +367,6 @@ columnimport_exported int32_t columnimport_match_origin(columnimport_import *imp
  * The similarity of the two names of a guess, as the matcher compared them. It compares letters and
  * knows no meaning, so even a good score makes no guess certain.
  *
- * @param import  the import
- * @param column  the number of the application column
  * @return above 0.4 and below 1 if the origin is columnimport_origin_similar; otherwise -1, which
  *         is columnimport_none; -2, which is columnimport_invalid, after wrong use
  */
@@ -422,29 +378,20 @@ columnimport_exported double columnimport_match_score(columnimport_import *impor
  * program has no position, unless a source column has this name.
  *
  * @param      import  the import
- * @param      column  the number of the application column
+ * @param      column  the application column
  * @param[out] length  the number of bytes, 0 if there is no match; may be null
- * @return the bytes; null if there is no match, and after wrong use. They live until the import is
- *         run again or freed.
+ * @return the bytes, until the import is run again or freed; null if there is no match
  */
 columnimport_exported const char *columnimport_match_name(columnimport_import *import,
                                                           int32_t column, int64_t *length);
 
-/**
- * The delimiter at the end of the run.
- *
- * @return the byte as a number from 0 to 255; columnimport_invalid after wrong use
- */
+/** The delimiter at the end of the run: the byte as a number from 0 to 255. */
 columnimport_exported int32_t columnimport_delimiter(columnimport_import *import);
 
-/**
- * Whether the first line holds titles, at the end of the run.
- *
- * @return 0 or 1, for a table always 1; columnimport_invalid after wrong use
- */
+/** Whether the first line holds titles, at the end of the run: 0 or 1, for a table always 1. */
 columnimport_exported int32_t columnimport_first_line_holds_titles(columnimport_import *import);
 
-/** The number of the source's columns; columnimport_invalid after wrong use. */
+/** The number of the source's columns. */
 columnimport_exported int32_t columnimport_source_column_count(columnimport_import *import);
 
 /**
@@ -453,10 +400,9 @@ columnimport_exported int32_t columnimport_source_column_count(columnimport_impo
  * double quotes. A byte-order mark before the first name is not part of it.
  *
  * @param      import  the import
- * @param      column  the position of the source column
+ * @param      column  the position of the source column, from 0
  * @param[out] length  the number of bytes; may be null
- * @return the bytes, also of an empty name; null after wrong use. They live until the import is run
- *         again or freed.
+ * @return the bytes, also of an empty name, until the import is run again or freed
  */
 columnimport_exported const char *columnimport_source_column(columnimport_import *import,
                                                              int32_t column, int64_t *length);

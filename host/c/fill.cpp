@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The functions that fill an import. They copy everything before they change anything.
+// The functions that create, fill and free an import, and the library's version.
 
 #include "host/c/Import.h"
 
@@ -14,7 +14,8 @@ using columnimport::require;
 
 namespace {
 
-/// One call that changes what an import was filled with.
+/// One call that changes what an import was filled with. `change` copies what the host passes in
+/// before it changes anything.
 template <typename Change>
 std::int32_t fill(columnimport_import *import, const Change &change) noexcept {
     return columnimport::outcomeOf(import, [&change](columnimport_import &filled) {
@@ -41,19 +42,46 @@ bool yesOrNo(std::int32_t value) {
     return value == 1;
 }
 
-std::size_t appColumn(const ImportRequest &request, std::int32_t column) {
-    return columnimport::indexIn(request.appColumns, column,
-                                 "There is no application column of this number.");
-}
-
 /// The entry of an application column in a list that may be shorter than there are columns.
 template <typename List>
-typename List::reference entryOf(List &list, const ImportRequest &request, std::size_t column) {
+typename List::reference entryOf(const ImportRequest &request, List &list, std::int32_t column) {
+    const std::size_t index = columnimport::indexIn(
+        request.appColumns, column, "There is no application column of this number.");
     list.resize(request.appColumns.size());
-    return list[column];
+    return list[index];
 }
 
 } // namespace
+
+const char *columnimport_version() {
+    return COLUMNIMPORT_VERSION;
+}
+
+void columnimport_version_numbers(std::int32_t *major, std::int32_t *minor, std::int32_t *patch) {
+    constexpr std::int32_t numbers[] = {COLUMNIMPORT_VERSION_NUMBERS};
+    std::int32_t *const targets[] = {major, minor, patch};
+    for (std::size_t i = 0; i < 3; ++i) {
+        if (targets[i] != nullptr) {
+            *targets[i] = numbers[i];
+        }
+    }
+}
+
+columnimport_import *columnimport_new() {
+    return new (std::nothrow) columnimport_import;
+}
+
+void columnimport_free(columnimport_import *import) {
+    if (import != nullptr && import->isOpen) {
+        import->isUnwanted = true;
+    } else {
+        delete import;
+    }
+}
+
+const char *columnimport_message(columnimport_import *import) {
+    return import == nullptr ? "There is no import: the pointer is null." : import->message;
+}
 
 std::int32_t columnimport_set_title(columnimport_import *import, const char *title) {
     return fill(import, [&](ImportRequest &request) { request.title = hostsWord(title); });
@@ -78,36 +106,29 @@ std::int32_t columnimport_add_column(columnimport_import *import, const char *na
 std::int32_t columnimport_add_alternative(columnimport_import *import, std::int32_t column,
                                           const char *name) {
     return fill(import, [&](ImportRequest &request) {
-        const std::size_t index = appColumn(request, column);
         std::string word = hostsWord(name);
-        entryOf(request.alternatives, request, index).push_back(std::move(word));
+        entryOf(request, request.alternatives, column).push_back(std::move(word));
     });
 }
 
 std::int32_t columnimport_set_required(columnimport_import *import, std::int32_t column,
                                        std::int32_t required) {
     return fill(import, [&](ImportRequest &request) {
-        const std::size_t index = appColumn(request, column);
-        const bool isRequired = yesOrNo(required);
-        entryOf(request.required, request, index) = isRequired;
+        entryOf(request, request.required, column) = yesOrNo(required);
     });
 }
 
 std::int32_t columnimport_set_similar(columnimport_import *import, std::int32_t column,
                                       std::int32_t similar) {
     return fill(import, [&](ImportRequest &request) {
-        const std::size_t index = appColumn(request, column);
-        const bool refuses = !yesOrNo(similar);
-        entryOf(request.refusesSimilar, request, index) = refuses;
+        entryOf(request, request.refusesSimilar, column) = !yesOrNo(similar);
     });
 }
 
 std::int32_t columnimport_set_saved_match(columnimport_import *import, std::int32_t column,
                                           const char *name, std::int64_t length) {
     return fill(import, [&](ImportRequest &request) {
-        const std::size_t index = appColumn(request, column);
-        std::string match = bytesOf(name, length);
-        entryOf(request.savedMatches, request, index) = std::move(match);
+        entryOf(request, request.savedMatches, column) = bytesOf(name, length);
     });
 }
 

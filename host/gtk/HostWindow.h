@@ -4,7 +4,7 @@
 
 struct _GtkWidget; // NOLINT(bugprone-reserved-identifier): the name that GTK gives it
 
-/// The library's names beside those of its classes, which begin with wxImport.
+/// All names of the library, except those of the classes that a host uses.
 namespace columnimport {
 
 /// The native handle of a host's window: a GTK top-level. Any other widget stands for the top-level

@@ -11,7 +11,7 @@ namespace columnimport {
 
 namespace {
 
-/// Ignores X errors while it lives: another program's window may vanish at any time.
+/// Ignores X errors while it lives, since another program's window may vanish at any time.
 class ErrorTrap {
 public:
     explicit ErrorTrap(GdkDisplay *display) : m_display(display) {
@@ -39,7 +39,7 @@ Window parentOf(Display *display, Window window) {
     return parent;
 }
 
-/// Whether a window manager treats the window as a program's.
+/// Whether a window manager manages `window`, which then has the property `state`.
 bool isManaged(Display *display, Window window, Atom state) {
     Atom type = None;
     int format = 0;
@@ -54,36 +54,29 @@ bool isManaged(Display *display, Window window, Atom state) {
     return type != None;
 }
 
-/// The top-level that contains `window`; None for a screen's root or an unknown window. Without a
-/// window manager, the child of the root.
+/// The top-level that contains `window`: a managed window, or without a window manager the child of
+/// the root. None for the root of a screen or an unknown window.
 Window topLevelOf(GdkDisplay *gdkDisplay, Window window) {
     Display *display = gdk_x11_display_get_xdisplay(gdkDisplay);
     const Atom state = gdk_x11_get_xatom_by_name_for_display(gdkDisplay, "WM_STATE");
     Window parent = parentOf(display, window);
-    Window topLevel = parent == None ? None : window;
-    while (topLevel != None && !isManaged(display, window, state)) {
-        topLevel = window;
-        window = parent;
-        parent = parentOf(display, window);
-        if (parent == None) {
-            return topLevel;
-        }
+    if (parent == None) {
+        return None;
     }
-    return topLevel == None ? None : window;
+    while (!isManaged(display, window, state)) {
+        const Window beyond = parentOf(display, parent);
+        if (beyond == None) {
+            return window;
+        }
+        window = parent;
+        parent = beyond;
+    }
+    return window;
 }
 
 } // namespace
 
-/// The dialog's owner has to be a GTK widget, so a widget stands for the window. An invisible
-/// window over all of its content takes the pointer events.
-struct X11Owner::Native {
-    GdkDisplay *display = gdk_display_get_default();
-    GtkWidget *widget = nullptr;
-    GdkWindow *window = nullptr;
-    Window shield = None;
-};
-
-const char *X11Owner::whyUnavailable() {
+const char *whyNoX11Owner() {
     if (gdk_display_get_default() == nullptr) {
         gdk_set_allowed_backends("x11");
         gdk_display_open(nullptr);
@@ -100,46 +93,39 @@ const char *X11Owner::whyUnavailable() {
     return nullptr;
 }
 
-X11Owner::X11Owner(std::uint32_t window) : m_native(std::make_unique<Native>()) {
-    Native &native = *m_native;
-    const ErrorTrap trap(native.display);
-    const Window topLevel = topLevelOf(native.display, window);
-    if (topLevel != None) {
-        native.window = gdk_x11_window_foreign_new_for_display(native.display, topLevel);
+X11Owner x11Owner(std::uint32_t window) {
+    GdkDisplay *gdkDisplay = gdk_display_get_default();
+    Display *display = gdk_x11_display_get_xdisplay(gdkDisplay);
+    const ErrorTrap trap(gdkDisplay);
+    const Window topLevel = topLevelOf(gdkDisplay, window);
+    GdkWindow *foreign =
+        topLevel == None ? nullptr : gdk_x11_window_foreign_new_for_display(gdkDisplay, topLevel);
+    if (foreign == nullptr) {
+        return nullptr;
     }
-    if (native.window == nullptr) {
-        return;
-    }
-    // Dialogs become transient for the window of a realised widget.
-    native.widget = gtk_window_new(GTK_WINDOW_TOPLEVEL);
-    gtk_widget_set_window(native.widget, native.window);
-    gtk_widget_set_realized(native.widget, TRUE);
+    // The owner must be a GTK widget, so a widget stands for the window. Dialogs become transient
+    // for the window of a realised widget.
+    GtkWidget *widget = gtk_window_new(GTK_WINDOW_TOPLEVEL);
+    gtk_widget_set_window(widget, foreign);
+    gtk_widget_set_realized(widget, TRUE);
 
+    // An invisible window over all of the content takes the pointer events.
     constexpr unsigned largest = 32767;
     XSetWindowAttributes attributes{};
     attributes.event_mask = ButtonPressMask | ButtonReleaseMask | PointerMotionMask;
-    Display *display = gdk_x11_display_get_xdisplay(native.display);
-    native.shield = XCreateWindow(display, topLevel, 0, 0, largest, largest, 0, 0, InputOnly,
-                                  nullptr, CWEventMask, &attributes);
-    XMapRaised(display, native.shield);
-}
+    const Window shield = XCreateWindow(display, topLevel, 0, 0, largest, largest, 0, 0, InputOnly,
+                                        nullptr, CWEventMask, &attributes);
+    XMapRaised(display, shield);
 
-X11Owner::~X11Owner() {
-    Native &native = *m_native;
-    if (native.widget == nullptr) {
-        return;
-    }
-    const ErrorTrap trap(native.display);
-    XDestroyWindow(gdk_x11_display_get_xdisplay(native.display), native.shield);
-    gdk_display_flush(native.display); // a host without a GLib loop never would
-    gtk_widget_set_realized(native.widget, FALSE);
-    gtk_widget_set_window(native.widget, nullptr);
-    gtk_widget_destroy(native.widget);
-    g_object_unref(native.window);
-}
-
-HostWindow X11Owner::window() const {
-    return m_native->widget;
+    return {widget, [=](GtkWidget *owner) {
+                const ErrorTrap endTrap(gdkDisplay);
+                XDestroyWindow(display, shield);
+                gdk_display_flush(gdkDisplay); // a host without a GLib loop never would
+                gtk_widget_set_realized(owner, FALSE);
+                gtk_widget_set_window(owner, nullptr);
+                gtk_widget_destroy(owner);
+                g_object_unref(foreign);
+            }};
 }
 
 } // namespace columnimport

@@ -9,7 +9,8 @@
 
 namespace columnimport {
 
-// The toolkit starts GTK itself, and keeps it from setting the host's locale.
+// Opens the display without starting GTK: the toolkit does that, and keeps GTK from setting the
+// host's locale.
 bool hasDisplay() {
     return gdk_display_get_default() != nullptr || gdk_display_open(nullptr) != nullptr;
 }

@@ -4,10 +4,10 @@
 
 struct HWND__;
 
-/// The library's names beside those of its classes, which begin with wxImport.
+/// All names of the library, except those of the classes that a host uses.
 namespace columnimport {
 
-/// The native handle of a host's window: what the platform's headers call an HWND.
+/// The native handle of a host's window, an HWND.
 using HostWindow = HWND__ *;
 
 } // namespace columnimport

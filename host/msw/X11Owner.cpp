@@ -4,17 +4,11 @@
 
 namespace columnimport {
 
-struct X11Owner::Native {};
-
-const char *X11Owner::whyUnavailable() {
+const char *whyNoX11Owner() {
     return "There is no X11 display.";
 }
 
-X11Owner::X11Owner(std::uint32_t) {}
-
-X11Owner::~X11Owner() = default;
-
-HostWindow X11Owner::window() const {
+X11Owner x11Owner(std::uint32_t) {
     return nullptr;
 }
 

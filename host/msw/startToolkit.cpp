@@ -11,7 +11,7 @@ bool hasDisplay() {
     return true;
 }
 
-// The toolkit is never shut down, so this library stays loaded when a host frees it.
+// The toolkit is never shut down, so the library must stay loaded when a host frees it.
 void startToolkit() {
     new wxInitializer;
     HMODULE library = nullptr;

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "matching/blendedMeasure.h"
+#include "matching/columnNameScore.h"
 #include "matching/fast/LaneCounters.h"
 #include "matching/fast/PreparedName.h"
 #include "matching/vote.h"
@@ -14,7 +14,7 @@
 namespace columnimport {
 
 /// The application columns with names of 3 to `maskedLength` bytes, prepared for being measured
-/// with one file column after the other. Equal names and synonyms are left to `FitTable`.
+/// with one file column after the other. Equal names and synonyms are not looked for here.
 ///
 /// The measure of two names grows with the bytes that they share plus the longest run less one. A
 /// run of L bytes has L - 1 pairs of neighbours, so the bytes and the pairs that two names share

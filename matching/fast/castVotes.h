@@ -16,7 +16,7 @@ namespace columnimport {
 ///
 /// This is the entry point of the fast matcher. It prepares each name once. It finds a file column
 /// that equals an application column, or is a synonym or an alternative of one, by one look-up
-/// (`FitTable`). It compares the others with all application columns side by side
+/// (`KnownWords`). It compares the others with all application columns side by side
 /// (`ShortNameIndex`), and measures only those whose bound reaches the best score so far
 /// (`offerMeasured`). Names too long for the index are measured one by one, behind simpler bounds.
 std::vector<Vote> castVotes(const std::vector<std::string> &appColumns,

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cassert>
 
-#include "matching/blendedMeasure.h"
+#include "matching/columnNameScore.h"
 
 namespace columnimport {
 

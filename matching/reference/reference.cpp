@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <map>
-#include <utility>
 
 #include "matching/columnNameScore.h"
 #include "matching/normalizeColumnName.h"
@@ -55,11 +54,6 @@ std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
         proposal.push_back(counts ? bestFileByApp[app] : -1);
     }
     return proposal;
-}
-
-std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns) {
-    return matchColumns(std::move(appColumns), std::move(fileColumns), {});
 }
 
 } // namespace columnimport::reference

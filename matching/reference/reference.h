@@ -16,8 +16,6 @@ namespace columnimport::reference {
 /// proposals.
 std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
                                        std::vector<std::string> fileColumns,
-                                       const Alternatives &alternatives);
-std::vector<std::int32_t> matchColumns(std::vector<std::string> appColumns,
-                                       std::vector<std::string> fileColumns);
+                                       const Alternatives &alternatives = {});
 
 } // namespace columnimport::reference

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 
-#include "delimited/quotedFields.h"
 #include "delimited/splitLine.h"
 
 #include <algorithm>

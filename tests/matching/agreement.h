@@ -7,10 +7,10 @@
 #include <vector>
 
 #include "matching/columnNameScore.h"
-#include "matching/explainMatches.h"
 #include "matching/fast/castVotes.h"
 #include "matching/matchColumns.h"
 #include "matching/normalizeColumnName.h"
+#include "matching/openingMatches.h"
 #include "matching/reference/reference.h"
 
 namespace columnimport {

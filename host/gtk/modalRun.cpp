@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/modalLoop.h"
+#include "host/modalRun.h"
 
 #include <algorithm>
 #include <exception>
 
 #include <gtk/gtk.h>
-#include <wx/dialog.h>
 
 namespace columnimport {
 
@@ -74,44 +73,54 @@ int clampedLength(int length) {
     return length == wxDefaultCoord ? length : std::clamp(length, least, greatest);
 }
 
-/// The edges of a window's parts: the title bar, if GTK draws it, and the content.
-struct Edges {
-    int left = G_MAXINT;
-    int top = G_MAXINT;
-    int right = 0;
-    int bottom = 0;
-};
-
-void include(GtkWidget *part, void *data) {
-    auto &edges = *static_cast<Edges *>(data);
+GtkAllocation placeOf(GtkWidget *widget) {
     GtkAllocation place;
-    gtk_widget_get_allocation(part, &place);
-    edges.left = std::min(edges.left, place.x);
-    edges.top = std::min(edges.top, place.y);
-    edges.right = std::max(edges.right, place.x + place.width);
-    edges.bottom = std::max(edges.bottom, place.y + place.height);
+    gtk_widget_get_allocation(widget, &place);
+    return place;
 }
 
-/// What the size of `dialog`, which is shown, holds beside its frame. Where GTK draws the frame
-/// itself, as under Wayland, the toolkit counts the shadow around it too.
+void include(GtkWidget *part, void *frame) {
+    const GtkAllocation place = placeOf(part);
+    auto *rectangle = static_cast<GdkRectangle *>(frame);
+    gdk_rectangle_union(rectangle, &place, rectangle);
+}
+
+/// How much larger the size of the shown `dialog` is than its frame. If GTK draws the frame itself,
+/// as under Wayland, the toolkit counts the shadow around it too.
 wxSize frameShadow(const wxDialog &dialog) {
     GtkWidget *window = dialog.GetHandle();
-    Edges edges;
-    gtk_container_forall(GTK_CONTAINER(window), include, &edges);
-    GtkAllocation whole;
-    gtk_widget_get_allocation(window, &whole);
-    return {whole.width - (edges.right - edges.left), whole.height - (edges.bottom - edges.top)};
+    const GtkAllocation whole = placeOf(window);
+    GdkRectangle frame = placeOf(gtk_bin_get_child(GTK_BIN(window)));
+    gtk_container_forall(GTK_CONTAINER(window), include, &frame); // the title bar
+    return {whole.width - frame.width, whole.height - frame.height};
 }
 
 } // namespace
+
+// The reference keeps the widget's memory valid if the host destroys its window during the run.
+HostStandIn::HostStandIn(HostWindow hostWindow) {
+    GtkWidget *owner = hostWindow != nullptr ? gtk_widget_get_toplevel(hostWindow) : nullptr;
+    if (!GTK_IS_WINDOW(owner)) {
+        return;
+    }
+    m_window = std::make_unique<wxWindow>();
+    m_window->m_widget = GTK_WIDGET(g_object_ref(owner));
+    wxTopLevelWindows.Append(m_window.get());
+}
+
+void HostStandIn::release() {
+    if (m_window) {
+        g_clear_object(&m_window->m_widget);
+    }
+}
 
 void resize(wxDialog &dialog, const wxSize &size) {
     dialog.SetSize(clampedLength(size.x), clampedLength(size.y));
 }
 
 int showModal(wxDialog &dialog) {
-    // When first shown, the toolkit realises the window early to ask for its frame extents, and
-    // loses the position.
+    // When the window is first shown, the toolkit realises it early to ask for its frame extents,
+    // and loses the position.
     const wxPoint position = dialog.GetPosition();
     const wxSize size = dialog.GetSize();
     dialog.Bind(wxEVT_SHOW, [&dialog, position, size](wxShowEvent &event) {

@@ -1,15 +1,23 @@
 // SPDX-License-Identifier: MIT
 
-#include "host/modalLoop.h"
+#include "host/modalRun.h"
 
 #include <optional>
 
-#include <wx/dialog.h>
+#include <wx/msw/private.h>
 #include <wx/msw/wrapcctl.h>
 
 namespace columnimport {
 
 namespace {
+
+/// The bit of the host's extended style that the toolkit sets for the dialog.
+LONG_PTR controlParentBit(HWND window) {
+    return GetWindowLongPtrW(window, GWL_EXSTYLE) & WS_EX_CONTROLPARENT;
+}
+
+/// Its value before the run; there is one run at a time.
+LONG_PTR formerControlParentBit = 0;
 
 /// The exit code of a quit that the host posted during the run.
 std::optional<int> quitCode;
@@ -52,11 +60,36 @@ LRESULT CALLBACK onDialogMessage(HWND window, UINT message, WPARAM word, LPARAM 
 
 } // namespace
 
+// The root of a control is its window; the desktop and invalid handles have none.
+HostStandIn::HostStandIn(HostWindow hostWindow) {
+    HWND owner = IsWindow(hostWindow) != FALSE ? GetAncestor(hostWindow, GA_ROOT) : nullptr;
+    if (owner == nullptr) {
+        return;
+    }
+    formerControlParentBit = controlParentBit(owner);
+    m_window = std::make_unique<wxWindow>();
+    m_window->SetHWND(owner);
+    m_window->AdoptAttributesFromHWND();
+    wxTopLevelWindows.Append(m_window.get());
+}
+
+void HostStandIn::release() {
+    if (!m_window) {
+        return;
+    }
+    HWND window = m_window->GetHWND();
+    if (IsWindow(window) != FALSE && controlParentBit(window) != formerControlParentBit) {
+        const LONG_PTR style = GetWindowLongPtrW(window, GWL_EXSTYLE);
+        SetWindowLongPtrW(window, GWL_EXSTYLE, style ^ WS_EX_CONTROLPARENT);
+    }
+    m_window->SetHWND(nullptr);
+}
+
 void resize(wxDialog &dialog, const wxSize &size) {
     dialog.SetSize(size);
 }
 
-// At a quit the toolkit leaves its loop with the dialog open and the owner disabled.
+// At a quit, the toolkit leaves its loop with the dialog open and the owner disabled.
 int showModal(wxDialog &dialog) {
     const QuitWatch watch;
     const HWND owner = GetWindow(dialog.GetHWND(), GW_OWNER);
