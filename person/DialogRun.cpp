@@ -15,6 +15,7 @@ bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
         std::promise<void> run;
         actor = std::async(std::launch::async, [&steps, over = run.get_future()] {
             try {
+                onUserInterface([] {}); // waits for the display, which decides on the hand
                 Person person;
                 person.waitForDialog();
                 steps(person);
@@ -48,10 +49,12 @@ bool runWithPerson(const Steps &steps, const std::function<bool()> &show) {
 }
 
 bool DialogRun::show(const Steps &steps, wxImportCSVDialogPeer peer) {
-    return runWithPerson(steps, [this, &peer] {
-        return peer.showWindow(owner, title, appColumns, fileName, &useSavedMatches, &matches,
-                               &delimiter, &firstLineHeader, width, height);
-    });
+    return runWithPerson(steps, [this, &peer] { return showAlone(peer); });
+}
+
+bool DialogRun::showAlone(wxImportCSVDialogPeer peer) {
+    return peer.showWindow(owner, title, appColumns, fileName, &useSavedMatches, &matches,
+                           &delimiter, &firstLineHeader, width, height);
 }
 
 bool DialogRun::showTable(const Names &tableColumns, const Steps &steps) {

@@ -37,6 +37,9 @@ struct DialogRun {
 
     /// The same for a table with these columns.
     bool showTable(const Names &tableColumns, const Steps &steps);
+
+    /// Shows the dialog for the file without a person.
+    bool showAlone(wxImportCSVDialogPeer peer = {});
 };
 
 /// The steps of a person who only presses the button.

@@ -45,10 +45,10 @@ void Person::release(int button) {
     m_hand->setButton(button, false);
 }
 
-void Person::click(wxPoint point) {
+void Person::click(wxPoint point, int button) {
     moveTo(point);
-    press();
-    release();
+    press(button);
+    release(button);
 }
 
 void Person::dragTo(wxPoint from, wxPoint to) {

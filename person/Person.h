@@ -32,7 +32,7 @@ public:
 
     void press(int button = 1);
     void release(int button = 1);
-    void click(wxPoint point);
+    void click(wxPoint point, int button = 1);
     void click(int controlId) { click(middleOf(controlId)); }
 
     /// Presses at `from`, waits for the drag to begin, and moves on to `to` in a few steps. Leaves

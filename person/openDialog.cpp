@@ -68,12 +68,11 @@ wxListCtrl &matchList() {
     return control<wxListCtrl>(wxImportCSVDialog::LISTBOX_MATCH);
 }
 
-Names matchTexts() {
-    return read([] {
+Names matchTexts(int column) {
+    return read([column] {
         Names texts;
         for (int row = 0; row < matchList().GetItemCount(); ++row) {
-            texts.push_back(
-                matchList().GetItemText(row, wxImportCSVDialog::COLUMN_MATCH).utf8_string());
+            texts.push_back(matchList().GetItemText(row, column).utf8_string());
         }
         return texts;
     });

@@ -27,9 +27,9 @@ Control &control(int id) {
 
 // What a person can read in it; for a person's thread.
 
-/// The texts of the match list's first column, and those of its rows that are shown in bold and in
+/// The texts of a column of the match list, and those of its rows that are shown in bold and in
 /// italics.
-Names matchTexts();
+Names matchTexts(int column = 0);
 std::vector<int> boldRows();
 std::vector<int> italicRows();
 

@@ -15,15 +15,11 @@ namespace {
 /// The X11 name of a key.
 std::string nameOf(int key) {
     static const std::map<int, const char *> named = {
-        {WXK_BACK, "BackSpace"},    {WXK_TAB, "Tab"},
-        {WXK_RETURN, "Return"},     {WXK_ESCAPE, "Escape"},
-        {WXK_DELETE, "Delete"},     {WXK_SHIFT, "Shift_L"},
-        {WXK_CONTROL, "Control_L"}, {WXK_ALT, "Alt_L"},
-        {WXK_PAGEUP, "Prior"},      {WXK_PAGEDOWN, "Next"},
-        {WXK_HOME, "Home"},         {WXK_END, "End"},
-        {WXK_LEFT, "Left"},         {WXK_UP, "Up"},
-        {WXK_RIGHT, "Right"},       {WXK_DOWN, "Down"},
-        {WXK_WINDOWS_MENU, "Menu"}};
+        {WXK_TAB, "Tab"},       {WXK_RETURN, "Return"},     {WXK_ESCAPE, "Escape"},
+        {WXK_DELETE, "Delete"}, {WXK_SHIFT, "Shift_L"},     {WXK_CONTROL, "Control_L"},
+        {WXK_ALT, "Alt_L"},     {WXK_WINDOWS_MENU, "Menu"}, {WXK_PAGEUP, "Prior"},
+        {WXK_PAGEDOWN, "Next"}, {WXK_HOME, "Home"},         {WXK_END, "End"},
+        {WXK_UP, "Up"},         {WXK_DOWN, "Down"}};
     const auto found = named.find(key);
     if (found != named.end()) {
         return found->second;

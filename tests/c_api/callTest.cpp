@@ -22,6 +22,14 @@ protected:
     Import *import = owner.get();
 };
 
+/// The position and origin of each match.
+using Matches = std::vector<std::pair<std::int32_t, std::int32_t>>;
+const std::pair<std::int32_t, std::int32_t> none(columnimport_none, columnimport_none);
+constexpr std::int32_t same = columnimport_origin_same;
+constexpr std::int32_t alternative = columnimport_origin_alternative;
+constexpr std::int32_t similar = columnimport_origin_similar;
+constexpr std::int32_t inOrder = columnimport_origin_in_order;
+
 /// Whether the last call on `import` was reported as wrong.
 bool isWrong(Import *import, std::int32_t outcome) {
     return (outcome == columnimport_wrong_use || outcome == columnimport_invalid) &&
@@ -98,24 +106,14 @@ TEST_F(CApiCall, ProposesTheMatchesThatTheDialogOpensWith) {
     columnimport_set_delimiter(import, ';');
     const auto propose = [this] {
         EXPECT_EQ(columnimport_propose(import), columnimport_ok) << columnimport_message(import);
-        std::vector<std::int32_t> positions;
-        positions.reserve(4);
+        Matches matches;
         for (std::int32_t column = 0; column < 4; ++column) {
-            positions.push_back(columnimport_match_position(import, column));
+            matches.emplace_back(columnimport_match_position(import, column),
+                                 columnimport_match_origin(import, column));
         }
-        return positions;
+        return matches;
     };
-    using Positions = std::vector<std::int32_t>;
-    const auto origins = [this] {
-        Positions values;
-        for (std::int32_t column = 0; column < 4; ++column) {
-            values.push_back(columnimport_match_origin(import, column));
-        }
-        return values;
-    };
-    EXPECT_EQ(propose(), (Positions{0, 2, 4, -1}));
-    EXPECT_EQ(origins(), (Positions{columnimport_origin_same, columnimport_origin_alternative,
-                                    columnimport_origin_alternative, columnimport_none}));
+    EXPECT_EQ(propose(), (Matches{{0, same}, {2, alternative}, {4, alternative}, none}));
     EXPECT_EQ(columnimport_match_score(import, 0), columnimport_none);
     EXPECT_EQ(columnimport_match_field(import, 2), 3) << "the quotes are around two columns";
     EXPECT_EQ(columnimport_match_field(import, 3), columnimport_none);
@@ -130,11 +128,9 @@ TEST_F(CApiCall, ProposesTheMatchesThatTheDialogOpensWith) {
 
     columnimport_set_saved_match(import, 3, "Au\0g/t", 6);
     columnimport_set_saved_match(import, 0, "gone", 4);
-    EXPECT_EQ(propose(), (Positions{-1, -1, -1, 4}));
-    EXPECT_EQ(origins(), (Positions{-1, -1, -1, columnimport_origin_saved}));
+    EXPECT_EQ(propose(), (Matches{none, none, none, {4, columnimport_origin_saved}}));
     columnimport_set_first_line_holds_titles(import, 0);
-    EXPECT_EQ(propose(), (Positions{0, 1, 2, 3}));
-    EXPECT_EQ(origins(), Positions(4, columnimport_origin_in_order));
+    EXPECT_EQ(propose(), (Matches{{0, inOrder}, {1, inOrder}, {2, inOrder}, {3, inOrder}}));
     EXPECT_STREQ(columnimport_match_name(import, 3, nullptr), "Column4");
 
     const char *names[] = {"collar", "hole"};
@@ -142,21 +138,19 @@ TEST_F(CApiCall, ProposesTheMatchesThatTheDialogOpensWith) {
     EXPECT_TRUE(isWrong(import, columnimport_likely_delimiter(import)));
     columnimport_set_saved_match(import, 3, nullptr, 0);
     columnimport_set_saved_match(import, 0, nullptr, 0);
-    EXPECT_EQ(propose(), (Positions{1, 0, -1, -1}));
+    EXPECT_EQ(propose(), (Matches{{1, same}, {0, same}, none, none}));
     const char *resembling[] = {"ends", "holes"};
     columnimport_set_table(import, resembling, nullptr, 2);
-    EXPECT_EQ(propose(), (Positions{1, -1, -1, 0}));
-    EXPECT_EQ(origins()[3], columnimport_origin_similar);
-    EXPECT_DOUBLE_EQ(columnimport_match_score(import, 3), 35.0 / 48);
     columnimport_set_similar(import, 0, 0);
-    EXPECT_EQ(propose(), (Positions{-1, -1, -1, 0}));
+    EXPECT_EQ(propose(), (Matches{none, none, none, {0, similar}}));
+    EXPECT_DOUBLE_EQ(columnimport_match_score(import, 3), 35.0 / 48);
     columnimport_set_similar(import, 0, 1);
-    EXPECT_EQ(propose(), (Positions{1, -1, -1, 0}));
+    EXPECT_EQ(propose(), (Matches{{1, similar}, none, none, {0, similar}}));
     EXPECT_EQ(columnimport_match_field(import, 0), 1);
     EXPECT_EQ(columnimport_first_line_holds_titles(import), 1);
 
     columnimport_set_file(import, "/no such file");
-    EXPECT_EQ(propose(), (Positions(4, -1)));
+    EXPECT_EQ(propose(), Matches(4, none));
     EXPECT_NE(columnimport_file_problem(import), nullptr);
     EXPECT_EQ(columnimport_likely_delimiter(import), columnimport_none);
 }

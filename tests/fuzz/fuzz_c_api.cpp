@@ -69,22 +69,6 @@ void call(columnimport_import *import, FuzzedDataProvider &data, Filled &filled)
                         "a guess has a score, and nothing else");
             }
         },
-        [&] {
-            filled.isPlain = false;
-            columnimport_add_alternative(import, number, word);
-        },
-        [&] {
-            filled.isPlain = false;
-            columnimport_set_saved_match(import, number, word, length);
-        },
-        [&] {
-            filled.isPlain = false;
-            columnimport_set_file(import, word);
-        },
-        [&] {
-            filled.isPlain = false;
-            columnimport_set_similar(import, number, 0);
-        },
         [&] { columnimport_set_title(import, word); },
         [&] { columnimport_set_size(import, number, number); },
         [&] { columnimport_set_required(import, number, 1); },
@@ -99,7 +83,18 @@ void call(columnimport_import *import, FuzzedDataProvider &data, Filled &filled)
         [&] { columnimport_source_column(import, number, &lengths.emplace_back()); },
         [&] { columnimport_message(import); },
     };
-    data.PickValueInArray(calls)();
+    const std::function<void()> callsBeyondTheMatcher[] = {
+        [&] { columnimport_add_alternative(import, number, word); },
+        [&] { columnimport_set_saved_match(import, number, word, length); },
+        [&] { columnimport_set_file(import, word); },
+        [&] { columnimport_set_similar(import, number, 0); },
+    };
+    if (data.ConsumeIntegralInRange(0, 4) == 0) {
+        filled.isPlain = false;
+        data.PickValueInArray(callsBeyondTheMatcher)();
+    } else {
+        data.PickValueInArray(calls)();
+    }
 }
 
 } // namespace

@@ -2,12 +2,10 @@
 
 // The ways to change the delimiter, and the status line for a file that it does not cut.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <tuple>
 
-#include <gtest/gtest.h>
 #include <wx/clipbrd.h>
 #include <wx/menu.h>
 #include <wx/textctrl.h>
@@ -48,21 +46,16 @@ Steps choose(int place, const Steps &open) {
 }
 
 void rightClick(Person &person) {
-    person.moveTo(Person::middleOf(D::TXT_DELIMITER));
-    person.press(3);
-    person.release(3);
+    person.click(Person::middleOf(D::TXT_DELIMITER), 3);
 }
 
 void expectToGive(char delimiter, const Steps &steps) {
-    const ScratchFile file("a;b\tc d|e,f\n");
-    DialogRun run;
-    run.fileName = file.path();
-    EXPECT_TRUE(run.show([&steps, delimiter](Person &person) {
+    FileRun run("a;b\tc d|e,f\n", {});
+    run.confirmAfter([&steps, delimiter](Person &person) {
         steps(person);
         poll("the line is cut at " + std::string(1, delimiter),
              [] { return fileTexts().front() != "a;b\tc d|e"; });
-        pressOk(person);
-    }));
+    });
     EXPECT_EQ(run.delimiter, delimiter);
 }
 
@@ -102,23 +95,53 @@ TEST(Delimiter, IsChosenByNameInTheMenuOfItsField) {
 TEST(Delimiter, IsExplainedInTheStatusLineIfTheFileGivesOneColumnOrNone) {
     const std::string undelimited = "The first line of the file does not contain this delimiter.";
     const std::string blank = "The first line of the file is blank.";
-    const std::string missing = "The file can't be read: No such file or directory";
-    const ScratchFile one("BHID;X\na,b\n"), quoted("\"a,b\""), spaces(" \t\na,b\n"), empty("");
     const std::tuple<std::string, std::string, std::string> cases[] = {
-        {one.path(), undelimited + "\nIt contains 1 semicolon.", ""},
-        {quoted.path(), "", undelimited},
-        {spaces.path(), blank, blank},
-        {empty.path(), "The file is empty.", "The file is empty."},
-        {"/nowhere/collar.csv", missing, missing},
+        {"BHID;X\na,b\n", undelimited + "\nIt contains 1 semicolon.", ""},
+        {"\"a,b\"", "", undelimited},
+        {" \t\na,b\n", blank, blank},
+        {"", "The file is empty.", "The file is empty."},
     };
-    for (const auto &[path, atFirst, withSemicolon] : cases) {
-        DialogRun run;
-        run.fileName = path;
-        EXPECT_TRUE(run.show([&atFirst = atFirst, &withSemicolon = withSemicolon](Person &person) {
+    for (const auto &[content, atFirst, withSemicolon] : cases) {
+        FileRun run(content, {});
+        run.confirmAfter([&atFirst = atFirst, &withSemicolon = withSemicolon](Person &person) {
             EXPECT_EQ(sentence(), atFirst);
             person.typeDelimiter(';');
             poll("it says: " + withSemicolon, [&] { return sentence() == withSemicolon; });
-            pressOk(person);
-        }));
+        });
     }
+}
+
+TEST(LikelyDelimiter, IsOfferedAndTakenByAClickOrAKey) {
+    FileRun run("HOLE\tFROM\tTO\n", {"holename", "from"});
+    run.confirmAfter([](Person &person) {
+        const auto button = [] { return wxWindow::FindWindowByLabel("Use tab", &openDialog()); };
+        const auto expectOffer = [&button] {
+            poll("it is offered", [&button] {
+                return sentence() == "The first line of the file does not contain this delimiter.\n"
+                                     "It contains 2 tabs." &&
+                       read(button) != nullptr;
+            });
+        };
+        const auto expectTaken = [&button] {
+            poll("it is taken", [] { return fileTexts() == Names{"HOLE", "FROM", "TO"}; });
+            EXPECT_EQ(sentence(), "1 row in italics is a guess: check it.");
+            EXPECT_EQ(read(button), nullptr);
+        };
+        expectOffer();
+        person.click(read([&button] { return button()->GetId(); }));
+        expectTaken();
+        person.strikeWith(WXK_CONTROL, 'z');
+        expectOffer();
+        person.click(D::CHECK_HEADER);
+        person.click(D::CHECK_HEADER);
+        person.strike(WXK_TAB);
+        waitUntil("the button has the keys", [&button] { return button()->HasFocus(); });
+        person.strike(WXK_SPACE);
+        expectTaken();
+        person.strikeWith(WXK_CONTROL, 'z');
+        expectOffer();
+        person.strikeWith(WXK_CONTROL, 'y');
+        expectTaken();
+    });
+    EXPECT_EQ(run.delimiter, '\t');
 }

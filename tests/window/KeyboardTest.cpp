@@ -2,24 +2,18 @@
 
 // The dialog without a mouse: the current row, marks, the clipboard, and the tab order.
 
-#include "person/DialogRun.h"
-#include "person/openDialog.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
 #include <wxImportCSVDialog.h>
 
 namespace {
 
+using D = wxImportCSVDialog;
 using Rows = std::vector<int>;
 
 class Keyboard : public testing::Test {
 protected:
-    Keyboard() : file("HOLE,FROM,TO,AU,CU,OTHER,OTHER2\n") {
-        run.fileName = file.path();
-        run.appColumns = {"hole", "from", "to", "gold", "copper"};
+    Keyboard() {
         run.useSavedMatches = true;
         run.matches = {"HOLE", "FROM", "TO", "AU", "CU"};
     }
@@ -53,84 +47,80 @@ protected:
              [&texts] { return matchTexts() == texts; });
     }
 
-    ScratchFile file;
-    DialogRun run;
+    FileRun run{"HOLE,FROM,TO,AU,CU,OTHER,OTHER2\n", {"hole", "from", "to", "gold", "copper"}};
 };
 
 } // namespace
 
 TEST_F(Keyboard, TabFollowsTheReadingOrder) {
-    run.show([](Person &person) {
-        tabTo(person, wxImportCSVDialog::TXT_DELIMITER);
-        for (const int next : {wxImportCSVDialog::CHECK_HEADER, wxImportCSVDialog::BTN_REMATCH,
-                               wxImportCSVDialog::LISTBOX_FILE, wxImportCSVDialog::LISTBOX_MATCH}) {
+    run.cancelAfter([](Person &person) {
+        tabTo(person, D::TXT_DELIMITER);
+        const auto x = [](int id) { return read([id] { return control(id).GetPosition().x; }); };
+        const int firstButton = x(wxID_OK) < x(wxID_CANCEL) ? wxID_OK : wxID_CANCEL;
+        for (const int next : {int{D::CHECK_HEADER}, int{D::BTN_REMATCH}, int{D::LISTBOX_FILE},
+                               int{D::LISTBOX_MATCH}, firstButton}) {
             person.strike(WXK_TAB);
             poll("the focus is on " + std::to_string(next), [next] { return read(focus) == next; });
         }
-        const auto x = [](int id) { return read([id] { return control(id).GetPosition().x; }); };
-        const bool isOkFirst = x(wxID_OK) < x(wxID_CANCEL);
-        person.strike(WXK_TAB);
-        poll("the focus is on the first button",
-             [=] { return read(focus) == (isOkFirst ? wxID_OK : wxID_CANCEL); });
-        person.strike(WXK_ESCAPE);
     });
 }
 
 TEST_F(Keyboard, ArrowsMoveTheCurrentRowAndSpaceMarks) {
-    run.show([](Person &person) {
-        tabTo(person, wxImportCSVDialog::LISTBOX_MATCH);
-        person.strike(WXK_END);
-        expectRows({}, {4});
-        person.strike(WXK_HOME);
-        expectRows({}, {0});
-        person.strike(WXK_DOWN);
-        expectRows({}, {1});
-        person.strike(WXK_SPACE);
-        expectRows({1}, {});
-        person.strikeWith(WXK_CONTROL, WXK_DOWN);
-        person.strikeWith(WXK_CONTROL, WXK_DOWN);
-        person.strikeWith(WXK_CONTROL, WXK_SPACE);
-        expectRows({1, 3}, {});
-        person.strikeWith(WXK_SHIFT, WXK_UP);
-        expectRows({2, 3}, {});
-        person.strikeWith(WXK_SHIFT, WXK_DOWN);
-        person.strikeWith(WXK_SHIFT, WXK_DOWN);
-        expectRows({3, 4}, {});
-        person.strike(WXK_UP);
-        expectRows({}, {3});
-        person.strike('h');
-        person.strike(WXK_UP);
-        expectRows({}, {2});
-        person.strike(WXK_ESCAPE);
+    // clang-format off
+    const struct {
+        int modifier, key;
+        Rows marked, hover;
+    } strikes[] = {
+        {WXK_NONE, WXK_END, {}, {4}},
+        {WXK_NONE, WXK_HOME, {}, {0}},
+        {WXK_NONE, WXK_DOWN, {}, {1}},
+        {WXK_NONE, WXK_SPACE, {1}, {}},
+        {WXK_CONTROL, WXK_DOWN, {1}, {}},
+        {WXK_CONTROL, WXK_DOWN, {1}, {}},
+        {WXK_CONTROL, WXK_SPACE, {1, 3}, {}},
+        {WXK_SHIFT, WXK_UP, {2, 3}, {}},
+        {WXK_SHIFT, WXK_DOWN, {3}, {}},
+        {WXK_SHIFT, WXK_DOWN, {3, 4}, {}},
+        {WXK_NONE, WXK_UP, {}, {3}},
+        {WXK_NONE, 'h', {}, {3}},
+        {WXK_NONE, WXK_UP, {}, {2}},
+        {WXK_SHIFT, WXK_UP, {1, 2}, {}},
+    };
+    // clang-format on
+    run.cancelAfter([&strikes](Person &person) {
+        tabTo(person, D::LISTBOX_MATCH);
+        for (const auto &[modifier, key, marked, hover] : strikes) {
+            if (modifier == WXK_NONE) {
+                person.strike(key);
+            } else {
+                person.strikeWith(modifier, key);
+            }
+            expectRows(marked, hover);
+        }
     });
 }
 
 TEST_F(Keyboard, ScrollsTheCurrentRowIntoView) {
     run.appColumns = Names(300, "gold");
     run.useSavedMatches = false;
-    run.show([](Person &person) {
-        tabTo(person, wxImportCSVDialog::LISTBOX_MATCH);
+    run.cancelAfter([](Person &person) {
+        tabTo(person, D::LISTBOX_MATCH);
         const int page = read([] { return matchList().GetCountPerPage(); });
-        const struct {
-            int key;
-            int row;
-        } ways[] = {{WXK_END, 299},
-                    {WXK_PAGEUP, 299 - page},
-                    {WXK_PAGEUP, 299 - 2 * page},
-                    {WXK_PAGEDOWN, 299 - page},
-                    {WXK_HOME, 0}};
-        for (const auto &way : ways) {
-            person.strike(way.key);
-            expectRows({}, {way.row});
+        for (const auto &[key, row] : {std::pair(WXK_END, 299),
+                                       {WXK_PAGEUP, 299 - page},
+                                       {WXK_PAGEUP, 299 - 2 * page},
+                                       {WXK_PAGEDOWN, 299 - page},
+                                       {WXK_HOME, 0}}) {
+            person.strike(key);
+            expectRows({}, {row});
             const long top = read([] { return matchList().GetTopItem(); });
-            EXPECT_TRUE(way.row >= top && way.row < top + page) << way.row << " under " << top;
+            EXPECT_TRUE(row >= top && row < top + page) << row << " under " << top;
         }
-        person.strike(WXK_ESCAPE);
     });
 }
 
 TEST_F(Keyboard, ContinuesFromTheClickedRow) {
-    run.show([](Person &person) {
+    run.cancelAfter([](Person &person) {
         person.click(Person::matchRow(0));
         person.strike(WXK_DOWN);
         person.click(Person::fileRow(1));
@@ -140,21 +130,16 @@ TEST_F(Keyboard, ContinuesFromTheClickedRow) {
         expectTexts({"HOLE", "FROM", "TO", "FROM", "CU"});
         person.strikeWith(WXK_SHIFT, WXK_DOWN);
         expectRows({3, 4}, {});
-        person.strike(WXK_ESCAPE);
     });
 }
 
 TEST_F(Keyboard, CopiesAndPastesNamesLikeADrag) {
-    EXPECT_TRUE(run.show([](Person &person) {
-        tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
+    run.confirmAfter([](Person &person) {
+        tabTo(person, D::LISTBOX_FILE);
         person.strike(WXK_HOME);
-        waitUntil("an entry is selected", [] { return fileList().GetSelection() == 0; });
         person.strikeWith(WXK_CONTROL, 'c');
-        person.strike(WXK_TAB);
-        poll("the match list has the focus",
-             [] { return read(focus) == wxImportCSVDialog::LISTBOX_MATCH; });
+        tabTo(person, D::LISTBOX_MATCH);
         person.strike(WXK_END);
-        expectRows({}, {4});
         person.strikeWith(WXK_CONTROL, 'v');
         expectTexts({"HOLE", "FROM", "TO", "AU", "HOLE"});
         person.strike(WXK_UP);
@@ -171,21 +156,20 @@ TEST_F(Keyboard, CopiesAndPastesNamesLikeADrag) {
         expectTexts({"HOLE", "Not used", "Not used", "Not used", "HOLE"});
         person.strike(WXK_HOME);
         person.strikeWith(WXK_CONTROL, 'v');
-        person.strike(WXK_RETURN);
-    }));
+    });
     EXPECT_EQ(run.matches, (Names{"FROM", "", "", "", "HOLE"}));
 }
 
 TEST_F(Keyboard, FindsColumnsByTypingAndAssignsThemOneAfterAnother) {
     run.matches = {"HOLE", "", "TO", "", ""};
-    EXPECT_TRUE(run.show([](Person &person) {
+    run.confirmAfter([](Person &person) {
         const auto type = [&person](const std::string &typed, int entry) {
             for (const char character : typed) {
                 person.strike(character);
             }
             waitUntil(typed + " is found", [entry] { return fileList().GetSelection() == entry; });
         };
-        tabTo(person, wxImportCSVDialog::LISTBOX_FILE);
+        tabTo(person, D::LISTBOX_FILE);
         type("he", 5); // the first of two that contain it
         person.strikeWith(WXK_CONTROL, WXK_RETURN);
         expectRows({}, {3});
@@ -204,15 +188,13 @@ TEST_F(Keyboard, FindsColumnsByTypingAndAssignsThemOneAfterAnother) {
         expectTexts({"CU", "OTHER", "TO", "Not used", "Not used"});
         expectRows({}, {3});
         person.strikeWith(WXK_CONTROL, 'y');
-        person.strike(WXK_RETURN);
-    }));
+    });
     EXPECT_EQ(run.matches, (Names{"CU", "OTHER", "TO", "", ""}));
 }
 
 TEST_F(Keyboard, PressesOkByReturnAndCancelByEscapeOrItsLetterInBothLists) {
-    for (const int list : {wxImportCSVDialog::LISTBOX_FILE, wxImportCSVDialog::LISTBOX_MATCH}) {
-        for (const int key :
-             {static_cast<int>(WXK_RETURN), static_cast<int>(WXK_ESCAPE), 0 + 'c'}) {
+    for (const int list : {D::LISTBOX_FILE, D::LISTBOX_MATCH}) {
+        for (const int key : {int{WXK_RETURN}, int{WXK_ESCAPE}, int{'c'}}) {
             EXPECT_EQ(run.show([=](Person &person) {
                 tabTo(person, list);
                 person.strike(WXK_DOWN);

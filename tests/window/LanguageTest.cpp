@@ -2,12 +2,10 @@
 
 // The dialog in each of its languages, as a host sets it for messages.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <clocale>
 
-#include <gtest/gtest.h>
 #include <wx/translation.h>
 #include <wx/utils.h>
 #include <wxImportCSVDialog.h>
@@ -37,7 +35,6 @@ void expectRoom(const std::string &language) {
 } // namespace
 
 TEST(Language, FollowsTheMessagesOfTheProcessAndFitsAllCaptions) {
-    const ScratchFile file("BHID;X\n");
     const std::string usual = std::setlocale(LC_ALL, nullptr);
     const bool isWindows = (wxGetOsVersion() & wxOS_WINDOWS) != 0;
     const struct {
@@ -59,19 +56,15 @@ TEST(Language, FollowsTheMessagesOfTheProcessAndFitsAllCaptions) {
         }
         std::setlocale(LC_ALL, locale);
         wxSetEnv("LANGUAGE", languages);
-        DialogRun run;
-        run.fileName = file.path();
-        run.appColumns = {"gold"};
-        EXPECT_FALSE(run.show(
-            [&languages = languages, &caption = caption, &unused = unused](Person &person) {
-                EXPECT_EQ(matchTexts(), Names{unused});
-                EXPECT_EQ(boldRows(), std::vector<int>{0});
-                onUserInterface([&] {
-                    EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), wxString::FromUTF8(caption));
-                    expectRoom(languages);
-                });
-                pressCancel(person);
-            }));
+        FileRun run("BHID;X\n", {"gold"});
+        run.cancelAfter([&languages = languages, &caption = caption, &unused = unused](Person &) {
+            EXPECT_EQ(matchTexts(), Names{unused});
+            EXPECT_EQ(boldRows(), std::vector<int>{0});
+            onUserInterface([&] {
+                EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), wxString::FromUTF8(caption));
+                expectRoom(languages);
+            });
+        });
         EXPECT_EQ(run.matches, Names{""}) << languages;
         EXPECT_EQ(wxTranslations::Get(), host);
     }

@@ -2,14 +2,12 @@
 
 // The place and text of everything in the dialog; a small frame does not squeeze it.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 
-#include <gtest/gtest.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
 #include <wxImportCSVDialog.h>
@@ -20,13 +18,7 @@ using D = wxImportCSVDialog;
 
 class Layout : public testing::Test {
 protected:
-    Layout() : file("BHID,UTM X,Depth\nDH-1,500,20\n") {
-        run.fileName = file.path();
-        run.appColumns = {"holename", "x"};
-    }
-
-    ScratchFile file;
-    DialogRun run;
+    FileRun run{"BHID,UTM X,Depth\nDH-1,500,20\n", {"holename", "x"}};
 };
 
 /// The place of a control in the client area of the dialog.
@@ -51,10 +43,16 @@ int bottom(const wxRect &rect) {
     return rect.y + rect.height;
 }
 
-struct Figure {
+/// A place of the same size.
+wxRect at(const wxRect &rect, int x, int y) {
+    return {wxPoint(x, y), rect.GetSize()};
+}
+
+/// A control's place and size, and those that it is to have.
+struct Placed {
     const char *what;
-    int is;
-    int wanted;
+    wxRect is;
+    wxRect wanted;
 };
 
 /// A figure of the layout at the scale in the environment of the test.
@@ -64,7 +62,8 @@ int scaled(int pixels) {
 }
 
 /// The fixed places and sizes, however wide the platform's texts and box frames are.
-std::vector<Figure> figures() {
+std::vector<Placed> placed() {
+    const wxRect frame = frameOfDialog();
     const wxRect preview = place(labelled("File Preview"));
     const wxRect text = place(control(D::TEXT_FILE_PREVIEW));
     const wxRect options = place(labelled("Options"));
@@ -80,53 +79,35 @@ std::vector<Figure> figures() {
     const wxRect cancel = place(control(wxID_CANCEL));
     const int client = openDialog().GetClientSize().x;
     // The thickness of a box's frame on this platform.
-    const wxSize frame = preview.GetSize() - text.GetSize();
+    const wxSize around = preview.GetSize() - text.GetSize();
     const wxPoint inside = text.GetPosition() - preview.GetPosition();
+    const int screen = wxGetDisplaySize().y;
     return {
-        {"frame: width", frameOfDialog().width, scaled(900)},
-        {"frame: height, to the end of the screen", frameOfDialog().height,
-         std::min(scaled(900), wxGetDisplaySize().y - 100)},
-        {"preview box: left", preview.x, scaled(10)},
-        {"preview box: top", preview.y, scaled(10)},
-        {"preview: width", text.width, scaled(850)},
-        {"preview: height", text.height, scaled(125)},
-        {"options: left", options.x, scaled(10)},
-        {"options: below the preview", options.y, bottom(preview) + scaled(10)},
-        {"options: width", options.width, right(delimiter) - label.x + frame.x},
-        {"options: height", options.height, bottom(check) - label.y + frame.y},
-        {"label: left", label.x, options.x + inside.x},
-        {"label: top", label.y, options.y + inside.y},
-        {"delimiter: left", delimiter.x, right(label) + scaled(10)},
-        {"delimiter: top", delimiter.y, label.y},
-        {"delimiter: width", delimiter.width, scaled(25)},
-        {"delimiter: height", delimiter.height, scaled(20)},
-        {"check box: top", check.y, bottom(delimiter)},
-        {"check box: middle", check.x + right(check), label.x + right(delimiter)},
-        {"reset: top", reset.y, bottom(options)},
-        {"reset: right", right(reset), client - scaled(25)},
-        {"matching box: left", matching.x, scaled(10)},
-        {"matching box: top", matching.y, bottom(reset)},
-        {"matching box: width", matching.width,
-         scaled(250) + scaled(50) + scaled(525) + scaled(20) + frame.x},
-        {"matching box: height", matching.height, scaled(450) + frame.y},
-        {"file list: left", files.x, matching.x + inside.x},
-        {"file list: top", files.y, matching.y + inside.y},
-        {"file list: width", files.width, scaled(250)},
-        {"file list: height", files.height, scaled(450)},
-        {"arrow: left", arrow.x, right(files)},
-        {"arrow: top", arrow.y, files.y + scaled(200)},
-        {"arrow: width", arrow.width, scaled(50)},
-        {"arrow: height", arrow.height, scaled(50)},
-        {"match list: left", matches.x, right(arrow)},
-        {"match list: top", matches.y, files.y},
-        {"match list: width", matches.width, scaled(525)},
-        {"match list: height", matches.height, scaled(450)},
-        {"match list: first column", matchList().GetColumnWidth(D::COLUMN_MATCH), scaled(245)},
-        {"match list: second column", matchList().GetColumnWidth(D::COLUMN_APP), scaled(245)},
-        {"OK: top", ok.y, bottom(matching) + scaled(20)},
-        {"Cancel: top", cancel.y, ok.y},
-        {"OK and Cancel: at the right",
-         static_cast<int>(std::max(right(ok), right(cancel)) > reset.x), 1},
+        {"the frame, which ends with the screen",
+         frame,
+         {frame.x, frame.y, scaled(900), std::min(scaled(900), screen - 100)}},
+        {"the preview box", preview, at(preview, scaled(10), scaled(10))},
+        {"the preview", text, {text.x, text.y, scaled(850), scaled(125)}},
+        {"the options",
+         options,
+         {scaled(10), bottom(preview) + scaled(10), right(delimiter) - label.x + around.x,
+          bottom(check) - label.y + around.y}},
+        {"the label", label, at(label, options.x + inside.x, options.y + inside.y)},
+        {"the delimiter", delimiter, {right(label) + scaled(10), label.y, scaled(25), scaled(20)}},
+        {"the check box, in the middle", check,
+         at(check, (label.x + right(delimiter) - check.width) / 2, bottom(delimiter))},
+        {"the reset button", reset, at(reset, client - scaled(25) - reset.width, bottom(options))},
+        {"the matching box",
+         matching,
+         {scaled(10), bottom(reset), scaled(250) + scaled(50) + scaled(525) + scaled(20) + around.x,
+          scaled(450) + around.y}},
+        {"the file list",
+         files,
+         {matching.x + inside.x, matching.y + inside.y, scaled(250), scaled(450)}},
+        {"the arrow", arrow, {right(files), files.y + scaled(200), scaled(50), scaled(50)}},
+        {"the match list", matches, {right(arrow), files.y, scaled(525), scaled(450)}},
+        {"OK", ok, at(ok, ok.x, bottom(matching) + scaled(20))},
+        {"Cancel", cancel, at(cancel, cancel.x, ok.y)},
     };
 }
 
@@ -143,22 +124,31 @@ std::vector<wxSize> sizes() {
 
 } // namespace
 
+void PrintTo(const wxRect &rect, std::ostream *out) {
+    *out << rect.x << ", " << rect.y << ", " << rect.width << " x " << rect.height;
+}
+
 TEST_F(Layout, GivesEachControlItsPlaceAndSize) {
-    run.show([](Person &person) {
-        for (const Figure &figure : read(figures)) {
-            EXPECT_EQ(figure.is, figure.wanted) << figure.what;
-        }
-        pressCancel(person);
+    run.cancelAfter([](Person &) {
+        onUserInterface([] {
+            for (const auto &[what, is, wanted] : placed()) {
+                EXPECT_EQ(is, wanted) << what;
+            }
+            for (const int column : {D::COLUMN_MATCH, D::COLUMN_APP}) {
+                EXPECT_EQ(matchList().GetColumnWidth(column), scaled(245));
+            }
+            EXPECT_GT(std::max(right(place(control(wxID_OK))), right(place(control(wxID_CANCEL)))),
+                      place(control(D::BTN_REMATCH)).x);
+        });
     });
 }
 
 TEST_F(Layout, GivesEachControlItsText) {
     run.title = "Import collars";
-    run.show([](Person &person) {
+    run.cancelAfter([](Person &) {
         onUserInterface([] {
             EXPECT_EQ(openDialog().GetTitle(), "Import collars");
             EXPECT_EQ(control(D::CHECK_HEADER).GetLabel(), "First Line contain title");
-            EXPECT_EQ(control(D::BTN_REMATCH).GetLabel(), "Reset to Default");
             const auto &preview = control<wxStaticText>(D::TEXT_FILE_PREVIEW);
             EXPECT_EQ(preview.GetLabelText(), "BHID,UTM X,Depth\nDH-1,500,20\n\n");
             EXPECT_TRUE(preview.GetFont().IsFixedWidth());
@@ -171,16 +161,12 @@ TEST_F(Layout, GivesEachControlItsText) {
                 EXPECT_EQ(heading.GetText(), headings[column]);
             }
         });
-        pressCancel(person);
     });
 }
 
 TEST_F(Layout, KeepsTheSizesOfControlsInAFrameOfAnySize) {
     std::vector<wxSize> usual;
-    run.show([&usual](Person &person) {
-        usual = read(sizes);
-        pressCancel(person);
-    });
+    run.cancelAfter([&usual](Person &) { usual = read(sizes); });
     for (const int size : {2147483647, 1600, 300, 100, 1, 0, -1, -70000}) {
         run.width = size;
         run.height = size;

@@ -2,12 +2,10 @@
 
 // The results of a run, however it ends, and the dialog's place meanwhile.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <atomic>
 
-#include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/log.h>
 #include <wxImportCSVDialog.h>
@@ -16,13 +14,7 @@ namespace {
 
 class Outcome : public testing::Test {
 protected:
-    Outcome() : file("BHID,Azimut;Dip\n") {
-        run.appColumns = {"holename", "dip"};
-        run.fileName = file.path();
-    }
-
-    ScratchFile file;
-    DialogRun run;
+    FileRun run{"BHID,Azimut;Dip\n", {"holename", "dip"}};
 };
 
 } // namespace
@@ -53,20 +45,16 @@ TEST_F(Outcome, IsWrittenHoweverTheDialogEndsAndTrueOnlyForOk) {
 }
 
 TEST_F(Outcome, IsEmptyForAFileColumnCalledNotUsed) {
-    const ScratchFile named("Not used\n");
-    run.fileName = named.path();
-    run.useSavedMatches = true;
-    run.matches = {"Not used", ""};
-    run.show(pressOk);
-    EXPECT_EQ(run.matches, (Names{"", ""}));
+    FileRun named("Not used\n", {"a", "b"});
+    named.useSavedMatches = true;
+    named.matches = {"Not used", ""};
+    named.show(pressOk);
+    EXPECT_EQ(named.matches, (Names{"", ""}));
 }
 
 TEST_F(Outcome, IsEmptyWithoutApplicationColumns) {
     run.appColumns.clear();
-    EXPECT_TRUE(run.show([](Person &person) {
-        EXPECT_EQ(fileTexts(), (Names{"BHID", "Azimut;Dip"}));
-        pressOk(person);
-    }));
+    run.confirmAfter([](Person &) { EXPECT_EQ(fileTexts(), (Names{"BHID", "Azimut;Dip"})); });
     EXPECT_EQ(run.matches, Names());
 }
 
@@ -98,21 +86,18 @@ TEST_F(Outcome, TheFrameHasTheRequestedPlaceAndSizeInEveryRun) {
 TEST_F(Outcome, ASecondRunIsRefusedWhileOneIsOpenAndItsPeerReplacesNothing) {
     DialogRun second = run;
     second.matches = {"kept"};
-    EXPECT_TRUE(run.show([&second](Person &person) {
+    run.confirmAfter([&second](Person &) {
         onUserInterface([&second] {
             const auto *application = wxApp::GetInstance();
-            EXPECT_FALSE(wxImportCSVDialogPeer().showWindow(
-                nullptr, "Second", second.appColumns, second.fileName, &second.useSavedMatches,
-                &second.matches, &second.delimiter, &second.firstLineHeader, 900, 900));
+            EXPECT_FALSE(second.showAlone());
             EXPECT_EQ(wxApp::GetInstance(), application);
         });
-        pressOk(person);
-    }));
+    });
     EXPECT_EQ(second.matches, Names{"kept"});
 }
 
 TEST_F(Outcome, ShowsTheUserNoMessageOfTheToolkit) {
-    EXPECT_TRUE(run.show([](Person &person) {
+    run.confirmAfter([](Person &) {
         std::atomic<bool> hasGoneOn = false;
         onUserInterface([&hasGoneOn] {
             EXPECT_FALSE(wxLog::IsEnabled());
@@ -124,8 +109,7 @@ TEST_F(Outcome, ShowsTheUserNoMessageOfTheToolkit) {
             });
         });
         poll("no box is open", [&hasGoneOn] { return hasGoneOn.load(); });
-        pressOk(person);
-    }));
+    });
     EXPECT_TRUE(wxLog::IsEnabled());
 }
 

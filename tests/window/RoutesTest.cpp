@@ -2,13 +2,11 @@
 
 // The rows for each way of filling the lists, and the actions that switch between these ways.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <algorithm>
 #include <filesystem>
 
-#include <gtest/gtest.h>
 #include <wx/checkbox.h>
 #include <wx/clipbrd.h>
 #include <wx/textctrl.h>
@@ -88,12 +86,10 @@ void expectShown(const Lists &lists, const std::string &where) {
         if (lists.matches[row] == "Not used") {
             unused.push_back(static_cast<int>(row));
         }
-        const auto application = [row] {
-            return matchList().GetItemText(static_cast<long>(row), wxImportCSVDialog::COLUMN_APP);
-        };
-        EXPECT_EQ(read(application), collar[row]);
     }
     EXPECT_EQ(boldRows(), unused) << where;
+    const Names shown = matchTexts(wxImportCSVDialog::COLUMN_APP);
+    EXPECT_TRUE(std::equal(shown.begin(), shown.end(), collar.begin())) << where;
     std::vector<int> used;
     for (std::size_t entry = 0; entry < lists.fileColumns.size(); ++entry) {
         if (std::count(lists.matches.begin(), lists.matches.end(), lists.fileColumns[entry]) > 0) {
@@ -103,14 +99,12 @@ void expectShown(const Lists &lists, const std::string &where) {
     EXPECT_EQ(usedEntries(), used) << where;
 }
 
-void expectToTake(const Route &route, const std::string &path) {
-    DialogRun run;
-    run.appColumns = collar;
-    run.fileName = path;
+void expectToTake(const Route &route) {
+    FileRun run(content, collar);
     run.useSavedMatches = route.useSaved;
     run.matches = route.saved;
     run.firstLineHeader = route.firstLineHeader;
-    const bool isTable = route.source == aTable || route.source == emptyTable;
+    const bool isTable = route.source != aFile;
     wxString delimiter;
     const auto act = [&](Person &person) {
         for (const Step &step : route.steps) {
@@ -119,8 +113,7 @@ void expectToTake(const Route &route, const std::string &path) {
         }
         if (isTable) {
             EXPECT_EQ(sentence(), "") << route.name;
-        }
-        if (!isTable) {
+        } else {
             delimiter = read(
                 [] { return control<wxTextCtrl>(wxImportCSVDialog::TXT_DELIMITER).GetValue(); });
         }
@@ -178,19 +171,15 @@ TEST(Routes, ShowTheColumnsAndMatchesAfterEachStep) {
         {"an empty table", {}, true, true, emptyTable, {{look, empty}}},
         {"an empty table by position", {}, false, true, emptyTable, {{look, empty}}},
     };
-    const ScratchFile file(content);
     for (const Route &route : routes) {
-        expectToTake(route, file.path());
+        expectToTake(route);
     }
 }
 // clang-format on
 
 TEST(Routes, ReadTheFileAgainForAnotherDelimiterAlone) {
-    const ScratchFile file(content);
-    DialogRun run;
-    run.appColumns = collar;
-    run.fileName = file.path();
-    EXPECT_TRUE(run.show([&file](Person &person) {
+    FileRun run(content, collar);
+    run.confirmAfter([&file = run.file](Person &person) {
         file.write("changed;meanwhile\n");
         for (const Steps &steps : {type(','), Steps(tick), Steps(tick), Steps(reset)}) {
             steps(person);
@@ -201,15 +190,12 @@ TEST(Routes, ReadTheFileAgainForAnotherDelimiterAlone) {
         std::filesystem::remove(std::filesystem::u8path(file.path()));
         person.typeDelimiter(',');
         poll("the file is found gone", [] { return fileTexts().empty(); });
-        pressOk(person);
-    }));
+    });
 }
 
 TEST(Routes, TakeOneCharacterAsDelimiterAndReturnItsFirstByte) {
-    const ScratchFile file(content);
-    DialogRun run;
-    run.fileName = file.path();
-    EXPECT_TRUE(run.show([](Person &person) {
+    FileRun run(content, {});
+    run.confirmAfter([](Person &person) {
         person.emptyDelimiter();
         onUserInterface([] {
             const wxClipboardLocker clipboard;
@@ -223,8 +209,7 @@ TEST(Routes, TakeOneCharacterAsDelimiterAndReturnItsFirstByte) {
         waitUntil("the character is pasted", holdsOne);
         person.strike('X');
         EXPECT_TRUE(read(holdsOne));
-        pressOk(person);
-    }));
+    });
     // A character that the locale can't encode is UTF-8.
     const std::string inLocale = wxString::FromUTF8("\xC3\xA9").ToStdString(wxConvLibc);
     EXPECT_EQ(run.delimiter, inLocale.empty() ? '\xC3' : inLocale.front());

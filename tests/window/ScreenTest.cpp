@@ -2,10 +2,8 @@
 
 // The visible part of the dialog, on any screen and with any size of fonts.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
-#include <gtest/gtest.h>
 #include <wxImportCSVDialog.h>
 
 namespace {
@@ -46,10 +44,7 @@ Steps seeAndPressOk(const std::vector<int> &controls) {
 } // namespace
 
 TEST(Screen, ShowsTheOptionsTheButtonsAndFiveRowsWhole) {
-    const ScratchFile file("BHID,Dip\n\n\n\n\n\n\n\n\n\n\n");
-    DialogRun run;
-    run.fileName = file.path();
-    run.appColumns = {"holename", "dip"};
+    FileRun run("BHID,Dip\n\n\n\n\n\n\n\n\n\n\n", {"holename", "dip"});
     run.height = 840;
     for (const int width : {900, 3000}) {
         run.width = width;

@@ -2,15 +2,12 @@
 
 // Text that comes from another program.
 
-#include "person/DialogRun.h"
-#include "person/Screen.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <chrono>
 #include <cstdio>
 
 #include <glib.h>
-#include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <wxImportCSVDialog.h>
 
@@ -68,21 +65,15 @@ private:
 } // namespace
 
 TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
-    const ScratchFile file("HOLE,FROM\n");
-    const Names texts = {"From elsewhere",
-                         "Not used",
-                         "plong\xC3\xA9\x65 (\xC2\xB0)",
-                         std::string(100000, 'x'),
-                         "1\n2\n3",
-                         " plong\xE9",
-                         ""};
-    DialogRun run;
-    run.fileName = file.path();
-    run.appColumns = {"a", "b", "c", "d", "e", "f", "hole", "from"};
+    FileRun run("HOLE,FROM\n", {"a", "b", "c", "d", "e", "f", "hole", "from"});
+    const std::string large(100000, 'x');
+    const Names texts = {
+        "From elsewhere", "Not used", "plong\xC3\xA9\x65 (\xC2\xB0)", large, "1\n2\n3",
+        " plong\xE9",     ""};
     Names offered = texts;
     offered.insert(offered.end(), 2, "ignored");
     OtherProgram program(offered);
-    EXPECT_TRUE(run.show([&](Person &person) {
+    run.confirmAfter([&](Person &person) {
         for (int row = 0; row < static_cast<int>(texts.size()); ++row) {
             program.dropAt(person, Person::matchRow(row));
         }
@@ -93,8 +84,7 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
         person.click(Person::matchRow(7));
         poll("the last row is marked", [] { return markedRows() == std::vector<int>{7}; });
         program.dropAt(person, Person::belowFileRows());
-        pressOk(person);
-    }));
+    });
     Names expected = texts;
     expected[1] = "";
     expected[5] = " plong\xC3\xA9";
@@ -104,7 +94,6 @@ TEST(ForeignText, IsWrittenIntoARowAsGivenAndClearsMarkedRowsOnTheFileList) {
 }
 
 TEST(ForeignText, IsPastedAsUtf8IfOfferedAndElseDecodedLikeAName) {
-    const ScratchFile file("HOLE\n");
     const struct {
         std::vector<std::string> offered;
         std::string bytes;
@@ -114,10 +103,8 @@ TEST(ForeignText, IsPastedAsUtf8IfOfferedAndElseDecodedLikeAName) {
                  {{"STRING"}, "\xC3\xA9"},
                  {{"text/plain"}, "\xC3\xA9"}};
     for (const auto &[offered, bytes] : cases) {
-        DialogRun run;
-        run.fileName = file.path();
-        run.appColumns = {"a"};
-        run.show([&names = offered](Person &person) {
+        FileRun run("HOLE\n", {"a"});
+        run.confirmAfter([&names = offered](Person &person) {
             onUserInterface([&names] {
                 std::vector<GtkTargetEntry> formats;
                 for (const std::string &name : names) {
@@ -137,14 +124,12 @@ TEST(ForeignText, IsPastedAsUtf8IfOfferedAndElseDecodedLikeAName) {
             });
             person.click(Person::matchRow(0));
             person.strikeWith(WXK_CONTROL, 'v');
-            person.strike(WXK_RETURN);
         });
         EXPECT_EQ(run.matches, Names{bytes}) << offered.front();
     }
 }
 
 TEST(ForeignText, IsPastedBeforeAllLaterChanges) {
-    const ScratchFile file("HOLE,FROM\n");
     const struct {
         const char *what;
         Steps later;
@@ -176,9 +161,7 @@ TEST(ForeignText, IsPastedBeforeAllLaterChanges) {
          {"Column1", ""}},
     };
     for (const auto &[what, later, result] : cases) {
-        DialogRun run;
-        run.fileName = file.path();
-        run.appColumns = {"hole", "to"};
+        FileRun run("HOLE,FROM\n", {"hole", "to"});
         OtherProgram program({"unused"});
         EXPECT_TRUE(run.show([&program, &later = later](Person &person) {
             person.drag(Person::fileRow(1), Person::matchRow(1));
@@ -196,10 +179,7 @@ TEST(ForeignText, IsPastedBeforeAllLaterChanges) {
 }
 
 TEST(ForeignText, IsNotWaitedForIfTheOtherProgramHangs) {
-    const ScratchFile file("HOLE,FROM\n");
-    DialogRun run;
-    run.fileName = file.path();
-    run.appColumns = {"hole", "from"};
+    FileRun run("HOLE,FROM\n", {"hole", "from"});
     OtherProgram program({"unused"});
     EXPECT_FALSE(run.show([&program](Person &person) {
         person.moveTo(Person::fileRow(0));

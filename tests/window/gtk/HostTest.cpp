@@ -2,15 +2,12 @@
 
 // The dialog over the windows and inside the event loops of different hosts.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <functional>
 
-#include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <wx/modalhook.h>
-#include <wx/utils.h>
 #include <wxImportCSVDialog.h>
 
 namespace {
@@ -19,15 +16,10 @@ using Work = std::function<void()>;
 
 class Host : public testing::Test {
 protected:
-    Host() : file("BHID,Dip\n") {
-        // A host of this toolkit starts it before it can have a window.
-        gtk_init(nullptr, nullptr);
-        run.appColumns = {"holename", "dip"};
-        run.fileName = file.path();
-    }
+    // A host of this toolkit starts it before it can have a window.
+    Host() { gtk_init(nullptr, nullptr); }
 
-    ScratchFile file;
-    DialogRun run;
+    FileRun run{"BHID,Dip\n", {"holename", "dip"}};
 };
 
 /// A shown window of the host with a button in it.
@@ -53,40 +45,35 @@ void later(const Work &work) {
                     [](void *data) { delete static_cast<Work *>(data); });
 }
 
-/// Does `work` in a plain main loop, which must run on afterwards.
-void inMainLoop(const Work &work) {
+/// Does `work` in a loop of the host, which must run on afterwards until `quit` ends it.
+void inLoop(const Work &runLoop, const Work &work, const Work &quit) {
     bool wentOn = false;
     later([&] {
         work();
-        EXPECT_EQ(gtk_main_level(), 1U);
-        later([&wentOn] {
+        later([&] {
             wentOn = true;
-            gtk_main_quit();
+            quit();
         });
     });
-    gtk_main();
-    EXPECT_TRUE(wentOn) << "the host's own main loop ended with the dialog";
+    runLoop();
+    EXPECT_TRUE(wentOn) << "the host's own loop ended with the dialog";
 }
 
-/// The same in the loop of an application object.
-void inApplication(const Work &work) {
-    GtkApplication *application =
-        gtk_application_new("org.columnimport.test", G_APPLICATION_NON_UNIQUE);
-    bool wentOn = false;
-    Work activate = [&] {
-        g_application_hold(G_APPLICATION(application));
-        later([&] {
-            work();
-            later([&] {
-                wentOn = true;
-                g_application_release(G_APPLICATION(application));
-            });
-        });
+void inMainLoop(const Work &work) {
+    const auto workAndCheck = [&work] {
+        work();
+        EXPECT_EQ(gtk_main_level(), 1U);
     };
-    g_signal_connect_swapped(application, "activate", G_CALLBACK(+[](Work *self) { (*self)(); }),
-                             &activate);
-    g_application_run(G_APPLICATION(application), 0, nullptr);
-    EXPECT_TRUE(wentOn);
+    inLoop(gtk_main, workAndCheck, gtk_main_quit);
+}
+
+void inApplication(const Work &work) {
+    GApplication *application =
+        G_APPLICATION(gtk_application_new("org.columnimport.test", G_APPLICATION_NON_UNIQUE));
+    g_signal_connect(application, "activate", G_CALLBACK(+[] {}), nullptr);
+    g_application_hold(application);
+    inLoop([=] { g_application_run(application, 0, nullptr); }, work,
+           [=] { g_application_release(application); });
     g_object_unref(application);
 }
 
@@ -122,10 +109,8 @@ TEST_F(Host, OwnsTheDialogAndKeepsItsWindowUnchanged) {
     GtkWidget *window = newHostWindow();
     for (GtkWidget *handle : {window, gtk_bin_get_child(GTK_BIN(window))}) {
         run.owner = handle;
-        EXPECT_TRUE(run.show([window](Person &person) {
-            EXPECT_EQ(read(ownerOfDialog), GTK_WINDOW(window));
-            pressOk(person);
-        }));
+        run.confirmAfter(
+            [window](Person &) { EXPECT_EQ(read(ownerOfDialog), GTK_WINDOW(window)); });
         EXPECT_EQ(wxTopLevelWindows.GetCount(), 0U);
         EXPECT_TRUE(gtk_widget_get_visible(window));
     }
@@ -137,52 +122,18 @@ TEST_F(Host, OpensTheDialogWithoutAWindow) {
     GtkWidget *loose = g_object_ref_sink(gtk_button_new());
     for (GtkWidget *handle : {static_cast<GtkWidget *>(nullptr), loose}) {
         run.owner = handle;
-        EXPECT_TRUE(run.show([](Person &person) {
-            EXPECT_EQ(read(ownerOfDialog), nullptr);
-            pressOk(person);
-        }));
+        run.confirmAfter([](Person &) { EXPECT_EQ(read(ownerOfDialog), nullptr); });
     }
     g_object_unref(loose);
 }
 
 TEST_F(Host, MayDestroyItsWindowWhileTheDialogStaysOpen) {
     run.owner = newHostWindow();
-    EXPECT_TRUE(run.show([this](Person &person) {
+    run.confirmAfter([this](Person &) {
         onUserInterface([this] { gtk_widget_destroy(run.owner); });
         EXPECT_EQ(matchTexts(), (Names{"BHID", "Dip"}));
-        pressOk(person);
-    }));
-    EXPECT_EQ(run.matches, (Names{"BHID", "Dip"}));
-}
-
-TEST_F(Host, CutsOffTheControlsInAFrameMadeSmall) {
-    run.show([](Person &person) {
-        const auto sizes = [] {
-            std::vector<wxSize> all;
-            for (const int id : std::initializer_list<int>{wxID_OK, wxImportCSVDialog::BTN_REMATCH,
-                                                           wxImportCSVDialog::LISTBOX_FILE,
-                                                           wxImportCSVDialog::LISTBOX_MATCH}) {
-                all.push_back(control(id).GetSize());
-            }
-            return all;
-        };
-        const std::vector<wxSize> usual = read(sizes);
-        const wxPoint corner = read([] { return wxPoint() + openDialog().GetClientSize(); });
-        person.moveTo(corner - wxSize(20, 20));
-        person.press();
-        // The window manager takes over, as after a press on the frame's corner.
-        onUserInterface([] {
-            const wxPoint pointer = wxGetMousePosition();
-            gtk_window_begin_resize_drag(GTK_WINDOW(openDialog().GetHandle()),
-                                         GDK_WINDOW_EDGE_SOUTH_EAST, 1, pointer.x, pointer.y,
-                                         GDK_CURRENT_TIME);
-        });
-        person.hoverAt(wxPoint(50, 50), "the frame is small",
-                       [] { return openDialog().GetClientSize().x < 100; });
-        person.release();
-        EXPECT_EQ(read(sizes), usual);
-        onUserInterface(pressCloseBox);
     });
+    EXPECT_EQ(run.matches, (Names{"BHID", "Dip"}));
 }
 
 TEST_F(Host, ContinuesItsLoopsHoweverARunEnds) {
@@ -192,10 +143,7 @@ TEST_F(Host, ContinuesItsLoopsHoweverARunEnds) {
         EXPECT_FALSE(run.show(pressCancel));
         {
             const AnsweringHook hook;
-            bool useSaved = false;
-            EXPECT_FALSE(wxImportCSVDialogPeer().showWindow(
-                run.owner, "Import", run.appColumns, run.fileName, &useSaved, &run.matches,
-                &run.delimiter, &run.firstLineHeader, 900, 900));
+            EXPECT_FALSE(run.showAlone());
         }
         EXPECT_THROW(run.show(meetMishap), Mishap);
         EXPECT_TRUE(run.show(pressOk));
@@ -216,10 +164,7 @@ TEST_F(Host, MayLeaveItsLoopBeforeTheDialogIsShown) {
                 return G_SOURCE_REMOVE;
             },
             nullptr, nullptr);
-        bool useSaved = false;
-        EXPECT_FALSE(wxImportCSVDialogPeer().showWindow(
-            nullptr, "Import", run.appColumns, run.fileName, &useSaved, &run.matches,
-            &run.delimiter, &run.firstLineHeader, 900, 900));
+        EXPECT_FALSE(run.showAlone());
         while (gtk_events_pending() != 0) {
             gtk_main_iteration();
         }

@@ -3,15 +3,13 @@
 // A host that is used all day: hundreds of imports in one process leak nothing. The variable
 // COLUMNIMPORT_RUNS changes their number.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
 #include <iterator>
 
-#include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <malloc.h>
 #include <sys/resource.h>
@@ -75,18 +73,14 @@ TEST(LongUse, HoldsANameAsLargeAsItsFileTwiceAtMost) {
         getrusage(RUSAGE_SELF, &usage);
         return usage.ru_maxrss >> 10U;
     };
-    const ScratchFile file("");
+    FileRun run("", {"dip"});
     constexpr unsigned megabytes = 128;
-    std::filesystem::resize_file(file.path(), megabytes << 20U);
-    DialogRun run;
-    run.fileName = file.path();
-    run.appColumns = {"dip"};
+    std::filesystem::resize_file(run.fileName, megabytes << 20U);
     const long before = peakInMegabytes();
-    EXPECT_TRUE(run.show([](Person &person) {
+    run.confirmAfter([](Person &person) {
         person.typeDelimiter(';');
         person.typeDelimiter('|');
-        pressOk(person);
-    }));
+    });
     EXPECT_EQ(run.delimiter, '|');
     EXPECT_LT(peakInMegabytes() - before, 2 * megabytes + 128);
 }
@@ -94,11 +88,8 @@ TEST(LongUse, HoldsANameAsLargeAsItsFileTwiceAtMost) {
 TEST(LongUse, LeaksNoMemoryDescriptorOrWindow) {
     const char *wanted = std::getenv("COLUMNIMPORT_RUNS");
     const int runs = wanted != nullptr ? std::stoi(wanted) : 250;
-    const ScratchFile file("BHID,Dip,Au\n");
     const wxImportCSVDialogPeer peer;
-    DialogRun run;
-    run.fileName = file.path();
-    run.appColumns = {"holename", "dip", "azimuth"};
+    FileRun run("BHID,Dip,Au\n", {"holename", "dip", "azimuth"});
     Holdings atFirst{};
     std::size_t windowsAtFirst = 0;
     for (int done = 0; done < runs && !HasFailure(); ++done) {

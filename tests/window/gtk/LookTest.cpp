@@ -4,14 +4,9 @@
 // texts have tooltips.
 
 #include "dragdrop/gtk/RowMarks.h"
-#include "person/DialogRun.h"
-#include "person/Screen.h"
 #include "person/gtk/inkOf.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
-#include <string>
-
-#include <gtest/gtest.h>
 #include <gtk/gtk.h>
 #include <wx/image.h>
 #include <wx/settings.h>
@@ -24,13 +19,7 @@ namespace {
 
 class Look : public testing::Test {
 protected:
-    Look() : file("HOLE,FROM,TO\n") {
-        run.fileName = file.path();
-        run.appColumns = {"hole", "from", "to"};
-    }
-
-    ScratchFile file;
-    DialogRun run;
+    FileRun run{"HOLE,FROM,TO\n", {"hole", "from", "to"}};
 };
 
 /// The text beside the pointer, in the one window that is neither the dialog nor a tooltip.
@@ -50,7 +39,7 @@ std::string labelOfDrag() {
 } // namespace
 
 TEST_F(Look, ShowsBesideThePointerTheNamesOfADrag) {
-    run.show([](Person &person) {
+    run.cancelAfter([](Person &person) {
         person.dragTo(Person::fileRow(1), Person::matchRow(2));
         waitUntil("the name is shown", [] { return labelOfDrag() == "FROM"; });
         person.drop();
@@ -63,7 +52,6 @@ TEST_F(Look, ShowsBesideThePointerTheNamesOfADrag) {
         person.dragTo(Person::matchRow(0), Person::fileRow(2));
         waitUntil("so is their number", [] { return labelOfDrag() == "HOLE (2 rows)"; });
         person.drop();
-        person.strike(WXK_ESCAPE);
     });
 }
 
@@ -75,7 +63,7 @@ TEST_F(Look, MeetsTheContrastOfAccessibilityGuidelines) {
 }
 
 TEST_F(Look, DistinguishesMarksAndTheArrowFromTheirSurroundings) {
-    run.show([](Person &person) {
+    run.cancelAfter([](Person &person) {
         person.click(Person::matchRow(1));
         poll("row 1 is marked", [] { return markedRows() == std::vector<int>{1}; });
         onUserInterface([] {
@@ -101,15 +89,13 @@ TEST_F(Look, DistinguishesMarksAndTheArrowFromTheirSurroundings) {
         poll("row 1 is in hover", [] { return hoverRows() == std::vector<int>{1}; });
         person.strikeWith(WXK_ALT, WXK_SPACE); // the control's key for selecting
         poll("it still is", [] { return hoverRows() == std::vector<int>{1}; });
-        person.strike(WXK_ESCAPE);
     });
 }
 
 TEST_F(Look, ShowsACutNameInATooltipAndEllipsizesThePreview) {
     const std::string cut(60, 'W');
-    const ScratchFile wide("HOLE," + cut + "\n" + std::string(1000, '-') + "\n");
-    run.fileName = wide.path();
-    run.show([&cut](Person &person) {
+    FileRun wide("HOLE," + cut + "\n" + std::string(1000, '-') + "\n", {"hole", "from", "to"});
+    wide.cancelAfter([&cut](Person &person) {
         const auto tipIs = [](const wxWindow &list, const std::string &tip) {
             return [&list, tip] { return list.GetToolTipText() == tip; };
         };
@@ -138,6 +124,5 @@ TEST_F(Look, ShowsACutNameInATooltipAndEllipsizesThePreview) {
             GtkWidget *preview = control(wxImportCSVDialog::TEXT_FILE_PREVIEW).GetHandle();
             EXPECT_TRUE(pango_layout_is_ellipsized(gtk_label_get_layout(GTK_LABEL(preview))));
         });
-        person.strike(WXK_ESCAPE);
     });
 }

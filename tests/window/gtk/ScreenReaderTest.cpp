@@ -3,18 +3,12 @@
 // The dialog for a person who hears it: another program does everything through the screen readers'
 // library.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <cstdlib>
 
-#include <gtest/gtest.h>
-
 TEST(ScreenReader, ReadsAndOperatesTheDialogWithoutAPointerOrKeys) {
-    const ScratchFile file("HOLE,AU,CU,COPER\n");
-    DialogRun run;
-    run.fileName = file.path();
-    run.appColumns = {"hole", "gold", "copper"};
+    FileRun run("HOLE,AU,CU,COPER\n", {"hole", "gold", "copper"});
     run.appColumns.resize(100);
     run.useSavedMatches = true;
     run.matches = {"HOLE", "", ""};

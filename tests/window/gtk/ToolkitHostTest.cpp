@@ -3,14 +3,12 @@
 // A host that is written with the toolkit: it has an application object, windows with identifiers
 // of the dialog's controls among others, and runs dialogs itself.
 
-#include "person/DialogRun.h"
-#include "tests/ScratchFile.h"
+#include "tests/window/FileRun.h"
 
 #include <functional>
 #include <memory>
 #include <utility>
 
-#include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/button.h>
 #include <wx/frame.h>
@@ -78,17 +76,12 @@ bool runItself(wxImportCSVDialog &dialog, const Steps &steps) {
 } // namespace
 
 TEST(ToolkitHost, KeepsItsApplicationItsLoopAndItsWindows) {
-    const ScratchFile file("BHID,Dip\n");
-    inHost([&file](wxFrame &frame) {
-        DialogRun run;
+    inHost([](wxFrame &frame) {
+        FileRun run("BHID,Dip\n", {"holename", "dip"});
         run.owner = frame.GetHandle();
-        run.fileName = file.path();
-        run.appColumns = {"holename", "dip"};
         for (int times = 0; times < 2; ++times) {
-            EXPECT_TRUE(run.show([](Person &person) {
-                person.drag(Person::fileRow(0), Person::matchRow(1));
-                pressOk(person);
-            }));
+            run.confirmAfter(
+                [](Person &person) { person.drag(Person::fileRow(0), Person::matchRow(1)); });
             EXPECT_EQ(run.matches, (Names{"BHID", "BHID"}));
         }
     });
