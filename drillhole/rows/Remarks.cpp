@@ -8,11 +8,7 @@
 
 namespace drillhole {
 
-namespace {
-
 constexpr std::size_t mostStretches = 20;
-
-} // namespace
 
 void Remarks::add(const std::string &text, std::size_t line) {
     auto found = std::find_if(m_kinds.begin(), m_kinds.end(),
