@@ -49,8 +49,8 @@ Names odbcTables(soci::session &source) {
         std::string shown = name.data();
         std::string inQuery = inQuotes(shown, '"', '"');
         if (schema.front() != '\0') {
-            shown = schema.data() + ('.' + shown);
-            inQuery = inQuotes(schema.data(), '"', '"') + '.' + inQuery;
+            shown.insert(0, schema.data() + std::string("."));
+            inQuery.insert(0, inQuotes(schema.data(), '"', '"') + '.');
         }
         names[shown] = inQuery;
         schema.front() = '\0';
