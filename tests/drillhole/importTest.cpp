@@ -254,7 +254,7 @@ TEST_F(ImportTest, ReportsADatabaseLockedByAnotherProgram) {
 TEST_F(ImportTest, ReadsValuesOfATableUnchanged) {
     const std::string lab = connectionFor(path("lab's work.sqlite"));
     const Session source = openDatabase(lab);
-    *source << "create table \"the holes\" (\"Hole:Id\" text, x real, y, note)";
+    *source << "create table \"the holes\" (\"Hole:Id\" text, x, y, note)";
     *source << "insert into \"the holes\" values ('LR-7', 0.1 + 0.2, '12.5', null), "
                "('LR-8', null, 1, 'x'), ('LR-1', 1, 1, 'x')";
 
