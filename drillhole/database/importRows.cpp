@@ -34,9 +34,14 @@ std::vector<Remark> columnsTaken(const Table &table, const RowLayout &layout) {
         const std::string &title = layout.columns[*layout.positions[i]];
         const double factor = layout.factors.empty() ? 1 : layout.factors[i];
         const bool isGuess = !layout.areGuesses.empty() && layout.areGuesses[i];
-        (isGuess ? guessed : filled)
-            .push_back(name + (title == name ? "" : " from " + title) +
-                       (factor == 1 ? "" : ", " + conversionBy(factor)));
+        std::string entry = name;
+        if (title != name) {
+            entry.append(" from ").append(title);
+        }
+        if (factor != 1) {
+            entry.append(", ").append(conversionBy(factor));
+        }
+        (isGuess ? guessed : filled).push_back(std::move(entry));
         nowhere[*layout.positions[i]].clear();
     }
     nowhere.erase(std::remove(nowhere.begin(), nowhere.end(), ""), nowhere.end());
