@@ -34,11 +34,9 @@ RowInsertion::RowInsertion(soci::session &session, const Table &table)
         return;
     }
     for (std::size_t i = 0; i < m_row.size(); ++i) {
-        if (table.columns[i].kind == Kind::number) {
-            m_statement.exchange(soci::use(m_row[i].number, m_indicators[i]));
-        } else {
-            m_statement.exchange(soci::use(m_row[i].text, m_indicators[i]));
-        }
+        table.columns[i].kind == Kind::number
+            ? m_statement.exchange(soci::use(m_row[i].number, m_indicators[i]))
+            : m_statement.exchange(soci::use(m_row[i].text, m_indicators[i]));
     }
     m_statement.alloc();
     m_statement.prepare("insert into " + m_target + " values (" + columnList(table, ":") + ')');
@@ -47,29 +45,27 @@ RowInsertion::RowInsertion(soci::session &session, const Table &table)
 
 void RowInsertion::insert() {
     if (!m_hashes.empty()) {
-        m_hashes.insert(std::hash<std::string>()(lineOf(m_row)));
+        m_hashes.insert(hashOf(m_row));
     }
-    if (m_server == nullptr) {
-        for (std::size_t i = 0; i < m_row.size(); ++i) {
-            m_indicators[i] = m_row[i].isNull ? soci::i_null : soci::i_ok;
-        }
-        m_statement.execute(true);
+    if (m_server != nullptr) {
+        m_lines += lineOf(m_row);
+        sendLines(linesAtOnce);
         return;
     }
-    m_lines += lineOf(m_row);
-    if (m_lines.size() > linesAtOnce) {
-        sendLines();
+    for (std::size_t i = 0; i < m_row.size(); ++i) {
+        m_indicators[i] = m_row[i].isNull ? soci::i_null : soci::i_ok;
     }
+    m_statement.execute(true);
 }
 
 bool RowInsertion::isThere() {
     if (m_hashes.empty()) {
         flush();
         for (QueryRows rows = rowsOf(m_session, m_table, m_table.columns.size()); rows.next();) {
-            m_hashes.insert(std::hash<std::string>()(lineOf(rows.row())));
+            m_hashes.insert(hashOf(rows.row()));
         }
     }
-    return m_hashes.count(std::hash<std::string>()(lineOf(m_row))) > 0;
+    return m_hashes.count(hashOf(m_row)) > 0;
 }
 
 std::string RowInsertion::lineOf(const std::vector<Value> &values) const {
@@ -85,7 +81,10 @@ std::string RowInsertion::lineOf(const std::vector<Value> &values) const {
     return line += '\n';
 }
 
-void RowInsertion::sendLines() {
+void RowInsertion::sendLines(std::size_t least) {
+    if (m_lines.size() < least) {
+        return;
+    }
     if (!m_isCopying) {
         const std::string copy = "copy " + m_target + " from stdin (format csv)";
         expectOf(m_server, PQexec(m_server, copy.c_str()), PGRES_COPY_IN);
@@ -98,9 +97,7 @@ void RowInsertion::sendLines() {
 }
 
 void RowInsertion::flush() {
-    if (!m_lines.empty()) {
-        sendLines();
-    }
+    sendLines(1);
     if (std::exchange(m_isCopying, false)) {
         PQputCopyEnd(m_server, nullptr);
         expectOf(m_server, PQgetResult(m_server), PGRES_COMMAND_OK);

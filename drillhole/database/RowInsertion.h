@@ -31,7 +31,10 @@ public:
 
 private:
     std::string lineOf(const std::vector<Value> &values) const;
-    void sendLines();
+    std::size_t hashOf(const std::vector<Value> &values) const {
+        return std::hash<std::string>()(lineOf(values));
+    }
+    void sendLines(std::size_t least);
 
     soci::session &m_session;
     const Table &m_table;

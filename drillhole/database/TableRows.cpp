@@ -4,15 +4,12 @@
 
 #include "drillhole/database/QueryRows.h"
 #include "drillhole/database/connection.h"
-#include "drillhole/database/faultText.h"
 #include "drillhole/database/onOwnThread.h"
 #include "drillhole/database/sourceTables.h"
-#include "drillhole/rows/Fault.h"
 #include "drillhole/rows/text.h"
 
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 #include <boost/algorithm/string/join.hpp>
 
@@ -41,69 +38,60 @@ struct TableRows::Source {
     double count = 0;
     Session session = {};
     std::vector<std::size_t> read = {}; // the positions of the columns that are
-    std::vector<Kind> kinds = {};       // of the answer's columns
     std::string query = {};
-    bool isCursor = false;
+    std::vector<Kind> kinds = {};         // of the query's columns
+    bool isCursor = false;                // each query gives a batch
     std::optional<QueryRows> answer = {}; // of the open session
 
     void open() {
         session = openSource(connection);
         const std::string name = nameInQuery(*session, table);
-        if (columnNames(*session, name) != layout.columns) {
+        const SourceColumns columns = columnsOf(*session, name);
+        if (columns.names != layout.columns) {
             throw Fault("The columns of table " + table +
                         " were changed meanwhile. Import it again to match the present ones.");
         }
         *session << "select count(*) from " + name, soci::into(count);
-        std::vector<std::string> names;
-        for (std::size_t i = 0; i < layout.columns.size(); ++i) {
+        // As a text a number may be cut, so that it comes as a number too.
+        std::vector<std::string> texts;
+        std::vector<std::string> numbers;
+        for (std::size_t i = 0; i < columns.names.size(); ++i) {
             const auto &wanted = layout.positions;
             if (std::find(wanted.begin(), wanted.end(), i) != wanted.end()) {
                 read.push_back(i);
-                names.push_back(inQuotes(layout.columns[i], '"', '"'));
-                kinds.push_back(Kind::text);
+                texts.push_back(inQuotes(columns.names[i], '"', '"'));
+                numbers.push_back(columns.areNumbers[i] ? texts.back() : "0");
             }
         }
-        // A server of PostgreSQL writes numbers in full, others cut them. So they come as numbers
-        // too.
-        if (session->get_backend_name() == "postgresql") {
-            *session << "set extra_float_digits = 3";
-        } else {
-            const std::vector<bool> areNumbers =
-                numberColumns(*session, boost::join(names, ", ") + " from " + name);
-            for (std::size_t i = 0; i < read.size(); ++i) {
-                names.push_back(areNumbers[i] ? names[i] : "0");
-                kinds.push_back(Kind::number);
-            }
-        }
-        query = "select " + boost::join(names, ", ") + " from " + name;
+        kinds.assign(texts.size(), Kind::text);
+        kinds.resize(2 * texts.size(), Kind::number);
+        query = "select " + boost::join(texts, ", ") + ", " + boost::join(numbers, ", ") +
+                " from " + name;
         // The client of PostgreSQL takes the whole answer to a query into memory.
         isCursor = session->get_backend_name() == "postgresql";
         if (isCursor) {
             session->begin();
+            *session << "set extra_float_digits = 3";
             *session << "declare all_rows no scroll cursor for " + query;
             query = "fetch " + std::to_string(batchSize) + " from all_rows";
         }
     }
 
     Batch readBatch() {
+        if (!session) {
+            open();
+        }
+        if (!answer || isCursor) {
+            answer.emplace(*session, query, kinds);
+        }
         Batch batch;
-        inPlainWords(connection, [&] {
-            if (!session) {
-                open();
+        while (batch.size() < batchSize && answer->next()) {
+            std::vector<std::string> &fields = batch.emplace_back(layout.columns.size());
+            const std::vector<Value> &row = answer->row();
+            for (std::size_t i = 0; i < read.size(); ++i) {
+                fields[read[i]] = inFull(row[i].text, row[read.size() + i].number);
             }
-            if (!answer || isCursor) {
-                answer.emplace(*session, query, kinds);
-            }
-            while (batch.size() < batchSize && answer->next()) {
-                std::vector<std::string> &fields = batch.emplace_back(layout.columns.size());
-                for (std::size_t i = 0; i < read.size(); ++i) {
-                    const std::vector<Value> &row = answer->row();
-                    fields[read[i]] = kinds.size() == read.size()
-                                          ? row[i].text
-                                          : inFull(row[i].text, row[read.size() + i].number);
-                }
-            }
-        });
+        }
         return batch;
     }
 };
@@ -115,7 +103,9 @@ TableRows::TableRows(const std::string &connection, const std::string &table,
 }
 
 void TableRows::readAhead() {
-    m_ahead = onOwnThread([source = m_source] { return source->readBatch(); });
+    m_ahead = onOwnThread([source = m_source] {
+        return inPlainWords(source->connection, [&] { return source->readBatch(); });
+    });
 }
 
 bool TableRows::next(Row &row) {

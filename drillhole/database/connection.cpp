@@ -2,16 +2,13 @@
 
 #include "drillhole/database/connection.h"
 
-#include "drillhole/database/faultText.h"
 #include "drillhole/database/onOwnThread.h"
-#include "drillhole/rows/Fault.h"
 #include "drillhole/rows/text.h"
 
 #include <filesystem>
 #include <regex>
 #include <vector>
 
-#include <boost/algorithm/string/join.hpp>
 #include <boost/algorithm/string/replace.hpp>
 #include <soci/odbc/soci-odbc.h>
 #include <soci/postgresql/soci-postgresql.h>
@@ -39,9 +36,7 @@ struct Parts {
 // The client of the server knows which of its settings are secret. A string that it can't read has
 // no settings.
 Parts partsForServer(const std::string &connection) {
-    std::vector<std::string> open;
-    std::vector<std::string> whole;
-    std::vector<std::string> passwords;
+    Parts parts{server, server, {}};
     const std::unique_ptr<PQconninfoOption, decltype(&PQconninfoFree)> options(
         PQconninfoParse(connection.c_str() + server.size(), nullptr), &PQconninfoFree);
     const PQconninfoOption *each = options.get();
@@ -51,14 +46,16 @@ Parts partsForServer(const std::string &connection) {
             continue;
         }
         const bool isPlain = value.find_first_of(" \t\n'\\") == std::string::npos;
-        whole.push_back(each->keyword + ('=' + (isPlain ? value : inQuotes(value, '\'', '\\'))));
+        const std::string setting =
+            each->keyword + ('=' + (isPlain ? value : inQuotes(value, '\'', '\\')));
+        parts.whole += (parts.whole == server ? "" : " ") + setting;
         if (*each->dispchar == '*') {
-            passwords.push_back(value);
+            parts.passwords.push_back(value);
         } else {
-            open.push_back(whole.back());
+            parts.open += (parts.open == server ? "" : " ") + setting;
         }
     }
-    return {server + boost::join(open, " "), server + boost::join(whole, " "), passwords};
+    return parts;
 }
 
 Parts partsFor(const std::string &connection) {
@@ -132,11 +129,8 @@ Session newSession(const std::string &connection, const std::string &more) {
 
 Session open(const std::string &connection, const std::string &more) {
     const std::string place = "The database " + placeOf(connection) + " can't be opened. ";
-    auto opened = onOwnThread([=] {
-        Session session;
-        inPlainWords(connection, [&] { session = newSession(connection, more); });
-        return session;
-    });
+    auto opened = onOwnThread(
+        [=] { return inPlainWords(connection, [&] { return newSession(connection, more); }); });
     const std::chrono::seconds limit = timeLimitOf(connection);
     if (opened.wait_for(limit) != std::future_status::ready) {
         throw Fault(place + "It did not answer within " + std::to_string(limit.count()) +

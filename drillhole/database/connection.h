@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include "drillhole/rows/Fault.h"
+
 #include <memory>
 #include <string>
 
@@ -28,6 +30,20 @@ std::string placeOf(const std::string &connection);
 
 /// The text with three asterisks for every password of the connection string.
 std::string hidePasswords(std::string text, const std::string &connection);
+
+/// What to do about a fault that the database of that connection reports, by its SQLSTATE or its
+/// result code, followed by its words without a password in them.
+std::string faultText(const soci::soci_error &error, const std::string &connection);
+
+/// Does the work and gives its result; throws what the database reports meanwhile as a Fault.
+template <typename Work>
+auto inPlainWords(const std::string &connection, const Work &work) {
+    try {
+        return work();
+    } catch (const soci::soci_error &error) {
+        throw Fault(faultText(error, connection));
+    }
+}
 
 using Session = std::shared_ptr<soci::session>;
 

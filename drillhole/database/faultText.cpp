@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-#include "drillhole/database/faultText.h"
-
 #include "drillhole/database/connection.h"
-#include "drillhole/rows/Fault.h"
 
 #include <regex>
 
@@ -48,8 +45,7 @@ constexpr Advice advices[] = {
               "odbc.ini."},
 };
 
-} // namespace
-
+/// The SQLSTATE that a database gives a fault, or "SQLite " and the result code.
 std::string codeOf(const soci::soci_error &error) {
     if (const auto *file = dynamic_cast<const soci::sqlite3_soci_error *>(&error)) {
         return "SQLite " + std::to_string(file->result() & 0xff);
@@ -60,6 +56,8 @@ std::string codeOf(const soci::soci_error &error) {
     const auto *source = dynamic_cast<const soci::odbc_soci_error *>(&error);
     return source ? reinterpret_cast<const char *>(source->odbc_error_code()) : std::string();
 }
+
+} // namespace
 
 std::string faultText(const soci::soci_error &error, const std::string &connection) {
     // The names of functions are for the one who wrote them, as are indents and line ends.
@@ -74,14 +72,6 @@ std::string faultText(const soci::soci_error &error, const std::string &connecti
         }
     }
     return "The database reports: " + words;
-}
-
-void inPlainWords(const std::string &connection, const std::function<void()> &work) {
-    try {
-        work();
-    } catch (const soci::soci_error &error) {
-        throw Fault(faultText(error, connection));
-    }
 }
 
 } // namespace drillhole

@@ -2,13 +2,13 @@
 
 #include "drillhole/database/holeDatabase.h"
 
-#include "drillhole/database/faultText.h"
-#include "drillhole/rows/Fault.h"
+#include "drillhole/database/sourceTables.h"
 #include "drillhole/rows/text.h"
 
 #include <algorithm>
 
 #include <boost/algorithm/string/join.hpp>
+#include <boost/algorithm/string/predicate.hpp>
 #include <boost/range/adaptor/transformed.hpp>
 
 namespace drillhole {
@@ -17,7 +17,7 @@ namespace {
 
 std::string definitionOf(const Table &table) {
     const auto defined = [](const Column &column) {
-        return column.sqlName + (column.kind == Kind::text ? " text" : " double precision") +
+        return column.sqlName() + (column.kind == Kind::text ? " text" : " double precision") +
                (column.isRequired ? " not null" : "");
     };
     const std::string key = table.namesHoles ? ", primary key (holename)" : "";
@@ -25,38 +25,23 @@ std::string definitionOf(const Table &table) {
            boost::join(table.columns | boost::adaptors::transformed(defined), ", ") + key + ')';
 }
 
-/// Whether the table is there, with the columns of that list.
-bool hasColumns(soci::session &session, const Table &table, const std::string &columns) {
-    try {
-        session << "select " + columns + " from " + table.name + " where 1 = 0";
-        return true;
-    } catch (const soci::soci_error &error) {
-        const std::string code = codeOf(error);
-        if (code != "SQLite 1" && code.compare(0, 2, "42") != 0) {
-            throw; // locked, say
-        }
-        return false;
-    }
-}
-
 void makeMissing(soci::session &session, const Table &table) {
-    if (hasColumns(session, table, columnList(table))) {
-        return; // also where the account may not make a table
+    if (sourceTables(session).count(table.name) == 0) { // an account may not be let make one
+        session << definitionOf(table);
     }
-    session << definitionOf(table);
-    // The elements may have become more.
-    Table fixed = table;
-    fixed.columns.erase(std::remove_if(fixed.columns.begin(), fixed.columns.end(),
-                                       [](const Column &column) { return column.isGrade; }),
-                        fixed.columns.end());
-    if (!hasColumns(session, table, columnList(fixed))) {
-        throw Fault("The table " + table.name +
-                    " there has other columns than the program's own. Choose another database for "
-                    "the drill holes.");
-    }
+    const std::vector<std::string> present = columnsOf(session, table.name).names;
     for (const Column &column : table.columns) {
-        if (!hasColumns(session, table, column.sqlName)) {
-            session << "alter table " + table.name + " add column " + column.sqlName +
+        const bool isPresent =
+            std::any_of(present.begin(), present.end(), [&](const std::string &name) {
+                return boost::iequals(name, column.sqlName(), std::locale::classic());
+            });
+        if (!isPresent && !column.isGrade) {
+            throw Fault("The table " + table.name +
+                        " there has other columns than the program's own. Choose another database "
+                        "for the drill holes.");
+        }
+        if (!isPresent) { // the elements may have become more
+            session << "alter table " + table.name + " add column " + column.sqlName() +
                            " double precision";
         }
     }
@@ -99,7 +84,7 @@ std::vector<std::vector<std::string>> pageOf(soci::session &session, const RowVi
     if (view.sortedBy) {
         const Column &column = view.table->columns[*view.sortedBy];
         const char *filler = column.kind == Kind::text ? ", '')" : ", 0)";
-        order = {column.sqlName + " is null", "coalesce(" + column.sqlName + filler, key};
+        order = {column.sqlName() + " is null", "coalesce(" + column.sqlName() + filler, key};
     }
     std::string query = "select " + key + ", " + columnList(*view.table) + " from " +
                         view.table->name + " where " + isOfHole(view.hole);
@@ -134,7 +119,7 @@ std::vector<Collar> collarsOf(soci::session &session) {
 }
 
 std::string columnList(const Table &table, const std::string &before) {
-    const auto named = [&](const Column &column) { return before + column.sqlName; };
+    const auto named = [&](const Column &column) { return before + column.sqlName(); };
     return boost::join(table.columns | boost::adaptors::transformed(named), ", ");
 }
 
@@ -142,32 +127,30 @@ QueryRows rowsOf(soci::session &session, const Table &table, std::size_t width) 
     std::vector<std::string> names;
     std::vector<Kind> kinds;
     for (std::size_t i = 0; i < width; ++i) {
-        names.push_back(table.columns[i].sqlName);
+        names.push_back(table.columns[i].sqlName());
         kinds.push_back(table.columns[i].kind);
     }
     return {session, "select " + boost::join(names, ", ") + " from " + table.name, kinds};
 }
 
 Holes holesOf(soci::session &session, const Table &table) {
+    const std::string end = table.columns[table.hasIntervals ? 2 : 1].sqlName();
+    const std::string query =
+        "select collar.holename, easting, northing, length, deepest from collar left join "
+        "(select holename, max(" +
+        end + ") as deepest from " + table.name +
+        " group by holename) as ends on ends.holename = collar.holename";
+    std::vector<Kind> kinds(5, Kind::number);
+    kinds.front() = Kind::text;
     Holes holes;
-    const Table &collars = holeTables().front();
-    for (QueryRows rows = rowsOf(session, collars, collars.columns.size()); rows.next();) {
-        const std::vector<Value> &collar = rows.row();
-        Hole &hole = holes[collar.front().text];
-        hole.length = collar.back().isNull ? hole.length : collar.back().number;
-        hole.easting = collar[1].number;
-        hole.northing = collar[2].number;
-    }
-    if (!table.namesHoles) {
-        const std::string end = table.columns[table.hasIntervals ? 2 : 1].sqlName;
-        const std::string ends =
-            "select holename, max(" + end + ") from " + table.name + " group by holename";
-        for (QueryRows rows(session, ends, {Kind::text, Kind::number}); rows.next();) {
-            const auto hole = holes.find(rows.row().front().text);
-            if (hole != holes.end()) {
-                hole->second.deepest = rows.row().back().number + (table.hasIntervals ? 0 : 1e-5);
-            }
-        }
+    for (QueryRows rows(session, query, kinds); rows.next();) {
+        const std::vector<Value> &row = rows.row();
+        Hole &hole = holes[row[0].text];
+        hole.easting = row[1].number;
+        hole.northing = row[2].number;
+        hole.length = row[3].isNull ? hole.length : row[3].number;
+        hole.deepest =
+            row[4].isNull ? hole.deepest : row[4].number + (table.hasIntervals ? 0 : 1e-5);
     }
     return holes;
 }

@@ -17,6 +17,7 @@ namespace drillhole {
 namespace {
 
 constexpr long namesToTell = 1000; // characters of all of them
+constexpr std::size_t refusedInMemory = 1000;
 
 /// Which column went where, and the columns of both sides that the import passes over.
 std::vector<Remark> columnsTaken(const Table &table, const RowLayout &layout) {
@@ -25,31 +26,31 @@ std::vector<Remark> columnsTaken(const Table &table, const RowLayout &layout) {
     std::vector<std::string> unfilled;
     std::vector<std::string> nowhere = layout.columns;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        if (const std::optional<std::size_t> position = layout.positions[i]) {
-            const std::string &title = layout.columns[*position];
-            const std::string &name = table.columns[i].name;
-            const double factor = layout.factors.empty() ? 1 : layout.factors[i];
-            const bool isGuess = !layout.areGuesses.empty() && layout.areGuesses[i];
-            std::string entry = name;
-            if (title != name) {
-                entry.append(" from ").append(title);
-            }
-            if (factor != 1) {
-                entry.append(", ").append(conversionBy(factor));
-            }
-            (isGuess ? guessed : filled).push_back(std::move(entry));
-            nowhere[*position].clear();
-        } else {
-            unfilled.push_back(table.columns[i].name);
+        const std::string &name = table.columns[i].name;
+        if (!layout.positions[i]) {
+            unfilled.push_back(name);
+            continue;
         }
+        const std::string &title = layout.columns[*layout.positions[i]];
+        const double factor = layout.factors.empty() ? 1 : layout.factors[i];
+        const bool isGuess = !layout.areGuesses.empty() && layout.areGuesses[i];
+        std::string entry = name;
+        if (title != name) {
+            entry.append(" from ").append(title);
+        }
+        if (factor != 1) {
+            entry.append(", ").append(conversionBy(factor));
+        }
+        (isGuess ? guessed : filled).push_back(std::move(entry));
+        nowhere[*layout.positions[i]].clear();
     }
     nowhere.erase(std::remove(nowhere.begin(), nowhere.end(), ""), nowhere.end());
-    std::vector<Remark> remarks;
     const std::pair<const char *, std::vector<std::string>> lists[] = {
         {"filled by a guess, as the names are similar: ", guessed},
         {"filled: ", filled},
         {"not filled: ", unfilled},
         {"not imported: ", nowhere}};
+    std::vector<Remark> remarks;
     for (const auto &[what, names] : lists) {
         if (!names.empty()) {
             remarks.push_back({{}, what + shortened(boost::join(names, ", "), namesToTell)});
@@ -58,12 +59,14 @@ std::vector<Remark> columnsTaken(const Table &table, const RowLayout &layout) {
     return remarks;
 }
 
+/// Throws a Fault if the rows can't be those that the dialog showed.
 void expectRows(const Match &match, const Row &first, std::size_t preamble) {
-    if (first.refusal != nullptr || first.firstLine > preamble + 1) {
-        throw Fault("The first line " +
-                    (first.refusal != nullptr ? std::string("can't be cut: ") + first.refusal
-                                              : std::string("of the file is blank")) +
-                    ". Correct it and import the file again.");
+    const std::string correct = ". Correct it and import the file again.";
+    if (first.refusal != nullptr) {
+        throw Fault("The first line can't be cut: " + (first.refusal + correct));
+    }
+    if (first.firstLine > preamble + 1) {
+        throw Fault("The first line of the file is blank" + correct);
     }
     for (const std::optional<std::size_t> &position : match.positions) {
         if (position && *position >= first.fields.size()) {
@@ -74,11 +77,10 @@ void expectRows(const Match &match, const Row &first, std::size_t preamble) {
     }
 }
 
-} // namespace
-
+/// @param again  opens the source once more, where its numbers are to be learned from; or nothing
 ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
                          ImportProgress &progress,
-                         const std::function<std::unique_ptr<RowSource>()> &again) {
+                         const std::function<std::unique_ptr<RowSource>()> &again = {}) {
     const Table &table = destination.table;
     soci::session &session = destination.session;
     RefusedRows refused(destination.report, layout.delimiter, layout.columns);
@@ -111,13 +113,14 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
             insertion.insert();
             ++outcome.taken;
         } else {
-            refused.add(row, reason);
+            const Remark remark = refused.add(row, reason);
+            if (++outcome.refused <= refusedInMemory) {
+                outcome.firstRefused.push_back(remark);
+            }
         }
         ++progress.rows;
         progress.share = source.share();
     }
-    outcome.refused = refused.count();
-    outcome.firstRefused = refused.first();
     outcome.remarks = columnsTaken(table, layout);
     const std::vector<Remark> odd = check.remarks().byKind();
     outcome.remarks.insert(outcome.remarks.end(), odd.begin(), odd.end());
@@ -138,28 +141,36 @@ ImportOutcome importRows(const Destination &destination, RowSource &source, cons
                                 " of the other tables would lose their collar.";
         }
     }
-    if (outcome.question.empty()) {
-        refused.finish();
-        if (outcome.taken > 0) {
-            progress.isCommitting = true;
-            outcome.isCancelled = progress.isCancelled; // while the database was silent
-            if (outcome.isCancelled) {
-                return outcome;
-            }
-            transaction.commit();
+    if (!outcome.question.empty()) {
+        return outcome;
+    }
+    refused.finish();
+    if (outcome.taken > 0) {
+        progress.isCommitting = true;
+        outcome.isCancelled = progress.isCancelled; // while the database was silent
+        if (outcome.isCancelled) {
+            return outcome;
         }
+        transaction.commit();
+    }
+    if (outcome.refused > 0) {
         outcome.report = refused.keep();
     }
     return outcome;
 }
 
+} // namespace
+
 ImportOutcome importFile(const Destination &destination, const std::string &path,
                          const Match &match, ImportProgress &progress) {
-    const auto open = [&] { return std::make_unique<CsvFile>(path, match.delimiter); };
-    const std::unique_ptr<CsvFile> file = open();
-    if (match.stamp && *match.stamp != file->stamp()) {
-        throw Fault("The file " + path + " was changed meanwhile. Import it again.");
-    }
+    const auto open = [&] {
+        auto file = std::make_unique<CsvFile>(path, match.delimiter);
+        if (match.stamp && *match.stamp != file->stamp()) {
+            throw Fault("The file " + path + " was changed meanwhile. Import it again.");
+        }
+        return file;
+    };
+    std::unique_ptr<CsvFile> file = open();
     const std::size_t preamble = file->preamble().lineCount;
     Row first;
     file->next(first);
@@ -172,7 +183,7 @@ ImportOutcome importFile(const Destination &destination, const std::string &path
                                      : "Column" + std::to_string(layout.columns.size() + 1));
     }
     if (!match.firstLineHoldsTitles) {
-        file->putBack(first);
+        file = open(); // the first line is a row, too
     }
     ImportOutcome outcome = importRows(destination, *file, layout, progress, open);
     if (preamble > 0) {

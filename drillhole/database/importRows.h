@@ -31,9 +31,9 @@ struct ImportOutcome {
     std::string question; ///< with the numbers, where nothing was replaced without an answer to it
     std::size_t taken = 0;
     std::size_t refused = 0;
-    std::vector<Remark> firstRefused;
-    std::vector<Remark> remarks; ///< what was left out, and what is odd about the rows taken
-    std::string report;          ///< the file of all refused rows; empty if there are none
+    std::vector<Remark> firstRefused; ///< the reasons of the first thousand
+    std::vector<Remark> remarks;      ///< what was left out, and what is odd about the rows taken
+    std::string report;               ///< the file of all refused rows; empty if there are none
 
     /// Whether the database has new rows.
     bool isDone() const { return !isCancelled && question.empty() && taken > 0; }
@@ -48,17 +48,6 @@ struct Destination {
     ValueChoices choices;
 };
 
-/// Puts the rows that fit into the table, in one transaction: a fault, a cancelled import and the
-/// end of the process leave the database as it was, and so does a source of which nothing fits.
-/// Refused rows go to the report.
-///
-/// Throws a Fault, or what the database throws.
-///
-/// @param again  opens the source once more, where its numbers are to be learned from; or nothing
-ImportOutcome importRows(const Destination &destination, RowSource &source, const RowLayout &layout,
-                         ImportProgress &progress,
-                         const std::function<std::unique_ptr<RowSource>()> &again = {});
-
 /// How the dialog was left with OK: the columns are those of the source as the dialog cut them.
 struct Match : RowLayout {
     bool firstLineHoldsTitles = true;
@@ -66,11 +55,15 @@ struct Match : RowLayout {
     std::optional<FileStamp> stamp; ///< of the file when the dialog read it
 };
 
-/// Imports a file. As `importRows`.
+/// Puts the rows of a file that fit into the table, in one transaction: a fault, a cancelled import
+/// and the end of the process leave the database as it was, and so does a source of which nothing
+/// fits. Refused rows go to the report.
+///
+/// Throws a Fault, or what the database throws.
 ImportOutcome importFile(const Destination &destination, const std::string &path,
                          const Match &match, ImportProgress &progress);
 
-/// Imports a table of another database. As `importRows`.
+/// The same for the rows of a table of another database.
 ImportOutcome importTable(const Destination &destination, const std::string &connection,
                           const std::string &table, const Match &match, ImportProgress &progress);
 

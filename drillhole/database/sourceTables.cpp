@@ -16,24 +16,15 @@ namespace drillhole {
 namespace {
 
 constexpr const char *sqliteTables =
-    "select '', name from sqlite_master where type in ('table', 'view') "
-    "and name not like 'sqlite~_%' escape '~'";
+    "select name, '\"' || replace(name, '\"', '\"\"') || '\"' from sqlite_master "
+    "where type in ('table', 'view') and name not like 'sqlite~_%' escape '~'";
 constexpr const char *serverTables =
-    "select case when pg_table_is_visible(c.oid) then '' else cast(nspname as text) end, "
-    "cast(relname as text) from pg_class c join pg_namespace n on n.oid = relnamespace "
-    "where relkind in ('r', 'p', 'v', 'm', 'f') and has_table_privilege(c.oid, 'select') "
-    "and nspname !~ '^pg_|^information_schema$'";
+    "select case when pg_table_is_visible(c.oid) then '' else nspname || '.' end || relname, "
+    "cast(cast(c.oid as regclass) as text) from pg_class c join pg_namespace n "
+    "on n.oid = relnamespace where relkind in ('r', 'p', 'v', 'm', 'f') "
+    "and has_table_privilege(c.oid, 'select') and nspname !~ '^pg_|^information_schema$'";
 
 using Names = std::map<std::string, std::string>;
-
-void add(Names &names, const std::string &schema, const std::string &name) {
-    const std::string table = inQuotes(name, '"', '"');
-    if (schema.empty()) {
-        names[name] = table;
-    } else {
-        names[schema + '.' + name] = inQuotes(schema, '"', '"') + '.' + table;
-    }
-}
 
 // Each database keeps its tables in another place, but an ODBC driver lists them.
 Names odbcTables(soci::session &source) {
@@ -55,7 +46,13 @@ Names odbcTables(soci::session &source) {
     SQLBindCol(handle, nameColumn, SQL_C_CHAR, name.data(), name.size(), &length);
     Names names;
     while (SQL_SUCCEEDED(SQLFetch(handle))) {
-        add(names, schema.data(), name.data());
+        std::string shown = name.data();
+        std::string inQuery = inQuotes(shown, '"', '"');
+        if (schema.front() != '\0') {
+            shown.insert(0, schema.data() + std::string("."));
+            inQuery.insert(0, inQuotes(schema.data(), '"', '"') + '.');
+        }
+        names[shown] = inQuery;
         schema.front() = '\0';
     }
     return names;
@@ -71,7 +68,7 @@ Names sourceTables(soci::session &source) {
     Names names;
     const char *query = backend == "postgresql" ? serverTables : sqliteTables;
     for (QueryRows answer(source, query, {Kind::text, Kind::text}); answer.next();) {
-        add(names, answer.row()[0].text, answer.row()[1].text);
+        names[answer.row()[0].text] = answer.row()[1].text;
     }
     return names;
 }
@@ -85,40 +82,32 @@ std::string nameInQuery(soci::session &source, const std::string &shown) {
     return found->second;
 }
 
-std::vector<bool> numberColumns(soci::session &source, const std::string &columnsAndTable) {
-    soci::row row;
-    soci::statement statement =
-        (source.prepare << "select " + columnsAndTable + " where 1 = 0", soci::into(row));
-    statement.execute();
-    std::vector<bool> areNumbers;
-    for (std::size_t i = 0; i < row.size(); ++i) {
-        areNumbers.push_back(source.get_backend_name() == "sqlite3" ||
-                             row.get_properties(i).get_data_type() == soci::dt_double);
-    }
-    return areNumbers;
-}
-
-std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery) {
+SourceColumns columnsOf(soci::session &source, const std::string &nameInQuery) {
+    const std::string backend = source.get_backend_name();
     const std::string query = "select * from " + nameInQuery + " where 1 = 0";
-    std::vector<std::string> names;
-    if (source.get_backend_name() == "postgresql") {
-        // A row of SOCI throws at types that it does not know.
+    SourceColumns columns;
+    if (backend == "postgresql") {
+        // A row of SOCI throws at types that it does not know. The server cuts no numbers.
         soci::statement statement = (source.prepare << query);
         statement.execute();
         const PGresult *result =
             static_cast<soci::postgresql_statement_backend *>(statement.get_backend())->result_;
         for (int i = 0; i < PQnfields(result); ++i) {
-            names.emplace_back(PQfname(result, i));
+            columns.names.emplace_back(PQfname(result, i));
         }
-        return names;
+        columns.areNumbers.resize(columns.names.size());
+        return columns;
     }
     soci::row row;
     soci::statement statement = (source.prepare << query, soci::into(row));
     statement.execute();
     for (std::size_t i = 0; i < row.size(); ++i) {
-        names.push_back(row.get_properties(i).get_name());
+        const soci::column_properties &properties = row.get_properties(i);
+        columns.names.push_back(properties.get_name());
+        columns.areNumbers.push_back(backend == "sqlite3" ||
+                                     properties.get_data_type() == soci::dt_double);
     }
-    return names;
+    return columns;
 }
 
 } // namespace drillhole

@@ -17,11 +17,14 @@ std::map<std::string, std::string> sourceTables(soci::session &source);
 /// The name for a query of a table that is shown so. Throws a Fault if it is not there.
 std::string nameInQuery(soci::session &source, const std::string &shown);
 
-/// Which columns of a query hold numbers, as far as the database tells. A file of SQLite does not
-/// tell: there all may.
-std::vector<bool> numberColumns(soci::session &source, const std::string &columnsAndTable);
+/// The columns of a table, in its order.
+struct SourceColumns {
+    std::vector<std::string> names;
+    /// Which hold numbers that the database cuts when it writes them as texts. A file of SQLite
+    /// does not tell: there all may.
+    std::vector<bool> areNumbers;
+};
 
-/// The names of the table's columns, in its order.
-std::vector<std::string> columnNames(soci::session &source, const std::string &nameInQuery);
+SourceColumns columnsOf(soci::session &source, const std::string &nameInQuery);
 
 } // namespace drillhole

@@ -16,7 +16,7 @@ namespace drillhole {
 
 namespace {
 
-constexpr std::size_t headSize = 65'536;
+constexpr std::size_t blockSize = 65'536;
 constexpr std::size_t longestRow = 4'194'304;
 constexpr std::size_t mostFields = 100'000;
 
@@ -34,16 +34,13 @@ Fault unreadable(const std::string &path, int error) {
 
 /// Throws a Fault for a file that the dialog would show as one line of broken text.
 void requireText(std::string_view head) {
-    const char *fault = nullptr;
     if (head.find('\0') != std::string_view::npos) {
-        fault = "The file is no text, or text in UTF-16. Save it as CSV in UTF-8";
-    } else if (head.find('\r') < head.size() - 1 && head.find('\n') == std::string_view::npos) {
-        fault =
-            "The file's lines end in carriage returns only, as those of old Macintosh programs. "
-            "Save it with another line end";
+        throw Fault("The file is no text, or text in UTF-16. Save it as CSV in UTF-8, and import "
+                    "the file again.");
     }
-    if (fault != nullptr) {
-        throw Fault(fault + std::string(", and import the file again."));
+    if (head.find('\r') < head.size() - 1 && head.find('\n') == std::string_view::npos) {
+        throw Fault("The file's lines end in carriage returns only, as those of old Macintosh "
+                    "programs. Save it with another line end, and import the file again.");
     }
 }
 
@@ -103,32 +100,30 @@ FileStamp stampOf(const std::string &path) {
 }
 
 CsvFile::CsvFile(const std::string &path, char delimiter)
-    : m_path(path), m_stamp(stampOf(path)), m_file(path, std::ios::binary), m_delimiter(delimiter),
-      m_lineRead(new char[longestRow]) {
+    : m_path(path), m_stamp(stampOf(path)), m_file(path, std::ios::binary), m_delimiter(delimiter) {
     if (delimiter == '\n' || delimiter == '\r') {
         throw Fault("A line end can't be the delimiter. Type another one in the dialog.");
     }
     if (!m_file) {
         throw unreadable(path, errno);
     }
-    while (m_text.size() < headSize && addLine()) {
-    }
+    readOn();
     m_end = m_text.rfind("\xEF\xBB\xBF", 0) == 0 ? 3 : 0;
     const std::string_view head = std::string_view(m_text).substr(m_end);
     requireText(head);
     m_preamble = preambleOf(head);
     m_end += m_preamble.size;
     m_line += m_preamble.lineCount;
+    // The titles are to be whole.
+    while (m_text.find('\n', m_end) == std::string::npos && m_text.size() < longestRow &&
+           readOn()) {
+    }
 }
 
 bool CsvFile::next(Row &row) {
     do {
-        // What was cut goes when it is the larger part, so that this costs little for each row.
-        if (m_end > m_text.size() / 2) {
-            m_text.erase(0, std::exchange(m_end, 0));
-        }
         m_begin = m_end;
-        if (m_begin == m_text.size() && !addLine()) {
+        if (m_begin == m_text.size() && !readOn()) {
             if (m_read != m_stamp.first || stampOf(m_path) != m_stamp) {
                 throw Fault("The file " + m_path +
                             " was changed while it was read. Nothing was "
@@ -138,12 +133,7 @@ bool CsvFile::next(Row &row) {
         }
         m_isWhole = false;
         while (!endsWithin(row)) {
-            // Twice as much each time, since the row is cut anew.
-            const std::size_t had = m_text.size() - m_begin;
-            m_isWhole = had >= longestRow;
-            while (!m_isWhole && m_text.size() < m_begin + 2 * had) {
-                m_isWhole = !addLine();
-            }
+            m_isWhole = m_text.size() - m_begin >= longestRow || !readOn();
         }
         const char *text = m_text.data();
         const auto lineEnds = std::count(text + m_begin, text + m_end - 1, '\n');
@@ -156,42 +146,33 @@ bool CsvFile::next(Row &row) {
     return true;
 }
 
-void CsvFile::putBack(const Row &row) {
-    m_end = m_begin;
-    m_line = row.firstLine;
-}
-
 double CsvFile::share() const {
     return m_stamp.first > 0 ? static_cast<double>(m_read) / static_cast<double>(m_stamp.first) : 1;
 }
 
-const char *CsvFile::behindBlanks(const char *at, const char *end) const {
-    // The dialog counts a carriage return among the blanks, and a line feed alone ends a line.
-    while (at != end && (*at == ' ' || *at == '\t' || *at == '\r') && *at != m_delimiter) {
-        ++at;
-    }
-    return at;
+// The dialog counts a carriage return among the blanks, and a line feed alone ends a line.
+bool CsvFile::isBlank(char byte) const {
+    return (byte == ' ' || byte == '\t' || byte == '\r') && byte != m_delimiter;
 }
 
-/// Appends the file's next line to the text; of one that is longer than a row may be, its head.
-bool CsvFile::addLine() {
-    m_file.getline(m_lineRead.get(), longestRow);
+const char *CsvFile::behindBlanks(const char *at, const char *end) const {
+    return std::find_if_not(at, end, [this](char byte) { return isBlank(byte); });
+}
+
+/// Reads on behind the present row's text: as much again as it has, since it is cut anew.
+bool CsvFile::readOn() {
+    m_text.erase(0, m_begin);
+    m_end -= std::exchange(m_begin, 0);
+    const std::size_t had = m_text.size();
+    m_text.resize(had + std::max(had, blockSize));
+    m_file.read(m_text.data() + had, static_cast<std::streamsize>(m_text.size() - had));
     if (m_file.bad()) {
         throw unreadable(m_path, errno);
     }
     const auto count = static_cast<std::size_t>(m_file.gcount());
-    if (count == 0) {
-        return false;
-    }
+    m_text.resize(had + count);
     m_read += count;
-    m_text.append(m_lineRead.get(), m_file.good() ? count - 1 : count);
-    m_text.append(m_file.eof() ? 0 : 1, '\n');
-    if (m_file.fail()) {
-        m_file.clear();
-        m_file.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
-        m_read += static_cast<std::size_t>(m_file.gcount());
-    }
-    return true;
+    return count > 0;
 }
 
 /// Cuts the row, or returns false if the text has to go on for that.
@@ -206,24 +187,26 @@ bool CsvFile::endsWithin(Row &row) {
         at = behindBlanks(at, end);
         if (at == end || *at != '"' || m_delimiter == '"') {
             takePlain(row, at, end);
-        } else if (!takeQuoted(row, at, end)) {
+        } else {
+            takeQuoted(row, at, end);
+        }
+        if (at == end && !m_isWhole) {
             return false;
         }
         if (row.fields.size() > mostFields) {
             refuse(row, "more than 100,000 fields", begin);
         }
-        if (row.refusal != nullptr) {
-            return true;
+    } while (row.refusal == nullptr && at != end && *at++ != '\n');
+    if (row.refusal == nullptr) {
+        m_end = static_cast<std::size_t>(at - m_text.data());
+        if (m_end - m_begin >= longestRow) {
+            refuse(row, "longer than 4 MiB", at - 1);
         }
-    } while (at != end && *at++ != '\n');
-    m_end = static_cast<std::size_t>(at - m_text.data());
-    if (m_end - m_begin >= longestRow) {
-        refuse(row, "longer than 4 MiB", at - 1);
     }
-    return true;
+    return m_isWhole || m_text[m_end - 1] == '\n';
 }
 
-bool CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
+void CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
     const char *opening = at++;
     const char *begin = at;
     while ((at = std::find(at, end, '"')) != end && at + 1 != end && at[1] == '"') {
@@ -231,9 +214,6 @@ bool CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
     }
     const char *closing = at;
     at = closing == end ? end : behindBlanks(closing + 1, end);
-    if (at == end && !m_isWhole) {
-        return false;
-    }
     const std::string_view text(begin, static_cast<std::size_t>(closing - begin));
     if (closing == end) {
         refuse(row, "a double quote opens here and does not close", opening);
@@ -247,22 +227,17 @@ bool CsvFile::takeQuoted(Row &row, const char *&at, const char *end) {
         row.fields.emplace_back(
             m_ownTexts.emplace_back(boost::replace_all_copy(std::string(text), "\"\"", "\"")));
     }
-    return true;
 }
 
 void CsvFile::takePlain(Row &row, const char *&at, const char *end) const {
     const char *begin = at;
-    while (at != end && *at != m_delimiter && *at != '\n') {
-        ++at;
-    }
+    at = std::find_if(at, end, [this](char byte) { return byte == m_delimiter || byte == '\n'; });
     const char *last = at;
-    while (last != begin && behindBlanks(last - 1, last) == last) {
+    while (last != begin && isBlank(last[-1])) {
         --last;
     }
-    if (last != begin) {
+    if (last != begin || m_delimiter != ' ') {
         row.fields.emplace_back(begin, static_cast<std::size_t>(last - begin));
-    } else if (m_delimiter != ' ') {
-        row.fields.emplace_back();
     }
 }
 
@@ -270,6 +245,10 @@ void CsvFile::takePlain(Row &row, const char *&at, const char *end) const {
 void CsvFile::refuse(Row &row, const char *reason, const char *from) {
     const auto place = static_cast<std::size_t>(from - m_text.data());
     const std::size_t lineEnd = std::min(m_text.find('\n', place), m_text.size());
+    if (lineEnd == m_text.size() && m_isWhole) {
+        m_file.ignore(std::numeric_limits<std::streamsize>::max(), '\n');
+        m_read += static_cast<std::size_t>(m_file.gcount());
+    }
     m_end = std::min(lineEnd + 1, m_text.size());
     row.refusal = reason;
     row.fields.assign(1, std::string_view(m_text).substr(m_begin, lineEnd - m_begin));

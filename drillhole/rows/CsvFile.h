@@ -7,7 +7,6 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -44,9 +43,6 @@ public:
     bool next(Row &row) override;
     double share() const override;
 
-    /// Has the row that came last come again.
-    void putBack(const Row &row);
-
     const FileStamp &stamp() const { return m_stamp; }
     const Preamble &preamble() const { return m_preamble; }
 
@@ -54,10 +50,11 @@ public:
     std::string head() const { return m_text.substr(m_end); }
 
 private:
+    bool isBlank(char byte) const;
     const char *behindBlanks(const char *at, const char *end) const;
-    bool addLine();
+    bool readOn();
     bool endsWithin(Row &row);
-    bool takeQuoted(Row &row, const char *&at, const char *end);
+    void takeQuoted(Row &row, const char *&at, const char *end);
     void takePlain(Row &row, const char *&at, const char *end) const;
     void refuse(Row &row, const char *reason, const char *from);
 
@@ -65,8 +62,7 @@ private:
     FileStamp m_stamp;
     std::ifstream m_file;
     char m_delimiter;
-    std::unique_ptr<char[]> m_lineRead; // pages that no line needs are never touched
-    std::string m_text;                 // lines: the present row's and those read behind it
+    std::string m_text;                 // the present row's, and what is read behind it
     std::size_t m_begin = 0;            // of the row in the text
     std::size_t m_end = 0;              // of the row, behind its line end
     std::deque<std::string> m_ownTexts; // of fields that don't stand in the text as they are

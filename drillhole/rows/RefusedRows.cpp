@@ -15,8 +15,6 @@ namespace drillhole {
 
 namespace {
 
-constexpr std::size_t countInMemory = 1000;
-
 /// Makes an empty file whose name begins so, and that nobody else has.
 std::string newFile(const std::string &begin) {
     std::error_code ignored; // making the file says what is wrong there
@@ -63,18 +61,15 @@ void RefusedRows::addField(std::string_view field) {
     m_file << m_delimiter << inQuotes(asUtf8(field), '"', '"');
 }
 
-void RefusedRows::add(const Row &row, const std::string &reason) {
-    ++m_count;
-    const Remark remark{linesOf(row.firstLine, row.lastLine), shortened(reason, 80)};
+Remark RefusedRows::add(const Row &row, const std::string &reason) {
+    Remark remark{linesOf(row.firstLine, row.lastLine), shortened(reason, 80)};
     m_file << remark.lines;
     addField(remark.text);
     for (const std::string_view field : row.fields) {
         addField(field);
     }
     m_file << '\n';
-    if (m_first.size() < countInMemory) {
-        m_first.push_back(remark);
-    }
+    return remark;
 }
 
 void RefusedRows::finish() {
@@ -87,9 +82,9 @@ void RefusedRows::finish() {
     }
 }
 
-std::string RefusedRows::keep() {
-    m_isKept = m_count > 0;
-    return m_isKept ? m_path : std::string();
+const std::string &RefusedRows::keep() {
+    m_isKept = true;
+    return m_path;
 }
 
 } // namespace drillhole

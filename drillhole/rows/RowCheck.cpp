@@ -21,14 +21,6 @@ constexpr double noValues[] = {-999, -9999, -99999};
 constexpr const char *taken[] = {"", "half of the limit taken", "the limit taken as negative",
                                  "left empty"};
 
-bool areDigits(std::string_view text) {
-    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-std::string inSmallLetters(const std::string &name) {
-    return boost::to_lower_copy(name, std::locale::classic());
-}
-
 /// What is odd about a number, or nothing.
 std::string oddityOf(const Column &column, double number) {
     if (std::count(std::begin(noValues), std::end(noValues), number) > 0) {
@@ -54,7 +46,7 @@ RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, H
                    RowQuestions questions)
     : m_table(table), m_layout(std::move(layout)), m_choices(std::move(choices)),
       m_marks(m_choices.decimalMark, m_layout.delimiter, table.columns.size()),
-      m_fieldCount(m_layout.columns.size()), m_holes(std::move(holes)), m_lastHole(m_holes.end()),
+      m_fieldCount(m_layout.columns.size()), m_holes(std::move(holes)),
       m_questions(std::move(questions)) {
     m_layout.positions.resize(table.columns.size());
     m_layout.factors.resize(table.columns.size(), 1);
@@ -69,7 +61,7 @@ RowCheck::RowCheck(const Table &table, RowLayout layout, ValueChoices choices, H
     // A field left out between blanks moves those behind it.
     m_fieldsNeeded = m_layout.delimiter == ' ' ? m_fieldCount : m_fieldsNeeded;
     for (const auto &[name, hole] : m_holes) {
-        m_places[inSmallLetters(name)] = {hole.easting, hole.northing};
+        isFirstAt(hole.easting, hole.northing, name);
     }
 }
 
@@ -113,7 +105,7 @@ std::string RowCheck::checkLayout(const Row &row) {
     }
     m_hadWhole.resize(std::max(m_hadWhole.size(), count));
     for (std::size_t i = 0; i < count && count == m_fieldCount; ++i) {
-        m_hadWhole[i] = m_hadWhole[i] || areDigits(row.fields[i]);
+        m_hadWhole[i] = m_hadWhole[i] || isWhole(row.fields[i]);
     }
     if (count <= m_fieldCount) {
         return {};
@@ -137,7 +129,7 @@ std::string RowCheck::checkLayout(const Row &row) {
 bool RowCheck::mayBeCutInANumber(const Row &row) const {
     const std::vector<std::string_view> &fields = row.fields;
     for (std::size_t cut = 0; cut + 1 < fields.size(); ++cut) {
-        bool isPlausible = areDigits(fields[cut]) && areDigits(fields[cut + 1]);
+        bool isPlausible = isWhole(fields[cut]) && isWhole(fields[cut + 1]);
         bool isNew = cut >= m_hadWhole.size() || !m_hadWhole[cut] || fields.size() < m_fieldCount;
         for (std::size_t i = 0; i < m_table.columns.size() && isPlausible; ++i) {
             const std::size_t place = m_layout.positions[i].value_or(0);
@@ -185,18 +177,15 @@ std::string RowCheck::takeNumber(std::size_t place, std::string_view whole, Valu
                (DecimalMarks::mayHaveThousands(text) ? " may have a thousands separator or decimals"
                                                      : " is no number");
     }
-    double number = *read;
+    value.number = converted(*read, m_layout.factors[place]);
     if (text.find(',') != std::string_view::npos) {
         m_found.push_back(column.name + " has a decimal comma");
     }
     if (isBelow) {
-        number = choice == BelowDetection::half ? number / 2 : -number;
+        value.number *= choice == BelowDetection::half ? 0.5 : -1;
         value.isNull = choice == BelowDetection::empty;
         m_found.push_back(column.name + " is below detection, " + taken[static_cast<int>(choice)]);
-    }
-    value.number = converted(number, m_layout.factors[place]);
-    std::string oddity = isBelow ? std::string() : oddityOf(column, value.number);
-    if (!oddity.empty()) {
+    } else if (std::string oddity = oddityOf(column, value.number); !oddity.empty()) {
         m_found.push_back(std::move(oddity));
     }
     if (text.size() != whole.size()) {
@@ -222,12 +211,9 @@ std::string RowCheck::checkHole(const std::vector<Value> &values) {
     if (m_table.namesHoles) {
         return checkCollar(values);
     }
-    const std::string &name = values.front().text;
-    if (m_lastHole == m_holes.end() || m_lastHole->first != name) {
-        m_lastHole = m_holes.find(name);
-    }
-    return m_lastHole == m_holes.end() ? "no collar is called " + quoted(name)
-                                       : checkDepths(m_lastHole->second, values);
+    const auto hole = m_holes.find(values.front().text);
+    return hole == m_holes.end() ? "no collar is called " + quoted(values.front().text)
+                                 : checkDepths(hole->second, values);
 }
 
 std::string RowCheck::checkCollar(const std::vector<Value> &values) {
@@ -235,12 +221,15 @@ std::string RowCheck::checkCollar(const std::vector<Value> &values) {
     if (!m_holes.try_emplace(name).second) {
         return "there is a collar " + quoted(name) + " already";
     }
-    const std::pair place(values[1].number, values[2].number);
-    const auto [other, isNew] = m_places.try_emplace(inSmallLetters(name), place);
-    if (!isNew && other->second == place) {
+    if (!isFirstAt(values[1].number, values[2].number, name)) {
         m_found.emplace_back("stands where one of the same name stands, but for capitals");
     }
     return {};
+}
+
+bool RowCheck::isFirstAt(double easting, double northing, const std::string &name) {
+    return m_places.emplace(easting, northing, boost::to_lower_copy(name, std::locale::classic()))
+        .second;
 }
 
 std::string RowCheck::checkDepths(Hole &hole, const std::vector<Value> &values) {

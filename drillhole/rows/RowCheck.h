@@ -9,6 +9,8 @@
 
 #include <functional>
 #include <optional>
+#include <set>
+#include <tuple>
 #include <unordered_map>
 
 #include <boost/icl/interval_set.hpp>
@@ -97,6 +99,7 @@ private:
     bool isNoValue(std::size_t column, std::string_view text) const;
     std::string checkHole(const std::vector<Value> &values);
     std::string checkCollar(const std::vector<Value> &values);
+    bool isFirstAt(double easting, double northing, const std::string &name);
     std::string checkDepths(Hole &hole, const std::vector<Value> &values);
 
     const Table &m_table;
@@ -109,9 +112,7 @@ private:
     std::vector<bool> m_hadWhole; // for each field whether a full row had a whole number there
     bool m_hasDepths = false;     // the holes have the depths of all rows
     Holes m_holes;
-    Holes::iterator m_lastHole;
-    std::unordered_map<std::string, std::pair<double, double>>
-        m_places; // by names in small letters
+    std::set<std::tuple<double, double, std::string>> m_places; // with names in small letters
     RowQuestions m_questions;
     std::vector<std::string> m_found; // to be said of the row if it fits
     Remarks m_remarks;

@@ -9,8 +9,6 @@
 namespace drillhole {
 
 /// One row of a source. The fields stay valid until the source is asked for its next row.
-///
-/// A field that holds nothing, not even a pair of quotes, has no data: `field.data() == nullptr`.
 struct Row {
     std::size_t firstLine = 0; ///< where it begins: the line of a file, the number of a table's row
     std::size_t lastLine = 0;  ///< where it ends; a quoted field may hold line ends

@@ -11,6 +11,7 @@
 #include <sstream>
 
 #include <boost/algorithm/string/case_conv.hpp>
+#include <boost/algorithm/string/erase.hpp>
 #include <boost/algorithm/string/replace.hpp>
 
 namespace drillhole {
@@ -22,59 +23,30 @@ namespace {
 constexpr double deepest = 15'000; // metres: no hole is deeper
 
 std::vector<Table> tablesWithoutWords() {
-    const Kind text = Kind::text;
-    const Kind number = Kind::number;
-    const Column hole = {"holename", "holename", text, true};
-    const Column from = {"fromdepth", "fromdepth", number, true, 0, deepest};
-    const Column to = {"todepth", "todepth", number, true, 0, deepest};
-    return {{"collar",
-             "Collars",
-             "collar",
-             true,
-             false,
-             {hole,
-              {"easting", "easting", number, true},
-              {"northing", "northing", number, true},
-              {"elevation", "elevation", number, false},
-              {"length", "length", number, false, 0, deepest}}},
-            {"survey",
-             "Surveys",
-             "survey",
-             false,
-             false,
-             {hole,
-              {"depth", "depth", number, true, 0, deepest},
-              {"azimuth", "azimuth", number, true, 0, 360},
-              {"dip", "dip", number, true, -90, 90}}},
-            {"assay",
-             "Assays",
-             "assay",
-             false,
-             true,
-             {hole,
-              from,
-              to,
-              {"duplicate", "duplicate", text, false},
-              {"blank", "blank", text, false},
-              {"standard", "standard", text, false}}},
-            {"lithology",
-             "Lithology",
-             "interval of lithology",
-             false,
-             true,
-             {hole,
-              from,
-              to,
-              {"code", "code", text, true},
-              {"description", "description", text, false}}}};
-}
-
-/// "Cu %" is cu_pct in the database.
-std::string sqlNameOf(std::string grade) {
-    boost::replace_all(grade, "%", "pct");
-    boost::replace_all(grade, "/", "");
-    boost::to_lower(grade, std::locale::classic());
-    return std::regex_replace(grade, std::regex("[^a-z0-9]+"), "_");
+    const Column hole = {"holename", Kind::text, true};
+    const Column from = {"fromdepth", Kind::number, true, 0, deepest};
+    const Column to = {"todepth", Kind::number, true, 0, deepest};
+    const std::vector<Column> collar = {hole,
+                                        {"easting", Kind::number, true},
+                                        {"northing", Kind::number, true},
+                                        {"elevation", Kind::number, false},
+                                        {"length", Kind::number, false, 0, deepest}};
+    const std::vector<Column> survey = {hole,
+                                        {"depth", Kind::number, true, 0, deepest},
+                                        {"azimuth", Kind::number, true, 0, 360},
+                                        {"dip", Kind::number, true, -90, 90}};
+    const std::vector<Column> lithology = {
+        hole, from, to, {"code", Kind::text, true}, {"description", Kind::text, false}};
+    const std::vector<Column> assay = {hole,
+                                       from,
+                                       to,
+                                       {"duplicate", Kind::text, false},
+                                       {"blank", Kind::text, false},
+                                       {"standard", Kind::text, false}};
+    return {{"collar", "Collars", "collar", true, false, collar},
+            {"survey", "Surveys", "survey", false, false, survey},
+            {"assay", "Assays", "assay", false, true, assay},
+            {"lithology", "Lithology", "interval of lithology", false, true, lithology}};
 }
 
 /// Parts per million in the unit that a name holds, or nothing.
@@ -88,6 +60,7 @@ std::optional<double> partsPerMillion(const std::string &name) {
     return found[1].matched ? 10'000 : found[2].matched ? 0.001 : 1;
 }
 
+/// Gives the words to every column of that name.
 bool addWords(std::vector<Table> &tables, const std::string &name,
               const std::vector<std::string> &words) {
     bool isKnown = false;
@@ -107,8 +80,8 @@ void addAll(std::vector<Table> &tables, const std::string &text) {
     std::istringstream lines(text);
     bool areGrades = false;
     for (std::string line; std::getline(lines, line);) {
+        areGrades = areGrades || line == "[grades]";
         if (trimmed(line).empty() || trimmed(line).front() == '#' || line == "[grades]") {
-            areGrades = areGrades || line == "[grades]";
             continue;
         }
         const std::size_t equals = std::min(line.find('='), line.size());
@@ -119,20 +92,25 @@ void addAll(std::vector<Table> &tables, const std::string &text) {
             continue;
         }
         const std::optional<double> unit = partsPerMillion(name);
-        if (!areGrades || !unit || !std::regex_match(name, std::regex("[A-Z][A-Za-z0-9 ]*.*"))) {
+        if (!areGrades || !unit || name.front() < 'A' || name.front() > 'Z') {
             throw Fault("The table of words has a line that makes no sense: " + quoted(line) +
                         ". Write a column's name or, below [grades], an element and its unit, then "
                         "= and the words, as in Sb ppm = Sb, antimony.");
         }
-        const auto behindGrades =
-            std::find_if(assays.begin(), assays.end(),
-                         [](const Column &each) { return each.name == "duplicate"; });
-        assays.insert(behindGrades, {name, sqlNameOf(name), Kind::number, false, 0,
-                                     1'000'000 / *unit, words, true});
+        // In front of the last three, which are no grades.
+        assays.insert(assays.end() - 3,
+                      {name, Kind::number, false, 0, 1'000'000 / *unit, words, true});
     }
 }
 
 } // namespace
+
+std::string Column::sqlName() const {
+    std::string text = boost::to_lower_copy(name, std::locale::classic());
+    boost::replace_all(text, "%", "pct");
+    boost::erase_all(text, "/");
+    return std::regex_replace(text, std::regex("[^a-z0-9]+"), "_");
+}
 
 const std::vector<Table> &holeTables(const std::string &moreWords) {
     static const std::vector<Table> tables = [&] {

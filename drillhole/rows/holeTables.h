@@ -13,8 +13,7 @@ namespace drillhole {
 enum class Kind { text, number };
 
 struct Column {
-    std::string name;    ///< as the dialog shows it
-    std::string sqlName; ///< as the database calls it
+    std::string name; ///< as the dialog shows it
     Kind kind;
     bool isRequired; ///< a row without it says nothing
     /// A number outside of these is worth a warning.
@@ -22,6 +21,9 @@ struct Column {
     double greatest = std::numeric_limits<double>::infinity();
     std::vector<std::string> words = {}; ///< what else it is called in files
     bool isGrade = false;                ///< of one element in one unit, for which no other will do
+
+    /// As the database calls it: "Cu %" is cu_pct there.
+    std::string sqlName() const;
 };
 
 /// A table of the drill holes. Its first column is the hole's name.

@@ -78,6 +78,10 @@ std::string_view numberPart(std::string_view text) {
     return text.substr(first, text.find_last_not_of(others) + 1 - first);
 }
 
+bool isWhole(std::string_view text) {
+    return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
 std::optional<double> parseNumber(std::string_view text) {
     if (text.size() > 1 && text.front() == '+' && text[1] != '-') {
         text.remove_prefix(1);

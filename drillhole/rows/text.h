@@ -31,6 +31,9 @@ std::string inQuotes(std::string_view text, char quote, char escape);
 /// The text without a degree sign behind it, and without blanks in any encoding.
 std::string_view numberPart(std::string_view text);
 
+/// Whether the text is a whole number without a sign.
+bool isWhole(std::string_view text);
+
 /// The number that the whole text is, with a decimal point, or nothing.
 std::optional<double> parseNumber(std::string_view text);
 

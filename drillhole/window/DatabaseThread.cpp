@@ -2,8 +2,6 @@
 
 #include "drillhole/window/DatabaseThread.h"
 
-#include "drillhole/database/faultText.h"
-
 #include <utility>
 
 #include <glibmm/main.h>

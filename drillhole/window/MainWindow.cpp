@@ -139,7 +139,7 @@ void MainWindow::importFrom(const ImportSource &source, const Table *table) {
     m_source.use(m_record.source.connection);
     m_source.run(
         [name = m_record.source.table](soci::session &database) {
-            return columnNames(database, nameInQuery(database, name));
+            return columnsOf(database, nameInQuery(database, name)).names;
         },
         [this](const std::vector<std::string> &columns, const std::string &fault) {
             m_progressLine.hide();

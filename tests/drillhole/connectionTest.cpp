@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 
 #include "drillhole/database/connection.h"
-#include "drillhole/database/faultText.h"
-#include "drillhole/rows/Fault.h"
 
 #include <gtest/gtest.h>
 #include <netinet/in.h>
@@ -37,13 +35,11 @@ TEST(Connection, NeverShowsItsPassword) {
     }
 }
 
-std::string faultOf(const std::string &connection) {
-    try {
-        inPlainWords(connection, [&] { *openSource(connection) << "select 1 from sqlite_master"; });
-    } catch (const Fault &fault) {
-        return fault.what();
-    }
+std::string faultOf(const std::string &connection) try {
+    inPlainWords(connection, [&] { *openSource(connection) << "select 1 from sqlite_master"; });
     return {};
+} catch (const Fault &fault) {
+    return fault.what();
 }
 
 TEST(Connection, AdvisesThePersonWhenItFails) {
