@@ -26,7 +26,8 @@ void onUserInterface(const std::function<void()> &work);
 /// Does the work of `onUserInterface` while no event loop is running.
 void handleEvents();
 
-/// From now on, two clicks within five seconds are a double click: a hand on a busy machine is slow.
+/// From now on, two clicks within five seconds are a double click: a hand on a busy machine is
+/// slow.
 void allowSlowDoubleClicks();
 
 /// Whether the dialog is shown, has the keyboard, and has its final place and size.
