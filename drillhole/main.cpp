@@ -40,7 +40,7 @@ Glib::OptionEntry entry(const char *name, const char *description) {
 }
 
 std::string usualDatabase() {
-    const std::string path = inFolder(Glib::get_user_data_dir(), "holes.sqlite");
+    std::string path = inFolder(Glib::get_user_data_dir(), "holes.sqlite");
     g_mkdir_with_parents(Glib::path_get_dirname(path).c_str(), 0777);
     return path;
 }
