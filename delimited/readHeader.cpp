@@ -3,6 +3,7 @@
 #include "delimited/readHeader.h"
 
 #include "delimited/SourceFile.h"
+#include "delimited/quotedFields.h"
 #include "delimited/splitLine.h"
 #include "names/isUtf8.h"
 

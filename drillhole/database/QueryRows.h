@@ -15,9 +15,11 @@ public:
     QueryRows(soci::session &session, const std::string &query, const std::vector<Kind> &kinds)
         : m_row(kinds.size()), m_indicators(kinds.size()), m_statement(session) {
         for (std::size_t i = 0; i < kinds.size(); ++i) {
-            kinds[i] == Kind::number
-                ? m_statement.exchange(soci::into(m_row[i].number, m_indicators[i]))
-                : m_statement.exchange(soci::into(m_row[i].text, m_indicators[i]));
+            if (kinds[i] == Kind::number) {
+                m_statement.exchange(soci::into(m_row[i].number, m_indicators[i]));
+            } else {
+                m_statement.exchange(soci::into(m_row[i].text, m_indicators[i]));
+            }
         }
         m_statement.alloc();
         m_statement.prepare(query);

@@ -34,9 +34,11 @@ RowInsertion::RowInsertion(soci::session &session, const Table &table)
         return;
     }
     for (std::size_t i = 0; i < m_row.size(); ++i) {
-        table.columns[i].kind == Kind::number
-            ? m_statement.exchange(soci::use(m_row[i].number, m_indicators[i]))
-            : m_statement.exchange(soci::use(m_row[i].text, m_indicators[i]));
+        if (table.columns[i].kind == Kind::number) {
+            m_statement.exchange(soci::use(m_row[i].number, m_indicators[i]));
+        } else {
+            m_statement.exchange(soci::use(m_row[i].text, m_indicators[i]));
+        }
     }
     m_statement.alloc();
     m_statement.prepare("insert into " + m_target + " values (" + columnList(table, ":") + ')');

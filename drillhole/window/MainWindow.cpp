@@ -144,7 +144,11 @@ void MainWindow::importFrom(const ImportSource &source, const Table *table) {
         [this](const std::vector<std::string> &columns, const std::string &fault) {
             m_progressLine.hide();
             m_record.fault = fault;
-            fault.empty() ? match(columns) : end();
+            if (fault.empty()) {
+                match(columns);
+            } else {
+                end();
+            }
         });
 }
 

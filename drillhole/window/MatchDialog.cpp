@@ -100,16 +100,30 @@ std::string groupFor(const Table &table, const ImportSource &source) {
     return table.name + (source.path.empty() ? " from table" : " from file");
 }
 
-/// Makes the file the source; or a copy of its head if something stands in front of the titles, as
-/// the dialog reads those from the first line. Gives the path of the copy.
-std::string setFile(columnimport_import *import, const CsvFile &file, const std::string &path) {
-    std::string copy;
-    if (file.preamble().lineCount > 0) {
-        close(Glib::file_open_tmp(copy, "drillhole"));
-        Glib::file_set_contents(copy, file.head());
+/// A temporary file, once it has a path.
+struct TemporaryFile {
+    std::string path;
+
+    TemporaryFile() = default;
+    TemporaryFile(const TemporaryFile &) = delete;
+    TemporaryFile &operator=(const TemporaryFile &) = delete;
+    ~TemporaryFile() {
+        if (!path.empty()) {
+            std::remove(path.c_str());
+        }
     }
-    columnimport_set_file(import, Glib::filename_to_utf8(copy.empty() ? path : copy).c_str());
-    return copy;
+};
+
+/// Makes the file the source; or a copy of its head if something stands in front of the titles, as
+/// the dialog reads those from the first line.
+void setFile(columnimport_import *import, const CsvFile &file, std::string path,
+             TemporaryFile &copy) {
+    if (file.preamble().lineCount > 0) {
+        close(Glib::file_open_tmp(copy.path, "drillhole"));
+        Glib::file_set_contents(copy.path, file.head());
+        path = copy.path;
+    }
+    columnimport_set_file(import, Glib::filename_to_utf8(path).c_str());
 }
 
 } // namespace
@@ -123,12 +137,12 @@ std::optional<Match> matchColumns(Gtk::Window &owner, const Settings &settings, 
         importInto(table, isFile ? std::string(Glib::filename_display_basename(source.path))
                                  : "table " + source.table);
     columnimport_import *import = owned.get();
-    std::string copy;
+    TemporaryFile copy;
     std::optional<FileStamp> stamp;
     if (isFile) {
         const CsvFile file(source.path, ',');
         stamp = file.stamp();
-        copy = setFile(import, file, source.path);
+        setFile(import, file, source.path, copy);
         const std::string kept = settings.text(group, "delimiter");
         const std::int32_t likely = columnimport_likely_delimiter(import);
         const char usual = kept.empty() ? ',' : kept[0];
@@ -150,7 +164,6 @@ std::optional<Match> matchColumns(Gtk::Window &owner, const Settings &settings, 
         guesses = openAsKept(import, matchOf(import), settings, group);
         outcome = columnimport_show(import, owner.gobj());
     }
-    std::remove(copy.c_str());
     if (outcome == columnimport_cancelled) {
         return std::nullopt;
     }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 
-// The functions that create, fill and free an import, and the library's version.
+// The functions that fill an import.
 
 #include "host/c/Import.h"
 
@@ -52,36 +52,6 @@ typename List::reference entryOf(const ImportRequest &request, List &list, std::
 }
 
 } // namespace
-
-const char *columnimport_version() {
-    return COLUMNIMPORT_VERSION;
-}
-
-void columnimport_version_numbers(std::int32_t *major, std::int32_t *minor, std::int32_t *patch) {
-    constexpr std::int32_t numbers[] = {COLUMNIMPORT_VERSION_NUMBERS};
-    std::int32_t *const targets[] = {major, minor, patch};
-    for (std::size_t i = 0; i < 3; ++i) {
-        if (targets[i] != nullptr) {
-            *targets[i] = numbers[i];
-        }
-    }
-}
-
-columnimport_import *columnimport_new() {
-    return new (std::nothrow) columnimport_import;
-}
-
-void columnimport_free(columnimport_import *import) {
-    if (import != nullptr && import->isOpen) {
-        import->isUnwanted = true;
-    } else {
-        delete import;
-    }
-}
-
-const char *columnimport_message(columnimport_import *import) {
-    return import == nullptr ? "There is no import: the pointer is null." : import->message;
-}
 
 std::int32_t columnimport_set_title(columnimport_import *import, const char *title) {
     return fill(import, [&](ImportRequest &request) { request.title = hostsWord(title); });

@@ -78,15 +78,15 @@ bool isButtonDown(int button) {
 bool waitUntilSeen(const std::function<bool()> &isSeen,
                    std::chrono::milliseconds patience = std::chrono::milliseconds(500)) {
     const auto end = std::chrono::steady_clock::now() + patience;
-    bool isIt = false;
+    bool wasSeen = false;
     const auto isSettled = [&] {
-        isIt = isDialogOpen() && isSeen();
-        return isIt || !isDialogOpen() || isDragRunning();
+        wasSeen = isDialogOpen() && isSeen();
+        return wasSeen || !isDialogOpen() || isDragRunning();
     };
     while (!read(isSettled) && std::chrono::steady_clock::now() < end) {
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
-    return isIt;
+    return wasSeen;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 
+#include "delimited/quotedFields.h"
 #include "delimited/splitLine.h"
 
 #include <algorithm>

@@ -35,11 +35,13 @@ TEST(Connection, NeverShowsItsPassword) {
     }
 }
 
-std::string faultOf(const std::string &connection) try {
-    inPlainWords(connection, [&] { *openSource(connection) << "select 1 from sqlite_master"; });
-    return {};
-} catch (const Fault &fault) {
-    return fault.what();
+std::string faultOf(const std::string &connection) {
+    try {
+        inPlainWords(connection, [&] { *openSource(connection) << "select 1 from sqlite_master"; });
+        return {};
+    } catch (const Fault &fault) {
+        return fault.what();
+    }
 }
 
 TEST(Connection, AdvisesThePersonWhenItFails) {

@@ -24,19 +24,21 @@ std::string fileOf(std::string_view text) {
 
 /// The rows as "1:[a][b]", with the lines in front and "!" behind one that is refused, or why the
 /// file is.
-std::string cut(std::string_view text, char delimiter) try {
-    CsvFile file(fileOf(text), delimiter);
-    std::string rows;
-    for (Row row; file.next(row); rows += ' ') {
-        rows += linesOf(row.firstLine, row.lastLine) + ':';
-        for (const std::string_view field : row.fields) {
-            rows += '[' + std::string(field.substr(0, 9)) + ']';
+std::string cut(std::string_view text, char delimiter) {
+    try {
+        CsvFile file(fileOf(text), delimiter);
+        std::string rows;
+        for (Row row; file.next(row); rows += ' ') {
+            rows += linesOf(row.firstLine, row.lastLine) + ':';
+            for (const std::string_view field : row.fields) {
+                rows += '[' + std::string(field.substr(0, 9)) + ']';
+            }
+            rows += row.refusal != nullptr ? "!" : "";
         }
-        rows += row.refusal != nullptr ? "!" : "";
+        return rows;
+    } catch (const Fault &fault) {
+        return fault.what();
     }
-    return rows;
-} catch (const Fault &fault) {
-    return fault.what();
 }
 
 TEST(CsvFile, CutsRowsAndCountsLines) {
