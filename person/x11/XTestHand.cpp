@@ -2,12 +2,14 @@
 
 #include "person/x11/XTestHand.h"
 
+#include "person/Screen.h"
 #include "person/UserInterface.h"
 #include "person/gtk/keysymOf.h"
 #include "person/openDialog.h"
 
 #include <X11/XKBlib.h>
 #include <X11/extensions/XTest.h>
+#include <gdk/gdk.h>
 
 XTestHand::XTestHand() : m_display(XOpenDisplay(nullptr)) {
     if (m_display == nullptr) {
@@ -23,7 +25,29 @@ void XTestHand::send() {
     XSync(m_display, False);
 }
 
+// A window manager first moves a dialog that is higher than the screen to the top, and then to
+// where the program wants it. It answers a question about any window when it has done all of that.
+void XTestHand::waitForWindowManager() {
+    onUserInterface([] { gdk_display_sync(gdk_display_get_default()); });
+    const Window root = DefaultRootWindow(m_display);
+    const Window window = XCreateSimpleWindow(m_display, root, 0, 0, 1, 1, 0, 0, 0);
+    XSelectInput(m_display, window, PropertyChangeMask);
+    XEvent question{};
+    question.xclient.type = ClientMessage;
+    question.xclient.window = window;
+    question.xclient.message_type = XInternAtom(m_display, "_NET_REQUEST_FRAME_EXTENTS", False);
+    question.xclient.format = 32;
+    XSendEvent(m_display, root, False, SubstructureNotifyMask | SubstructureRedirectMask,
+               &question);
+    poll("the window manager answers", [&] {
+        XEvent answer;
+        return XCheckWindowEvent(m_display, window, PropertyChangeMask, &answer) == True;
+    });
+    XDestroyWindow(m_display, window);
+}
+
 void XTestHand::findDialog() {
+    waitForWindowManager();
     m_dialog = read([] { return openDialog().ClientToScreen(wxPoint()); });
 }
 

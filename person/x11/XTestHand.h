@@ -20,6 +20,7 @@ public:
 
 private:
     void send();
+    void waitForWindowManager();
 
     _XDisplay *m_display;
     wxPoint m_dialog;
